@@ -1,0 +1,67 @@
+# The front door; everything else is CMake (see CMakePresets.json).
+.PHONY: build setup demo test bench pictures install clean format check-format asan fuzz load deb test-packages
+JOBS ?= $(shell nproc)
+SOURCES = $(shell git ls-files '*.cpp' '*.h')
+
+build:
+	@cmake --preset release >/dev/null
+	@cmake --build --preset release -j $(JOBS)
+
+setup:
+	@Tools/setup-debian
+
+demo: setup
+	@$(MAKE) --no-print-directory build
+	@ZARVO_BIN=build/bin ZARVO_SOURCE=. python3 Tools/demo.py demo-output
+
+test: setup
+	@$(MAKE) --no-print-directory build
+	@ctest --preset release -j $(JOBS)
+
+bench: build
+	@cmake --build --preset release --target bench
+
+install: build
+	@cmake --install build --strip
+
+# Debian packages in build/deb/.
+deb: build
+	@Tools/build-deb build build/deb
+
+# Builds the packages, installs them on a bare Debian 12 in a folder of its own and prints.
+test-packages: deb
+	@ctest --preset release -C Package -R '^package$$'
+
+# The tests once more, every program with the address and undefined-behaviour sanitizers.
+asan:
+	@cmake --preset asan >/dev/null
+	@cmake --build --preset asan -j $(JOBS)
+	@ctest --preset asan -j $(JOBS)
+
+# The pictures in docs/, drawn by what has been built.
+pictures: build
+	@ZARVO_BIN=build/bin python3 Tools/sample-fax-cover.py docs/fax-cover.png
+	@ZARVO_BIN=build/bin python3 Tools/sample-printing.py docs/printing-watermarks.png \
+	  docs/printing-booklet.png
+	@ZARVO_BIN=build/bin python3 Tools/sample-preview.py build/ppd/zarvo.ppd docs/preview-booklet.png
+
+# Every decoder against made-up input, each for that many seconds of processor time.
+FUZZ_SECONDS ?= 60
+fuzz: setup
+	@cmake --preset fuzz >/dev/null
+	@cmake --build --preset fuzz -j $(JOBS)
+	@python3 fuzz/run.py --seconds $(FUZZ_SECONDS) build-fuzz
+
+# Hundreds of jobs through a spooler and thousands of processes at once.
+load: build
+	@cd tests/system && ZARVO_LOAD=full ZARVO_BIN=$(CURDIR)/build/bin ZARVO_SOURCE=$(CURDIR) \
+	  python3 test_load.py
+
+format:
+	clang-format-14 -i $(SOURCES)
+
+check-format:
+	@clang-format-14 --dry-run -Werror $(SOURCES)
+
+clean:
+	rm -rf build build-debug build-asan build-fuzz demo-output
