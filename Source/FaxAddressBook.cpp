@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: Apache-2.0
+// How fax recipients are kept in the user's address book.
+#include <algorithm>
+#include <cctype>
+#include <optional>
+#include <string>
+
+#include "Platform/AddressBook.h"
+#include "Source/Fax.h"
+
+namespace zarvo {
+namespace {
+
+/// kZMailboxABProperty under the name that a card can hold.
+constexpr const char* kMailboxCardProperty = "X-ZARVO-MAILBOX";
+
+/// What desktop programs list the person by: a card without a name is shown as an empty line, and
+/// a recipient may well have a number only.
+std::string CardName(const FaxRecipient& recipient) {
+  for (const std::string* text : {recipient.firstName(), recipient.organization(),
+                                  recipient.emailAddress(), recipient.faxNumber()}) {
+    if (text != nullptr && !text->empty()) return *text;
+  }
+  return "Fax";
+}
+
+/// Part `index` of a value that has parts, such as N.
+std::optional<std::string> Component(const VCard& card, std::string_view name, int index) {
+  for (const VCardProperty& property : card.properties) {
+    if (!property.Is(name)) continue;
+    std::string_view rest = property.value;
+    std::size_t start = 0;
+    for (std::size_t at = 0; at <= rest.size(); ++at) {
+      if (at < rest.size() && rest[at] == '\\') {
+        ++at;  // the character after it is no separator
+      } else if (at == rest.size() || rest[at] == ';') {
+        if (index-- == 0) return VCardText(rest.substr(start, at - start));
+        start = at + 1;
+      }
+    }
+    return std::nullopt;
+  }
+  return std::nullopt;
+}
+
+/// The first telephone number that is, or is not, a fax number.
+std::optional<std::string> TelephoneNumber(const VCard& card, bool fax) {
+  for (const VCardProperty& property : card.properties) {
+    if (!property.Is("TEL")) continue;
+    std::string head = property.head;
+    std::transform(head.begin(), head.end(), head.begin(),
+                   [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
+    if ((head.find("FAX") != std::string::npos) == fax) return VCardText(property.value);
+  }
+  return std::nullopt;
+}
+
+}  // namespace
+
+FaxRecipient FaxRecipientFromCard(const VCard& card) {
+  FaxRecipient recipient;
+  const auto set = [&recipient](void (FaxRecipient::*setter)(const std::string*),
+                                const std::optional<std::string>& text) {
+    if (text && !text->empty()) (recipient.*setter)(&*text);
+  };
+  set(&FaxRecipient::setFirstName, Component(card, "N", 1));
+  set(&FaxRecipient::setLastName, Component(card, "N", 0));
+  set(&FaxRecipient::setFaxNumber, TelephoneNumber(card, true));
+  set(&FaxRecipient::setPhoneNumber, TelephoneNumber(card, false));
+  set(&FaxRecipient::setEmailAddress, VCardFindText(card, "EMAIL"));
+  set(&FaxRecipient::setOrganization, Component(card, "ORG", 0));
+  set(&FaxRecipient::setMailbox, VCardFindText(card, kMailboxCardProperty));
+  set(&FaxRecipient::setUID, VCardFindText(card, "UID"));
+  return recipient;
+}
+
+bool FaxRecipient::commitToAddressBook() {
+  VCard card = MakePersonCard(CardName(*this), _firstName.value_or(""));
+  const auto add = [&card](const char* head, const Text& text) {
+    if (text) card.properties.push_back({head, VCardValue(*text)});
+  };
+  add("TEL;TYPE=WORK,FAX", _faxNumber);
+  add("TEL;TYPE=WORK,VOICE", _phoneNumber);
+  add("EMAIL;TYPE=WORK,INTERNET", _emailAddress);
+  add("ORG", _organization);
+  add(kMailboxCardProperty, _mailbox);
+  const std::optional<AddressBookRecord> record = AddressBookAdd(std::move(card));
+  if (!record) return false;
+  const std::string uid = record->uid();
+  setUID(&uid);
+  return true;
+}
+
+std::optional<AddressBookRecord> FaxRecipient::abRecord() const {
+  return _uid ? AddressBookFind(*_uid) : std::nullopt;
+}
+
+bool FaxRecipientList::saveAsABGroupWithName(const std::string& name) {
+  std::optional<AddressBookRecord> group = AddressBookAdd(MakeGroupCard(name));
+  if (!group) return false;
+  bool complete = true;
+  for (FaxRecipient* recipient : _recipients) {
+    if (recipient->uid() == nullptr) recipient->commitToAddressBook();
+    if (const auto member = recipient->abRecord()) {
+      AddGroupMember(&group->card, member->uid());
+    } else {
+      complete = false;
+    }
+  }
+  return AddressBookSave(*group) && complete;
+}
+
+}  // namespace zarvo
