@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "CUPSFilter/JTML/JTML.h"
+
+#include "CUPSFilter/JTML/Sections.h"
+#include "CUPSFilter/jtmlgen/JtmlWriters.h"
+#include "Source/CFAdditions.h"
+
+namespace zarvo {
+
+const _WRITEDATA writeData = {nullptr, &DevWriteJtml};
+
+namespace {
+
+constexpr char kFrontCover[] = "com.zarvo.print.SpecialPages.FrontCover";
+constexpr char kBackCover[] = "com.zarvo.print.SpecialPages.BackCover";
+constexpr char kInsertList[] = "com.zarvo.print.SpecialPages.InsertList";
+constexpr char kExceptionList[] = "com.zarvo.print.SpecialPages.ExceptionList";
+/// The version of the document type that every supported printer reads.
+constexpr int kDocumentTypeVersion = 5;
+
+/// A section, and the key of the dictionary that it is given; null for the whole ticket.
+struct Section {
+  void (*write)(const Dictionary&);
+  const char* options;
+};
+
+// The order is the ticket format's.
+constexpr Section kSections[] = {
+    {&WriteJTMLFinishing, nullptr},
+    {&WriteJTMLJobNotes, nullptr},
+    {&WriteJTMLJobType, nullptr},
+    {&WriteJTMLDuplex, nullptr},
+    {&WriteJTMLOutputDestination, nullptr},
+    {&WriteJTMLResolution, nullptr},
+    // Highlight colours count at the top level of the ticket as well as in their dictionary.
+    {&WriteJTMLHighlightColor, nullptr},
+    {&WriteJTMLImageShift, "com.zarvo.print.ImageShiftOptionsJob"},
+    {&WriteJTMLHighlightColor, "com.zarvo.print.HighlightColorOptionsJob"},
+    {&WriteJTMLFullColor, "com.zarvo.print.FullColorOptions"},
+    {&WriteJTMLOPISubsitution, nullptr},
+    {&WriteJTMLOPIPreScan, nullptr},
+    {&WriteJTMLAntiAliasing, nullptr},
+    {&WriteJTMLHalftone, nullptr},
+    {&WriteJTMLLightenDarken, nullptr},
+    {&WriteJTMLTonerSaver, nullptr},
+    {&WriteJTMLOutputOrder, nullptr},
+    {&WriteJTMLPrinterEmulation, nullptr},
+    {&WriteJTMLImageRotation, nullptr},
+    {&WriteJTMLOutputColor, nullptr},
+    {&WriteJTMLBackgroundForms, nullptr},
+    {&WriteJTMLAccounting, nullptr},
+    {&WriteJTMLPagesToPrint, nullptr},
+};
+
+void WriteSection(const Section& section, const Dictionary& ticket) {
+  const Dictionary* options =
+      section.options != nullptr ? DictionaryGetDictionary(ticket, section.options) : &ticket;
+  if (options != nullptr) section.write(*options);
+}
+
+}  // namespace
+
+void WriteJTML(std::FILE* ofp, const Dictionary& ticket) {
+  const Dictionary* options = DictionaryGetDictionary(ticket, "com.zarvo.print.JTMLOptions");
+  if (options == nullptr) return;
+  jtml_ofp = ofp;
+
+  // An option counts by being there, whatever its value.
+  const bool all = DictionaryContains(*options, "JTMLOptionAll");
+  const bool covers = DictionaryContains(*options, "JTMLOptionCovers");
+  const bool inserts = DictionaryContains(*options, "JTMLOptionInserts");
+  const bool exceptions = DictionaryContains(*options, "JTMLOptionExceptions");
+  const auto has = [&ticket](const char* key) { return DictionaryContains(ticket, key); };
+  const bool writeJTMLHeaderAndFooter = all || (covers && (has(kFrontCover) || has(kBackCover))) ||
+                                        (inserts && has(kInsertList)) ||
+                                        (exceptions && has(kExceptionList));
+
+  if (writeJTMLHeaderAndFooter) WriteJtmlHeader(&writeData, kDocumentTypeVersion);
+  if (all) WriteJTMLJobNameAndUser(ticket);
+  if (writeJTMLHeaderAndFooter) WriteJtmlJobAttribStart(&writeData);
+  if (all) WriteJTMLJobLevelStock(ticket);
+  if (all || covers) {
+    WriteJTMLFrontCover(ticket);
+    WriteJTMLBackCover(ticket);
+  }
+  if (all || inserts) WriteJTMLInserts(ticket);
+  if (all || exceptions) WriteJTMLExceptions(ticket);
+  if (all) {
+    for (const Section& section : kSections) WriteSection(section, ticket);
+  }
+  if (writeJTMLHeaderAndFooter) {
+    WriteJtmlJobAttribEnd(&writeData);
+    WriteJtmlTrailer(&writeData);
+  }
+}
+
+}  // namespace zarvo

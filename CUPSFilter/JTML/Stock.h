@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: Apache-2.0
+// Stock dictionaries of the ticket.
+#pragma once
+
+#include "CUPSFilter/JTML/TicketReading.h"
+#include "CUPSFilter/jtmlgen/Jtmlgen.h"
+#include "Platform/Value.h"
+
+namespace zarvo {
+
+/// The medium that a stock dictionary describes. A number out of its range and a value of a wrong
+/// type leave their field unset; a stock without a size has that of the page. The record's texts
+/// live in `texts`.
+_MEDIADATA MediaFromStock(const Dictionary& stock, EscapedTexts* texts);
+
+}  // namespace zarvo

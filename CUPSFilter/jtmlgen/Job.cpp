@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "CUPSFilter/jtmlgen/Emit.h"
+#include "CUPSFilter/jtmlgen/JtmlWriters.h"
+
+namespace zarvo {
+namespace {
+
+enum JobType { kNoDisposition = 0, kHold = 1, kSaveOnly = 2, kPrintAndSave = 3, kPlain = 4 };
+
+constexpr Keyword kSaveDispositions[] = {
+    {kNoDisposition, "none"}, {kSaveOnly, "save-only"}, {kPrintAndSave, "print-save"}};
+constexpr Keyword kSaveFormats[] = {{0, "application/X-single-page-tiff"},
+                                    {1, "application/X-multi-page-tiff"},
+                                    {2, "application/pdf"},
+                                    {3, "application/X-fast-reprint"},
+                                    {4, "application/X-fast-reprint-and-dri"}};
+
+/// A text of any length, in three pieces.
+void SendText(LPWRITEDATA sink, const char* name, const char* text) {
+  if (text == nullptr) return;
+  Send(sink, "\t\t" + OpenTag(name, Syntax::kText));
+  Send(sink, text);
+  Send(sink, EndLine(0, name));
+}
+
+}  // namespace
+
+JtmlGenError WriteJtmlJobNotes(LPWRITEDATA lpWriteData, LPJOBNOTEDATA lpJobNoteData) {
+  SendText(lpWriteData, "job-message-to-operator", lpJobNoteData->strJobMsg);
+  if (lpJobNoteData->strJobRecipient != nullptr) {
+    Send(lpWriteData,
+         Element(2, "job-recipient-name", Syntax::kName, lpJobNoteData->strJobRecipient));
+  }
+  SendText(lpWriteData, "job-sheet-message", lpJobNoteData->strJobSheetMsg);
+  SendText(lpWriteData, "job-accounting-data", lpJobNoteData->strJobAdditionalInfo);
+  return JTML_SUCCESS;
+}
+
+JtmlGenError WriteJtmlJobTypes(LPWRITEDATA lpWriteData, LPJOBDATA lpJobData) {
+  const int type = lpJobData->nJobType;
+  const bool collection = type != kHold && type != kPlain;
+  std::string text;
+  if (collection) text = StartLine(2, "job-save-disposition", Syntax::kCollection);
+  if (type == kHold) text = Element(3, "job-hold-until", Syntax::kKeyword, "indefinite");
+  if (const char* disposition = FindKeyword(kSaveDispositions, type)) {
+    text += Element(3, "save-disposition", Syntax::kKeyword, disposition);
+  }
+  if (!text.empty()) Send(lpWriteData, text);
+
+  if (type == kSaveOnly || type == kPrintAndSave) {
+    const char* format = FindKeyword(kSaveFormats, lpJobData->nMIMEMediaType);
+    Send(lpWriteData,
+         StartLine(3, "save-info", Syntax::kSetOf) + StartLine(4, "value", Syntax::kCollection) +
+             Element(5, "save-location", Syntax::kUri, TextOrEmpty(lpJobData->strSavedLocation)) +
+             Element(5, "save-name", Syntax::kName, TextOrEmpty(lpJobData->strSavedJobName)) +
+             (format != nullptr ? Element(5, "save-document-format", Syntax::kMimeMediaType, format)
+                                : "") +
+             EndLine(4, "value") + EndLine(3, "save-info"));
+  }
+  if (collection) Send(lpWriteData, EndLine(2, "job-save-disposition"));
+  return JTML_SUCCESS;
+}
+
+JtmlGenError WriteJtmlAccounting(LPWRITEDATA lpWriteData, const char* inUserID,
+                                 const char* inAccountID) {
+  SendUncounted(lpWriteData,
+                Element(2, "job-accounting-user-id", Syntax::kName, TextOrEmpty(inUserID)));
+  // The two tags do not match; the printer reads the element this way.
+  SendUncounted(lpWriteData, "\t\t" + OpenTag("job-account-id", Syntax::kName) +
+                                 TextOrEmpty(inAccountID) + EndLine(0, "job-accounting-id"));
+  return JTML_SUCCESS;
+}
+
+JtmlGenError WriteJtmlPageRanges(LPWRITEDATA lpWriteData, std::int32_t fromPage,
+                                 std::int32_t toPage) {
+  SendUncounted(lpWriteData, StartLine(2, "page-ranges", Syntax::kSetOf) +
+                                 StartLine(3, "value", Syntax::kRangeOfInteger));
+  SendUncounted(lpWriteData, Element(4, "lower-bound", fromPage));
+  SendUncounted(lpWriteData, Element(4, "upper-bound", toPage));
+  SendUncounted(lpWriteData, EndLine(3, "value") + EndLine(2, "page-ranges"));
+  return JTML_SUCCESS;
+}
+
+}  // namespace zarvo

@@ -1,0 +1,161 @@
+// SPDX-License-Identifier: Apache-2.0
+// The records that carry values to the writers of the printer's XML job ticket (JTML), and the
+// sink that every writer writes to. The codes in them are those of the ticket format's keywords.
+//
+// Conventions of all records: texts are zero-terminated UTF-8, already escaped for XML, owned by
+// the caller, and must outlive the call; a null text is not set. A freshly made record has nothing
+// set: an `int` is -1, a full-colour (`fc`) number is kNotSet, a text is null.
+#pragma once
+
+#include <cstdint>
+#include <cstdio>
+
+#include "Source/Mappings.h"
+
+namespace zarvo {
+
+/// The result of every writer. A writer always gives JTML_SUCCESS: output errors show on the
+/// stream, and a value that the format has no word for is left out of the ticket.
+enum JtmlGenError { JTML_SUCCESS = 0, JTML_INVALID_KEY, JTML_INVALID_VALUE, JTML_ERROR };
+using _JtmlGenError = JtmlGenError;
+
+/// Writes `iNum` bytes of `lpcsData`. Some writers pass a null context and a length of 0, so a
+/// sink must go by the terminating zero of the text, not by the length.
+using JTMLWRITE = std::int32_t (*)(void* lpdv, const char* lpcsData, std::int32_t iNum);
+
+/// The sink: a function and the context handed back to it.
+struct _WRITEDATA {
+  void* lpdv = nullptr;
+  JTMLWRITE lpfnDevWriteData = nullptr;
+};
+using LPWRITEDATA = const _WRITEDATA*;
+
+/// The stream of DevWriteJtml, set before the first writer is called. Not owned.
+extern std::FILE* jtml_ofp;
+
+/// The sink function of the filter: writes the whole zero-terminated text to jtml_ofp and returns
+/// what fputs returns. The context and the length are ignored.
+std::int32_t DevWriteJtml(void* lpdv, const char* lpcsData, std::int32_t iNum);
+
+/// Finishing: choice codes, or the name of a finishing template that replaces them all.
+struct _FINISHERDATA {
+  int nStapleOptions = -1;
+  int nFoldOptions = -1;  ///< folding, booklet and binding
+  int nHolePunchOptions = -1;
+  int nHolePunchNumHoles = -1;  ///< read only with a punch choice
+  const char* szFinishingStr = nullptr;
+};
+using LPFINISHERDATA = const _FINISHERDATA*;
+
+/// Notes that travel with the job.
+struct _JOBNOTEDATA {
+  const char* strJobMsg = nullptr;  ///< to the operator
+  const char* strJobRecipient = nullptr;
+  const char* strJobSheetMsg = nullptr;        ///< on the banner sheet
+  const char* strJobAdditionalInfo = nullptr;  ///< written as accounting data
+};
+using LPJOBNOTEDATA = const _JOBNOTEDATA*;
+
+/// Printer resolution across and along the feed direction, in units of code `nUnit` (3: dots per
+/// inch).
+struct _RESOLUTIONDATA {
+  int nCrossFeed = 0;
+  int nFeedDir = 0;
+  int nUnit = 0;
+};
+using LPRESOLUTIONDATA = const _RESOLUTIONDATA*;
+
+/// Width and height of a medium in hundredths of a millimetre; 0 is not set.
+struct _XSIZE {
+  std::uint32_t cx = 0;
+  std::uint32_t cy = 0;
+};
+using XSIZE = _XSIZE;
+
+/// A medium.
+struct _MEDIADATA {
+  int nMediaType = -1;
+  int nMediaColor = -1;
+  int nOrderCount = -1;  ///< sheets in an ordered set of tabs
+  int nHoleCount = -1;
+  int nPrePrinted = -1;
+  int nRecycledType = -1;
+  const char* strMediaType = nullptr;   ///< a type given by name
+  const char* strMediaColor = nullptr;  ///< a colour given by name
+  const char* strMediaDescription = nullptr;
+  int nWeight = -1;  ///< grams per square metre
+  XSIZE MediaSize;
+  int nFinish = -1;
+  int nGrain = -1;
+  int nSidesCoated = -1;  ///< 2 front, 3 back, anything else both
+  int nCoatingType = -1;
+  const char* strMediaName = nullptr;
+  int nSource = -1;  ///< 0 post-fuser inserter, 1 and up a tray
+};
+using LPMEDIADATA = const _MEDIADATA*;
+
+/// The settings of a page exception, or the colour settings of the whole job.
+struct _PAGEDATA {
+  int nInDocUB = -1, nInDocLB = -1;
+  std::int32_t nPagesUB = -1, nPagesLB = -1;  ///< pages count from 1
+  bool bIsLightenDark = false;                ///< nAdjustLightness holds a value
+  int nAdjustLightness = -1;
+  bool bImageShift = false;  ///< the four shifts hold values
+  std::int32_t nXSide1ImgShift = 0, nXSide2ImgShift = 0;
+  std::int32_t nYSide1ImgShift = 0, nYSide2ImgShift = 0;
+  int nSides = -1;
+
+  int hlcPrintingColor = -1;
+  int hlcMappingColor = -1;
+  int hlcMismatchAction = -1;
+  int hlcMappingAlgorithm = -1;
+  bool isRGB = false;  ///< the custom colour is in hlcRGB, else in hlcHSV
+  int hlcRGB[3] = {};
+  int hlcHSV[3] = {};
+
+  std::int32_t fcLightness = kNotSet, fcContrast = kNotSet, fcSaturation = kNotSet;
+  std::int32_t fcCyanRed = kNotSet, fcMagentaGreen = kNotSet, fcYellowBlue = kNotSet;
+  std::int32_t fcTrapping = kNotSet;
+  std::int32_t fcTrappingFastDirection = kNotSet, fcTrappingSlowDirection = kNotSet;
+  std::int32_t fcBlackOverprint = kNotSet;
+  const char* fcTRC = nullptr;  ///< name of a tone reproduction curve
+  // A source or destination profile is given by code or by name; "Images" is for images,
+  // "TextGraphics" for text and graphics.
+  std::int32_t fcRGBImagesNumber = kNotSet;
+  const char* fcRGBImagesString = nullptr;
+  std::int32_t fcRGBTextGraphicsNumber = kNotSet;
+  const char* fcRGBTextGraphicsString = nullptr;
+  std::int32_t fcCMYKImagesNumber = kNotSet;
+  const char* fcCMYKImagesString = nullptr;
+  std::int32_t fcCMYKTextGraphicsNumber = kNotSet;
+  const char* fcCMYKTextGraphicsString = nullptr;
+  const char* fcGrayImagesString = nullptr;
+  const char* fcGrayTextGraphicsString = nullptr;
+  std::int32_t fcDestinationNumber = kNotSet;
+  const char* fcDestinationString = nullptr;
+  std::int32_t fcImageRendering = kNotSet, fcTextRendering = kNotSet;
+  std::int32_t fcGraphicsRendering = kNotSet;
+  std::int32_t fcAntiAliasing = kNotSet, fcHalftone = kNotSet, fcOutputColor = kNotSet;
+};
+using LPPAGEDATA = const _PAGEDATA*;
+
+/// How the printer keeps or holds the job.
+struct _JOBDATA {
+  int nJobType = -1;
+  int nMIMEMediaType = -1;
+  const char* strSavedJobName = nullptr;
+  const char* strSavedLocation = nullptr;  ///< a URI
+};
+using LPJOBDATA = const _JOBDATA*;
+
+/// Background forms: storing the job as a form, or printing a stored form behind it.
+struct _BGFORMSDATA {
+  const char* strNewFormName = nullptr;
+  const char* strExistingFormName = nullptr;
+  int nCyclePages = 0;
+  std::int32_t nXSide1ImgShift = 0;
+  std::int32_t nYSide1ImgShift = 0;
+};
+using LPBGFORMSDATA = const _BGFORMSDATA*;
+
+}  // namespace zarvo
