@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: Apache-2.0
+// Where the job goes: a stream for the writers of single lines, and a short way to the file
+// descriptor for large pieces of the input.
+#pragma once
+
+#include <sys/types.h>
+
+#include <cstddef>
+#include <cstdio>
+#include <string_view>
+
+namespace zarvo {
+
+/// Wraps a stream that it does not own. It remembers the first failed write, so that a cut job can
+/// be told from a whole one at the end.
+class JobOutput {
+ public:
+  explicit JobOutput(FILE* stream);
+
+  /// For formatted writes; they keep their order with Write.
+  FILE* stream() const { return stream_; }
+
+  /// Writes the bytes. Large pieces go to the file descriptor without another copy.
+  void Write(std::string_view bytes);
+
+  /// Moves up to `size` bytes from a file descriptor without taking them through this process,
+  /// where the system can; `offset` is where they stand in a regular file, or null for a pipe.
+  /// Returns how many were moved: fewer than `size` at the end of the input, after a failed write,
+  /// or (then 0) when the system cannot, or not faster; the caller copies the rest.
+  std::size_t Transfer(int from, const off_t* offset, std::size_t size);
+
+  /// Writes out what is buffered. Returns 0, or the system's error number of the first write that
+  /// failed since the stream was wrapped.
+  int Flush();
+
+  /// Counts as a failed write: something that belongs here cannot be had any more.
+  void Fail(int error);
+
+  /// The error number of the first failed write so far, or 0.
+  int error();
+
+ private:
+  void WriteThrough(std::string_view bytes);
+
+  FILE* stream_;
+  int error_ = 0;
+  bool can_transfer_;  // until the system says otherwise
+};
+
+}  // namespace zarvo

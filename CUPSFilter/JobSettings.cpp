@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "CUPSFilter/JobSettings.h"
+
+#include <cmath>
+
+#include "CUPSFilter/MediaSize.h"
+#include "CUPSFilter/common.h"
+#include "Source/CFAdditions.h"
+
+namespace zarvo {
+namespace {
+
+constexpr std::size_t kLongestSides = 127;
+constexpr double kPointsPerInch = 72;
+constexpr double kHundredthsMillimetrePerInch = 2540;
+
+int HundredthsToPoints(std::uint32_t hundredths) {
+  return static_cast<int>(
+      std::nearbyint(kPointsPerInch * hundredths / kHundredthsMillimetrePerInch));
+}
+
+void ReadBooklet(const Dictionary& ticket, JobSettings* settings) {
+  settings->booklet = DictionaryGetBoolean(ticket, "com.zarvo.print.BookletLayout") == true;
+  if (!settings->booklet ||
+      DictionaryGetBoolean(ticket, "com.zarvo.print.BookletForceNewSize") != true)
+    return;
+  if (const Dictionary* stock = DictionaryGetDictionary(ticket, "com.zarvo.print.JobLevelStock")) {
+    _MEDIADATA media;
+    FillMediaSize(&media, *stock);
+    settings->mediaWidth = HundredthsToPoints(media.MediaSize.cx);
+    settings->mediaLength = HundredthsToPoints(media.MediaSize.cy);
+  }
+}
+
+/// The entry of the stored list that a 1-based index names; nothing past the list's end or where
+/// the entry is no text.
+std::optional<std::string> WatermarkAtIndex(std::int32_t index) {
+  Array names;
+  if (loadWatermarkList(kWatermarkCollection, nullptr, &names) == 0) return std::nullopt;
+  const auto position = static_cast<std::size_t>(index) - 1;
+  const std::string* name = position < names.size() ? names[position].AsString() : nullptr;
+  return name != nullptr ? std::optional<std::string>(*name) : std::nullopt;
+}
+
+std::optional<WatermarkChoice> ReadWatermark(const Dictionary& ticket) {
+  WatermarkChoice choice;
+  std::optional<std::string> name;
+  std::int32_t first_page_only = 0;
+  if (DictionaryContains(ticket, "com.zarvo.print.watermark.Watermark")) {
+    if (const std::string* chosen =
+            DictionaryGetString(ticket, "com.zarvo.print.watermark.Watermark"))
+      name = *chosen;
+    CFDictionaryGetNumber(ticket, "com.zarvo.print.watermark.Option", &choice.watermark_option);
+    CFDictionaryGetNumber(ticket, "com.zarvo.print.watermark.FirstPageOnly", &first_page_only);
+  } else {
+    std::int32_t index = 1;  // the list's first entry stands for "none"
+    CFDictionaryGetNumber(ticket, "com.zarvo.WMS.ZRVWM", &index);
+    if (index < 2) return std::nullopt;
+    if (DictionaryContains(ticket, "com.zarvo.WMS.ZRVWMFg")) {
+      std::int32_t foreground = 0;
+      CFDictionaryGetNumber(ticket, "com.zarvo.WMS.ZRVWMFg", &foreground);
+      choice.watermark_option = foreground != 0 ? kWatermarkForeground : kWatermarkBackground;
+    }
+    CFDictionaryGetNumber(ticket, "com.zarvo.WMS.ZRVWMFPage", &first_page_only);
+    name = WatermarkAtIndex(index);
+  }
+  if (!name) return std::nullopt;
+  choice.watermarkFirstPageOnly = first_page_only != 0;
+  loadWatermarkData(kWatermarkCollection, &*name, &choice.watermarkData);
+  return choice;
+}
+
+bool IsOne(const Dictionary& dictionary, const char* key) {
+  std::int32_t value = 0;
+  return CFDictionaryGetNumber(dictionary, key, &value) && value == 1;
+}
+
+}  // namespace
+
+JobSettings ReadJobSettings(const Dictionary& ticket, int num_options, cups_option_t* options) {
+  JobSettings settings;
+  settings.mediaWidth = WholePoints(PageWidth);
+  settings.mediaLength = WholePoints(PageLength);
+  CFDictionaryGetNumber(ticket, "com.zarvo.print.EmitJTML", &settings.emitJTML);
+  ReadBooklet(ticket, &settings);
+  settings.watermark = ReadWatermark(ticket);
+  if (const Dictionary* image =
+          DictionaryGetDictionary(ticket, "com.zarvo.print.InvertImageOptions")) {
+    settings.invertImage = IsOne(*image, "NegativeImage");
+    settings.flipHorizontal = IsOne(*image, "MirrorImage");
+  }
+  const auto option = [&](const char* name) -> std::optional<std::string> {
+    const char* value = cupsGetOption(name, num_options, options);
+    return value != nullptr ? std::optional<std::string>(value) : std::nullopt;
+  };
+  settings.sides = option("sides").value_or(settings.sides).substr(0, kLongestSides);
+  settings.zarvoJobName = option("ZRVJobName");
+  settings.zarvoJobPassword = option("ZRVJobPassword");
+  return settings;
+}
+
+}  // namespace zarvo

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: Apache-2.0
+// What the ticket and the options ask of the filter itself, as far as the driver and the copy pass
+// need to know it.
+#pragma once
+
+#include <cups/cups.h>
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "Platform/Value.h"
+#include "Source/WatermarkSupport.h"
+
+namespace zarvo {
+
+/// Where on the page a watermark goes, the values of the ticket's "Option".
+enum WatermarkPlacement : std::int32_t {
+  kWatermarkBackground = 1,
+  kWatermarkOverlay = 2,  // drawn last, but so that the page shows through
+  kWatermarkForeground = 3,
+};
+
+/// The job's watermark. It is a text watermark when `data.textString` is not empty.
+struct WatermarkChoice {
+  std::int32_t watermark_option = kWatermarkOverlay;
+  bool watermarkFirstPageOnly = false;
+  _WatermarkData watermarkData{};
+
+  bool IsText() const { return watermarkData.textString[0] != '\0'; }
+};
+
+struct JobSettings {
+  std::int32_t emitJTML = 1;  ///< the XML ticket is written only when this is exactly 1
+  bool booklet = false;
+  int mediaWidth = 0;   ///< whole points
+  int mediaLength = 0;  ///< whole points
+  bool invertImage = false;
+  bool flipHorizontal = false;
+  std::string sides = "one-sided";
+  std::optional<std::string> zarvoJobName;
+  std::optional<std::string> zarvoJobPassword;
+  std::optional<WatermarkChoice> watermark;
+  bool pageHooks = false;  ///< from the PPD, not from the ticket (see PageHooks.h)
+};
+
+/// Reads the settings. A key that is missing or of a wrong type leaves its start value; the page
+/// variables must be set already. Loads the chosen watermark from its store.
+JobSettings ReadJobSettings(const Dictionary& ticket, int num_options, cups_option_t* options);
+
+}  // namespace zarvo

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: Apache-2.0
+// The PJL lines that say what kind of job follows. Each writer writes whole lines and reports
+// nothing: a missing ticket key means that its line is not written.
+#pragma once
+
+#include <cstdio>
+
+#include "Platform/Clock.h"
+#include "Platform/Value.h"
+
+namespace zarvo {
+
+/// Job types, the values of the ticket's "JobType". The numbers between them are unused.
+enum JobTypeCode : int {
+  kJobTypeNormal = 1,
+  kJobTypeSave = 3,
+  kJobTypePrintAndSave = 4,
+  kJobTypeFax = 5,
+  kJobTypeSecure = 6,
+  kJobTypeDelayed = 7,
+  kJobTypeSampleSet = 8,
+};
+
+/// Writes the lines of the ticket's job type and returns its number, also when no type has that
+/// number (then the line of a normal job is written). Without "com.zarvo.print.JobType" nothing is
+/// written and the result is 1.
+int WriteJobType(FILE* output, const Dictionary& ticket);
+
+// These take the job-type dictionary, the value of "com.zarvo.print.JobType".
+void WriteJobTypeNormal(FILE* output, const Dictionary& job_type);
+void WriteJobTypeSecure(FILE* output, const Dictionary& job_type);
+void WriteJobTypeSave(FILE* output, const Dictionary& job_type);
+void WriteJobTypeDelayed(FILE* output, const Dictionary& job_type);
+void WriteJobTypeSampleSet(FILE* output, const Dictionary& job_type);
+
+// These take the whole ticket.
+void WriteBannerPage(FILE* output, const Dictionary& ticket);
+void WriteRequestOffset(FILE* output, const Dictionary& ticket);
+
+/// Scrambles a zero-terminated password in place as the printer expects it: each of the first ten
+/// bytes is combined with a fixed key; later bytes stay as they are. A byte equal to its key byte
+/// becomes zero.
+void p_encrypt(char* pin);
+
+/// Writes into `dateTimeString` (room for 32 bytes) the date of the next time the clock shows
+/// `hour`:`minute` (12-hour clock), followed by hour and minute as given and "00". The calendar is
+/// the print dialog's: 28 February is always followed by 1 March.
+void getDelayDateAndTime(long hour, long minute, long isPM, char* dateTimeString,
+                         const Clock& clock = SystemClock());
+
+}  // namespace zarvo

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: Apache-2.0
+// Everything the filter wants of a PPD file, and the only place that knows which library reads it.
+#pragma once
+
+#include <cups/cups.h>
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+struct ppd_file_s;
+
+namespace zarvo {
+
+/// A page size and its imageable area in points.
+struct PpdPageSize {
+  float width, length, left, bottom, right, top;
+};
+
+/// `*KEYWORD Selector: "value"`. The texts belong to the PPD.
+struct PpdAttribute {
+  std::string_view selector, value;
+};
+
+/// An open PPD file, or none: an empty object answers every question with no.
+class Ppd {
+ public:
+  /// Opens `file` (null: none). A file that cannot be opened gives an empty object; one that is
+  /// there but cannot be understood is told in one log line first.
+  static Ppd Open(const char* file);
+
+  explicit operator bool() const { return file_ != nullptr; }
+
+  /// Marks the PPD's defaults and then the job's options.
+  void Mark(int num_options, cups_option_t* options);
+  /// The marked page size.
+  std::optional<PpdPageSize> MarkedPageSize() const;
+  bool IsMarked(const char* option, const char* choice) const;
+  bool HasChoice(const char* option, const char* choice) const;
+  /// What the job gave for the parameters of an option whose custom choice is marked, as text, in
+  /// the order of the parameters: numbers in decimal (lengths in points), a text as it came,
+  /// nothing for a text that was not given.
+  std::vector<std::optional<std::string>> CustomValues(const char* option) const;
+  /// All attributes of that keyword, in the order of the file.
+  std::vector<PpdAttribute> Attributes(const char* keyword) const;
+  int ColorDevice() const;
+  int LanguageLevel() const;
+
+ private:
+  struct Closer {
+    void operator()(ppd_file_s* file) const;
+  };
+  std::unique_ptr<ppd_file_s, Closer> file_;
+};
+
+}  // namespace zarvo

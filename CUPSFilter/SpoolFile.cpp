@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "CUPSFilter/SpoolFile.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdlib>
+
+namespace zarvo {
+namespace {
+
+std::string TemporaryFolder() {
+  const char* folder = std::getenv("TMPDIR");
+  return folder != nullptr && *folder != '\0' ? folder : "/tmp";
+}
+
+}  // namespace
+
+std::unique_ptr<SpoolFile> SpoolFile::Create() {
+  const std::string folder = TemporaryFolder();
+  std::string name;
+  int descriptor = open(folder.c_str(), O_TMPFILE | O_RDWR | O_CLOEXEC | O_EXCL, 0600);
+  if (descriptor < 0 && (errno == EOPNOTSUPP || errno == EISDIR)) {
+    name = folder + "/zarvo-spool-XXXXXX";  // not every file system has files without a name
+    descriptor = mkostemp(name.data(), O_CLOEXEC);
+  }
+  if (descriptor < 0) return nullptr;
+  std::string path = "/proc/self/fd/" + std::to_string(descriptor);
+  if (!name.empty() && access(path.c_str(), R_OK) != 0) {
+    path = name;  // no /proc: the name stays until the object goes
+  } else if (!name.empty()) {
+    unlink(name.c_str());
+    name.clear();
+  }
+  FILE* stream = fdopen(descriptor, "w+b");
+  if (stream == nullptr) {
+    if (!name.empty()) unlink(name.c_str());
+    close(descriptor);
+    return nullptr;
+  }
+  return std::unique_ptr<SpoolFile>(new SpoolFile(stream, std::move(path), std::move(name)));
+}
+
+int SpoolFile::CopyTo(FILE* output) {
+  if (std::fflush(stream()) != 0) return errno;
+  std::rewind(stream());
+  char block[1 << 16];
+  std::size_t count = 0;
+  while (std::ferror(output) == 0 && (count = std::fread(block, 1, sizeof block, stream())) > 0)
+    std::fwrite(block, 1, count, output);
+  return std::ferror(stream()) != 0 ? EIO : 0;
+}
+
+SpoolFile::~SpoolFile() {
+  if (!name_to_remove_.empty()) unlink(name_to_remove_.c_str());
+}
+
+}  // namespace zarvo

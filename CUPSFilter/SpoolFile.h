@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <cstdio>
+#include <memory>
+#include <string>
+
+namespace zarvo {
+
+/// A temporary file that only this process can reach. It never has a name where the file system
+/// allows that, else it loses it as soon as it is open, so that nothing is left behind however the
+/// process ends; it can be opened again by `path()` as long as the object lives.
+class SpoolFile {
+ public:
+  /// Makes a file in the folder that TMPDIR names (else /tmp). Null when that fails; errno
+  /// says why.
+  static std::unique_ptr<SpoolFile> Create();
+
+  SpoolFile(const SpoolFile&) = delete;
+  SpoolFile& operator=(const SpoolFile&) = delete;
+  ~SpoolFile();
+
+  /// Writes all that is in the file to `output`, where failures of its own show. Returns 0, or the
+  /// error number of what went wrong with the file. To be called when the file is complete.
+  int CopyTo(FILE* output);
+
+  /// Open for writing and, once rewound, for reading.
+  FILE* stream() const { return stream_.get(); }
+  const std::string& path() const { return path_; }
+
+ private:
+  struct Closer {
+    void operator()(FILE* stream) const { std::fclose(stream); }
+  };
+
+  SpoolFile(FILE* stream, std::string path, std::string name_to_remove)
+      : stream_(stream), path_(std::move(path)), name_to_remove_(std::move(name_to_remove)) {}
+
+  std::unique_ptr<FILE, Closer> stream_;
+  std::string path_;
+  std::string name_to_remove_;  // empty once the name is gone
+};
+
+}  // namespace zarvo

@@ -1,0 +1,169 @@
+// SPDX-License-Identifier: Apache-2.0
+// The filter: one job from the spooler's arguments to the exit status.
+#include <cups/cups.h>
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <csignal>
+#include <cstdio>
+#include <cstring>
+#include <memory>
+#include <new>
+#include <optional>
+#include <vector>
+
+#include "CUPSFilter/CopyPass.h"
+#include "CUPSFilter/CopyRules.h"
+#include "CUPSFilter/ImposeJob.h"
+#include "CUPSFilter/JTML/JTML.h"
+#include "CUPSFilter/JobOutput.h"
+#include "CUPSFilter/JobSettings.h"
+#include "CUPSFilter/PageHooks.h"
+#include "CUPSFilter/ParseOptions.h"
+#include "CUPSFilter/PpdTicket.h"
+#include "CUPSFilter/SpoolFile.h"
+#include "CUPSFilter/common.h"
+#include "Platform/Log.h"
+#include "Platform/Process.h"
+#include "Platform/UniqueFd.h"
+
+namespace zarvo {
+namespace {
+
+constexpr int kSuccess = 0;
+constexpr int kFailure = 1;
+
+struct Job {
+  Dictionary ticket;
+  JobSettings settings;
+};
+
+Job ReadJob(const char* option_text) {
+  // Never given back: freeing the list one option at a time would cost more than decoding it.
+  static OptionList& options = *new OptionList(OptionList::Parse(option_text));
+  const Ppd ppd = SetCommonOptions(options.size(), options.data(), 1);
+  const OptionList chosen = PpdTicketOptions(ppd);
+  const std::vector<cups_option_t> ordered = TicketOrder(chosen, options);
+  Job job;
+  job.ticket = ParseCUPSOptionsToDictionary(ordered.data(), static_cast<int>(ordered.size()));
+  options.AddMissing(chosen);
+  job.settings = ReadJobSettings(job.ticket, options.size(), options.data());
+  job.settings.pageHooks = PageHooksWanted(ppd);
+  return job;
+}
+
+/// The log line and status of a copy pass that could not read its input to the end.
+int ReportInput(CopyResult result, int error, const char* input_name) {
+  if (result == CopyResult::kEarlyEnd) {
+    LogLine("ERROR: Early end-of-file while reading binary data: %s", std::strerror(0));
+  } else {
+    LogLine("ERROR: unable to read print file \"%s\" - %s", input_name, std::strerror(error));
+  }
+  return kFailure;
+}
+
+/// The status of a job that was read to its end. A job that is cut short is told, or the spooler
+/// would report it as printed. `spooled` is `printer` when the job was not spooled.
+int ReportWrites(JobOutput& spooled, JobOutput& printer) {
+  if (&spooled != &printer && spooled.error() != 0) {
+    LogLine("ERROR: unable to spool the job - %s; make room in TMPDIR and send it again",
+            std::strerror(spooled.error()));
+    return kFailure;
+  }
+  if (printer.error() != 0) {
+    LogLine("ERROR: unable to write the job - %s; it was cut short",
+            std::strerror(printer.error()));
+    return kFailure;
+  }
+  return kSuccess;
+}
+
+int RunJob(const Job& job, const char* input_name) {
+  UniqueFd file;
+  int input = STDIN_FILENO;
+  if (input_name != nullptr) {
+    file = UniqueFd(open(input_name, O_RDONLY | O_CLOEXEC));
+    if (file.get() < 0) {
+      LogLine("ERROR: unable to open print file \"%s\" - %s", input_name, std::strerror(errno));
+      return kFailure;
+    }
+    input = file.get();
+  }
+  std::unique_ptr<SpoolFile> spool;
+  if (job.settings.booklet) {
+    spool = SpoolFile::Create();
+    if (!spool) {
+      LogLine("ERROR: unable to get tmpnam");
+      return kFailure;
+    }
+  }
+  JobOutput printer(stdout);
+  std::optional<JobOutput> spooled;
+  if (spool) spooled.emplace(spool->stream());
+  JobOutput& output = spooled ? *spooled : printer;
+  if (job.settings.emitJTML == 1) WriteJTML(output.stream(), job.ticket);
+
+  CopyRules rules(job.settings, job.ticket, output);
+  CopyPass pass(input, rules, output);
+  const CopyResult result = pass.Run();
+  output.Flush();
+  if (result == CopyResult::kEarlyEnd || result == CopyResult::kReadFailed)
+    return ReportInput(result, pass.error(), input_name != nullptr ? input_name : "(stdin)");
+  if (spool && output.error() == 0) {
+    ImposeJob(job.ticket, job.settings, *spool, printer);
+    printer.Flush();
+  }
+  return ReportWrites(output, printer);
+}
+
+/// Asks for more room in the pipes to our neighbours, so that neither waits for the other at every
+/// 64 KiB. What the system does not grant is only slower.
+void WidenPipes() {
+  constexpr int kPipeSize = 1 << 20;
+  for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO})
+    fcntl(descriptor, F_SETPIPE_SZ, kPipeSize);
+}
+
+/// A standard descriptor that is not open would be given to the next file that is opened, and the
+/// job would be mixed into it. What takes its place can be neither read nor written.
+void OpenStandardDescriptors() {
+  for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+    if (fcntl(descriptor, F_GETFD) < 0)
+      open("/dev/null", descriptor == STDIN_FILENO ? O_WRONLY : O_RDONLY);
+  }
+}
+
+int Main(int argc, char** argv) {
+  std::setvbuf(stderr, nullptr, _IONBF, 0);
+  OpenStandardDescriptors();
+  // A printer connection that goes away, or a file at its limit, shows as a failed write, not as a
+  // silent death.
+  std::signal(SIGPIPE, SIG_IGN);
+  std::signal(SIGXFSZ, SIG_IGN);
+  EndChildrenOnTermination();
+  if (argc != 6 && argc != 7) {
+    LogLine("ERROR: pstops job-id user title copies options [file]");
+    return kFailure;
+  }
+  WidenPipes();
+  static char output_buffer[1 << 16];
+  std::setvbuf(stdout, output_buffer, _IOFBF, sizeof output_buffer);
+  const Job job = ReadJob(argv[5]);
+  const int status = RunJob(job, argc == 7 ? argv[6] : nullptr);
+  if (status == kSuccess) LogLine("DEBUG: leaving Zarvo cups filter");
+  return status;
+}
+
+}  // namespace
+}  // namespace zarvo
+
+int main(int argc, char** argv) {
+  try {
+    return zarvo::Main(argc, argv);
+  } catch (const std::bad_alloc&) {
+    constexpr char kText[] = "ERROR: out of memory; the job was cut short. Send it again\n";
+    [[maybe_unused]] const auto written = write(STDERR_FILENO, kText, sizeof kText - 1);
+    return zarvo::kFailure;
+  }
+}
