@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: Apache-2.0
+// What preview and print have in common: the options of a job, from the command line and from
+// settings in the readable form.
+#pragma once
+
+#include <CLI/CLI.hpp>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace zarvo::tool {
+
+struct JobOptions {
+  std::vector<std::string> options;  ///< each one the text of an "-o"
+  std::string settings;              ///< file of the readable form; empty for none
+};
+
+/// The options as one text, or nothing, having told why. Doubtful settings are told on standard
+/// error and do not hinder.
+std::optional<std::string> OptionTextOf(const JobOptions& job);
+
+}  // namespace zarvo::tool

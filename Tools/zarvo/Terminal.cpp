@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Tools/zarvo/Terminal.h"
+
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+
+namespace zarvo::tool {
+
+bool ColorWanted(int fd) {
+  const char* no_color = std::getenv("NO_COLOR");
+  return isatty(fd) == 1 && (no_color == nullptr || *no_color == '\0');
+}
+
+Palette::Palette(bool color)
+    : bold(color ? "\033[1m" : ""),
+      good(color ? "\033[32m" : ""),
+      bad(color ? "\033[31m" : ""),
+      plain(color ? "\033[0m" : "") {}
+
+Progress::Progress() {
+  if (isatty(STDERR_FILENO) == 1)
+    thread_ = std::jthread([this](const std::stop_token& stop) { Show(stop); });
+}
+
+Progress::~Progress() {
+  if (thread_.joinable()) {
+    thread_.request_stop();
+    thread_.join();
+  }
+  if (shown_) std::fputs("\r\033[K", stderr);
+}
+
+void Progress::Stage(std::string what) {
+  const std::lock_guard lock(mutex_);
+  what_ = std::move(what);
+}
+
+void Progress::Show(const std::stop_token& stop) {
+  using namespace std::chrono_literals;
+  const auto start = std::chrono::steady_clock::now();
+  std::unique_lock lock(mutex_);
+  while (!changed_.wait_for(lock, stop, 1s, [&stop] { return stop.stop_requested(); })) {
+    const auto seconds =
+        std::chrono::duration_cast<std::chrono::seconds>(std::chrono::steady_clock::now() - start);
+    std::fprintf(stderr, "\r\033[K%s ... %ld s", what_.c_str(), static_cast<long>(seconds.count()));
+    shown_ = true;
+  }
+}
+
+}  // namespace zarvo::tool

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: Apache-2.0
+// What is shown only to a person at a terminal: colour and progress.
+#pragma once
+
+#include <unistd.h>
+
+#include <condition_variable>
+#include <mutex>
+#include <string>
+#include <thread>
+
+namespace zarvo::tool {
+
+/// Whether colour may be written to the descriptor: a terminal, and NO_COLOR is not set.
+bool ColorWanted(int fd);
+
+/// Text styles; with `color` false they are empty texts.
+struct Palette {
+  explicit Palette(bool color);
+  const char* bold;
+  const char* good;
+  const char* bad;
+  const char* plain;
+};
+
+/// Tells on standard error, once work has taken a second and only on a terminal, what is being
+/// done and for how long; the line goes when the work is done.
+class Progress {
+ public:
+  Progress();
+  ~Progress();
+  Progress(const Progress&) = delete;
+  Progress& operator=(const Progress&) = delete;
+
+  /// What is being done from now on.
+  void Stage(std::string what);
+
+ private:
+  void Show(const std::stop_token& stop);
+
+  std::mutex mutex_;
+  std::condition_variable_any changed_;
+  std::string what_;
+  bool shown_ = false;
+  std::jthread thread_;  // none when nobody watches
+};
+
+}  // namespace zarvo::tool

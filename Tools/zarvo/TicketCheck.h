@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: Apache-2.0
+// Finds what a ticket asks for that nobody will understand.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "Platform/Value.h"
+
+namespace zarvo::tool {
+
+struct TicketFinding {
+  std::string place;  ///< the key, with the keys above it
+  std::string text;   ///< what is wrong with it and what may have been meant
+};
+
+/// Keys that nobody knows, values of a wrong type or out of range, and settings that have no
+/// effect without another one. No text of a secret is in the findings.
+std::vector<TicketFinding> CheckTicket(const Dictionary& ticket);
+
+/// The candidate most like `name`, or an empty text when none is near (case aside, a third of its
+/// letters may differ).
+std::string NearestName(const std::string& name, const std::vector<std::string>& candidates);
+
+}  // namespace zarvo::tool

@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: Apache-2.0
+// zarvo: see what a print job will be, set it up, explain it.
+#include <sys/stat.h>
+
+#include <csignal>
+#include <cstdio>
+#include <cstring>
+
+#include "Tools/zarvo/Command.h"
+#include "Tools/zarvo/CommandTable.h"
+
+namespace zarvo::tool {
+namespace {
+
+constexpr const char* kFooter =
+    "Exit status: 0 done; 1 done, and something looks wrong; 2 could not be done.\n"
+    "\"zarvo COMMAND --help\" tells more about a command.";
+
+std::string ExamplesText(const char* examples) {
+  std::string text = "Examples:";
+  std::string_view rest = examples;
+  while (!rest.empty()) {
+    const std::size_t end = std::min(rest.find('\n'), rest.size());
+    text += "\n  " + std::string(rest.substr(0, end));
+    rest.remove_prefix(std::min(end + 1, rest.size()));
+  }
+  return text;
+}
+
+int Main(int argc, char** argv) {
+  CLI::App app("See what a print job will be, set it up, explain it.", "zarvo");
+  Action action;
+  BuildCommandLine(app, &action);
+  try {
+    app.parse(argc, argv);
+  } catch (const CLI::ParseError& error) {
+    // Help and version go to standard output and are no failure; the library prints both kinds.
+    return app.exit(error) == 0 ? kExitOk : kExitFailure;
+  }
+  return action();
+}
+
+}  // namespace
+
+std::span<const Command> Commands() {
+  static constexpr Command kCommands[] = {
+      {"preview", "Draw the sheets as the printer will deliver them",
+       "zarvo preview report.pdf -q office\n"
+       "zarvo preview report.ps --settings booklet.json --output sheets.pdf\n"
+       "zarvo preview report.pdf -p printer.ppd -o media=A4 --output page.png",
+       &SetUpPreview},
+      {"explain", "Say what a job asks of the printer",
+       "zarvo explain job.prn\n"
+       "lpstat -o | head; sudo cat /var/spool/cups/d00042-001 | zarvo explain -\n"
+       "zarvo explain --json job.prn | jq .findings",
+       &SetUpExplain},
+      {"ticket", "Translate and check job tickets",
+       "zarvo ticket encode settings.json\n"
+       "lp -d office -o \"$(zarvo ticket encode settings.json)\" report.pdf\n"
+       "zarvo ticket decode options.txt\n"
+       "zarvo ticket check settings.json",
+       &SetUpTicket},
+      {"print", "Print with settings in the readable form",
+       "zarvo print report.pdf -d office settings.json\n"
+       "zarvo print report.pdf -d office secure.json -o copies=2",
+       &SetUpPrint},
+      {"watermark", "Look after the watermarks of this machine",
+       "zarvo watermark list\n"
+       "sudo zarvo watermark add-text DRAFT --angle 45 --color '#cc0000'\n"
+       "sudo zarvo watermark add-image logo.png --scale 50\n"
+       "zarvo watermark show DRAFT --output draft.png",
+       &SetUpWatermark},
+      {"recipient", "Look after your fax recipients",
+       "zarvo recipient add --first Ada --fax '+44 20 7946 0018'\n"
+       "zarvo recipient list --json\n"
+       "zarvo recipient group Branches 5f1c... 77ab...",
+       &SetUpRecipient},
+      {"fax", "See the cover sheet of a fax", "zarvo fax preview fax.json --output cover.pdf",
+       &SetUpFax},
+      {"doctor", "Check the installation and say what to do", "zarvo doctor\nzarvo doctor --json",
+       &SetUpDoctor},
+      {"manual", "Write manual pages and shell completion",
+       "zarvo manual --man man1\nzarvo manual --bash > /etc/bash_completion.d/zarvo", &SetUpManual},
+  };
+  return kCommands;
+}
+
+void BuildCommandLine(CLI::App& app, Action* action) {
+  app.set_version_flag("--version", "zarvo " ZARVO_VERSION);
+  app.require_subcommand(1);
+  app.footer(kFooter);
+  for (const Command& command : Commands()) {
+    CLI::App* subcommand = app.add_subcommand(command.name, command.summary);
+    subcommand->footer(ExamplesText(command.examples));
+    command.set_up(*subcommand, action);
+  }
+}
+
+}  // namespace zarvo::tool
+
+int main(int argc, char** argv) {
+  // A reader such as "head" that goes away early ends the tool quietly.
+  std::signal(SIGPIPE, SIG_DFL);
+  return zarvo::tool::Main(argc, argv);
+}

@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Tools/zarvodraw/ImageFile.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <iterator>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include "Platform/AtomicFile.h"
+
+namespace zarvo {
+namespace {
+
+/// As long as the largest uncompressed image.
+constexpr std::size_t kMaxFileBytes = 512 << 20;
+
+struct Format {
+  std::string_view signature;
+  const char* loader;
+  bool (*is_whole)(std::string_view file);  // null when the loader notices cut files itself
+};
+
+bool EndsPng(std::string_view file) { return file.rfind("IEND") != file.npos; }
+
+/// A cut file may still hold the end marker of the small preview inside it.
+bool EndsJpeg(std::string_view file) {
+  const std::size_t end = file.rfind("\xFF\xD9");
+  const std::size_t last_scan = file.rfind("\xFF\xDA");
+  return end != file.npos && (last_scan == file.npos || end > last_scan);
+}
+
+/// Only these loaders ever see a file; others of the library are not meant for hostile input.
+constexpr Format kFormats[] = {
+    {"\x89PNG\r\n\x1a\n", "png", &EndsPng},
+    {"\xFF\xD8\xFF", "jpeg", &EndsJpeg},
+    {std::string_view("II*\0", 4), "tiff", nullptr},
+    {std::string_view("MM\0*", 4), "tiff", nullptr},
+    {"GIF87a", "gif", nullptr},
+    {"GIF89a", "gif", nullptr},
+    {"BM", "bmp", nullptr},
+};
+
+bool TooLarge(int width, int height) { return std::int64_t{width} * height > kMaxImagePixels; }
+
+/// One run of a loader. It reports rows as they are decoded; the rows of a damaged image that never
+/// came hold whatever memory held before, so they must be known.
+class Decoder {
+ public:
+  explicit Decoder(const char* type) : loader_(gdk_pixbuf_loader_new_with_type(type, &problem_)) {
+    if (loader_ == nullptr) return;
+    g_signal_connect(loader_, "size-prepared", G_CALLBACK(&Decoder::SizeKnown), this);
+    g_signal_connect(loader_, "area-prepared", G_CALLBACK(&Decoder::MemoryTaken), this);
+    g_signal_connect(loader_, "area-updated", G_CALLBACK(&Decoder::RowsDecoded), this);
+  }
+  Decoder(const Decoder&) = delete;
+  Decoder& operator=(const Decoder&) = delete;
+  ~Decoder() {
+    g_clear_error(&problem_);
+    if (loader_ == nullptr) return;
+    if (!closed_) gdk_pixbuf_loader_close(loader_, nullptr);
+    g_object_unref(loader_);
+  }
+
+  Image Run(std::string_view file, std::string* error) {
+    bool fed = loader_ != nullptr;
+    constexpr std::size_t kBlock = 1 << 16;
+    for (; fed && !too_large_ && !file.empty(); file.remove_prefix(std::min(file.size(), kBlock)))
+      fed = gdk_pixbuf_loader_write(loader_, reinterpret_cast<const guchar*>(file.data()),
+                                    std::min(file.size(), kBlock), &problem_);
+    if (fed && !too_large_) {
+      closed_ = true;
+      fed = gdk_pixbuf_loader_close(loader_, &problem_);
+    }
+    GdkPixbuf* image = fed && !too_large_ ? gdk_pixbuf_loader_get_pixbuf(loader_) : nullptr;
+    if (image != nullptr && std::find(decoded_.begin(), decoded_.end(), false) == decoded_.end())
+      return Image(GDK_PIXBUF(g_object_ref(image)));
+    *error = too_large_            ? "it has more than 100 million pixels"
+             : problem_ != nullptr ? problem_->message
+                                   : "it is damaged";
+    return nullptr;
+  }
+
+ private:
+  static void SizeKnown(GdkPixbufLoader* loader, int width, int height, Decoder* self) {
+    if (!TooLarge(width, height)) return;
+    self->too_large_ = true;
+    gdk_pixbuf_loader_set_size(loader, 0, 0);  // makes the loader give up
+  }
+  static void MemoryTaken(GdkPixbufLoader* loader, Decoder* self) {
+    GdkPixbuf* image = gdk_pixbuf_loader_get_pixbuf(loader);
+    const int height = gdk_pixbuf_get_height(image);
+    self->too_large_ = self->too_large_ || TooLarge(gdk_pixbuf_get_width(image), height);
+    self->decoded_.assign(static_cast<std::size_t>(height), false);
+  }
+  static void RowsDecoded(GdkPixbufLoader*, int, int y, int, int height, Decoder* self) {
+    const auto limit = static_cast<int>(self->decoded_.size());
+    for (int row = std::max(y, 0); row < std::min(y + height, limit); ++row)
+      self->decoded_[static_cast<std::size_t>(row)] = true;
+  }
+
+  GError* problem_ = nullptr;
+  GdkPixbufLoader* loader_;
+  bool closed_ = false;
+  bool too_large_ = false;
+  std::vector<bool> decoded_;
+};
+
+}  // namespace
+
+Image DecodeImage(const char* path, std::string* error) {
+  const std::optional<std::string> file = ReadWholeFile(path, kMaxFileBytes);
+  if (!file) {
+    *error = errno == EINVAL ? "it is not a regular file" : std::strerror(errno);
+    return nullptr;
+  }
+  const auto* format =
+      std::find_if(std::begin(kFormats), std::end(kFormats),
+                   [&](const Format& row) { return file->starts_with(row.signature); });
+  if (format == std::end(kFormats)) {
+    *error = "it is not a PNG, JPEG, TIFF, GIF or BMP image";
+    return nullptr;
+  }
+  if (format->is_whole != nullptr && !format->is_whole(*file)) {
+    *error = "its end is missing";
+    return nullptr;
+  }
+  return Decoder(format->loader).Run(*file, error);
+}
+
+}  // namespace zarvo

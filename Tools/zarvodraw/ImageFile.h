@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: Apache-2.0
+// Decoding of image files.
+#pragma once
+
+#include <gdk-pixbuf/gdk-pixbuf.h>
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+namespace zarvo {
+
+/// Images with more pixels are refused, before they are decoded where their header tells.
+constexpr std::int64_t kMaxImagePixels = 100'000'000;
+
+struct PixbufDeleter {
+  void operator()(GdkPixbuf* image) const { g_object_unref(image); }
+};
+using Image = std::unique_ptr<GdkPixbuf, PixbufDeleter>;
+
+/// The first picture of a PNG, JPEG, TIFF, GIF or BMP file, 8 bits per component, with or without
+/// an alpha channel that is not premultiplied. The kind is told by the content, not by the name.
+/// Null, and the reason in `error`, when the file cannot be read whole and without errors.
+Image DecodeImage(const char* path, std::string* error);
+
+}  // namespace zarvo
