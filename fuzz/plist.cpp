@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: Apache-2.0
+// Property lists: what is read can be written, and reads back as the same value; watermarks and
+// cover sheets are filled from it.
+#include "Platform/PropertyList.h"
+#include "Source/FaxCover.h"
+#include "Source/WatermarkSupport.h"
+#include "fuzz/target.h"
+
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  using namespace zarvo;
+  std::string error;
+  const std::optional<Value> value = ParsePropertyList(AsText(data, size), &error);
+  if (!value) {
+    Require(!error.empty());
+    return 0;
+  }
+  if (const Dictionary* dictionary = value->AsDictionary()) {
+    _WatermarkData watermark{};
+    WatermarkFromDictionary(*dictionary, &watermark);
+    const std::optional<Dictionary> again = WatermarkToDictionary(watermark);
+    Require(again.has_value());
+    const FaxCover cover = FaxCoverFromDictionary(*dictionary);
+    FaxCoverToDictionary(cover);
+  }
+  if (const std::optional<std::string> xml = SerializePropertyList(*value)) {
+    const std::optional<Value> read_back = ParsePropertyList(*xml, &error);
+    Require(read_back.has_value());
+  }
+  return 0;
+}
