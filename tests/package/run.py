@@ -1,0 +1,251 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: Apache-2.0
+"""Builds the Debian packages, installs them on a bare Debian 12 and prints a job as a new user would.
+
+    run.py BUILD_FOLDER
+
+The bare system is made by debootstrap in a temporary folder, which takes root and a package mirror.
+Where that cannot be had the packages are still built and examined; the rest is told as skipped (exit
+status 77), or as failed when ZARVO_REQUIRE_CHROOT is set.
+"""
+
+import os
+import pathlib
+import re
+import shutil
+import socket
+import subprocess
+import sys
+import tempfile
+import time
+
+BUILD = pathlib.Path(sys.argv[1]).resolve()
+SOURCE = pathlib.Path(__file__).resolve().parents[2]
+os.environ["ZARVO_BIN"] = str(BUILD / "bin")
+sys.path.insert(0, str(SOURCE / "tests/system"))
+from cupsd import Printer  # noqa: E402
+
+SKIPPED = 77
+STARTED = time.monotonic()
+STEPS = []
+# /proc is mounted for one command alone: the mount is gone with it, and nothing that clears the
+# folder away can ever reach through it.
+PRIVATE_MOUNTS = ["unshare", "--mount", "--propagation", "private"]
+# Filters of the spooler's own user must find nothing writable by others.
+MODES = {
+    "zarvo-filter": {
+        "./usr/lib/cups/filter/zarvofilter": "-r-xr-xr-x",
+        "./usr/lib/zarvo/zarvodraw": "-rwxr-xr-x",
+        "./usr/share/ppd/zarvo/zarvo.ppd": "-rw-r--r--",
+        "./var/lib/Zarvo/": "drwxr-xr-x",
+    },
+    "zarvo-tools": {
+        "./usr/bin/zarvo": "-rwxr-xr-x",
+        "./usr/share/man/man1/zarvo.1.gz": "-rw-r--r--",
+        "./usr/share/bash-completion/completions/zarvo": "-rw-r--r--",
+    },
+}
+CUPSD_CONF = """Listen 127.0.0.1:{port}
+LogLevel debug
+DefaultAuthType None
+<Location />
+  Order allow,deny
+  Allow from 127.0.0.1
+</Location>
+<Policy default>
+  <Limit All>
+    Order allow,deny
+    Allow from 127.0.0.1
+  </Limit>
+</Policy>
+"""
+JOB = """%!PS-Adobe-3.0
+<< /PageSize [595 842] >> setpagedevice
+1 1 8 { /Helvetica 99 selectfont 100 400 moveto 10 string cvs show showpage } for
+"""
+
+
+def check(condition, text):
+    if not condition:
+        raise AssertionError(text)
+
+
+def step(name, work):
+    """Does one step and notes how long it took."""
+    begun = time.monotonic()
+    result = work()
+    STEPS.append(f"{time.monotonic() - begun:7.1f} s  {name}")
+    print(STEPS[-1], flush=True)
+    return result
+
+
+def run(*command, **options):
+    done = subprocess.run([str(part) for part in command], capture_output=True, text=True, **options)
+    check(done.returncode == 0, f"{command}\n{done.stdout[-3000:]}{done.stderr[-3000:]}")
+    return done.stdout
+
+
+def build_packages(folder):
+    run(SOURCE / "Tools/build-deb", BUILD, folder, cwd=SOURCE)
+    return {name: next(folder.glob(f"{name}_*.deb")) for name in MODES}
+
+
+def examine(packages):
+    faults = subprocess.run(["lintian", "--allow-root", "--fail-on", "error", *packages.values()],
+                            capture_output=True, text=True)
+    check(faults.returncode == 0, faults.stdout + faults.stderr)
+    for name, package in packages.items():
+        listed = {}
+        for line in run("dpkg-deb", "-c", package).splitlines():
+            mode, owner, *_, path = line.split()
+            check(owner == "root/root", line)
+            listed[path] = mode
+        for path, mode in MODES[name].items():
+            check(listed.get(path) == mode, f"{path}: {listed.get(path)}, not {mode}")
+
+
+class Chroot:
+    """A bare Debian 12 in a folder."""
+
+    def __init__(self, root):
+        self.root = root
+
+    def make(self):
+        run(*PRIVATE_MOUNTS, "debootstrap", "--variant=minbase", "bookworm", self.root, timeout=900)
+        # The spooler's users must be able to enter it.
+        self.root.chmod(0o755)
+        # The machine's own mirror, and no services at installation.
+        for name in ("sources.list.d/debian.sources", "sources.list"):
+            source = pathlib.Path("/etc/apt", name)
+            if source.exists() and source.stat().st_size:
+                (self.root / "etc/apt/sources.list").unlink(missing_ok=True)
+                shutil.copy(source, self.root / "etc/apt" / name)
+        policy = self.root / "usr/sbin/policy-rc.d"
+        policy.write_text("#!/bin/sh\nexit 101\n")
+        policy.chmod(0o755)
+
+    def command(self, *command):
+        inside = 'mount -t proc proc "$0/proc"; exec chroot "$0" "$@"'
+        return [*PRIVATE_MOUNTS, "sh", "-c", inside, str(self.root), *map(str, command)]
+
+    def run(self, *command, **variables):
+        environment = {"PATH": "/usr/sbin:/usr/bin:/sbin:/bin", "HOME": "/root", "LC_ALL": "C.UTF-8",
+                       "DEBIAN_FRONTEND": "noninteractive", **variables}
+        return run(*self.command(*command), env=environment, timeout=900)
+
+    def files(self):
+        """Every path with the product's name in it."""
+        found = self.run("find", "/", "-xdev", "-iname", "*zarvo*", "-not", "-path", "/proc/*")
+        return set(found.split())
+
+
+def install(system, packages):
+    for package in packages.values():
+        shutil.copy(package, system.root / "root")
+    system.run("apt-get", "update", "-qq")
+    system.run("apt-get", "install", "-y", "-qq", "--no-install-recommends",
+               *(f"/root/{package.name}" for package in packages.values()))
+    for package in packages.values():
+        (system.root / "root" / package.name).unlink()
+
+
+class Cupsd:
+    def __init__(self, system):
+        self.system = system
+
+    def __enter__(self):
+        with socket.socket() as probe:
+            probe.bind(("127.0.0.1", 0))
+            port = probe.getsockname()[1]
+        (self.system.root / "etc/cups/cupsd.conf").write_text(CUPSD_CONF.format(port=port))
+        self.server = f"127.0.0.1:{port}"
+        self.process = subprocess.Popen(self.system.command("/usr/sbin/cupsd", "-f"))
+        for _ in range(100):
+            with socket.socket() as probe:
+                if probe.connect_ex(("127.0.0.1", port)) == 0:
+                    return self
+            time.sleep(0.1)
+        raise RuntimeError("cupsd did not start")
+
+    def __exit__(self, *exception):
+        self.process.terminate()
+        self.process.wait()
+
+    def run(self, *command):
+        return self.system.run(*command, CUPS_SERVER=self.server)
+
+
+def use(system):
+    """What a new user does, from a queue to a printed job."""
+    run("gs", "-q", "-o", system.root / "root/report.pdf", "-sDEVICE=pdfwrite", "-", input=JOB)
+    settings = '{"BookletLayout": true, "JTMLOptions": {"JTMLOptionAll": true}}'
+    (system.root / "root/booklet.json").write_text(settings)
+    with Cupsd(system) as cupsd, Printer() as printer:
+        models = cupsd.run("lpinfo", "-m")
+        model = next(line.split()[0] for line in models.splitlines() if "zarvo" in line.lower())
+        step("lpadmin -m", lambda: cupsd.run(
+            "lpadmin", "-p", "office", "-E", "-v", printer.uri, "-m", model))
+        told = step("zarvo doctor", lambda: cupsd.run("zarvo", "doctor"))
+        check("queue: office" in told and "WRONG" not in told, told)
+        plan = step("zarvo preview", lambda: cupsd.run(
+            "zarvo", "preview", "/root/report.pdf", "-q", "office", "-s", "/root/booklet.json",
+            "--output", "/root/sheets.pdf"))
+        check("4 sheet sides on 2 sheets, booklet" in plan, plan)
+
+        def print_job():
+            cupsd.run("zarvo", "print", "/root/report.pdf", "/root/booklet.json", "-d", "office")
+            return printer.wait()
+
+        received = step("zarvo print, until the printer has it", print_job)
+        (system.root / "root/received.prn").write_bytes(received)
+        told = cupsd.run("zarvo", "explain", "/root/received.prn")
+        check("sheet sides: 4" in told, told)
+        cupsd.run("zarvo", "watermark", "add-text", "OURS")
+    mode = (system.root / "var/lib/Zarvo/com.zarvo.printing.watermarks.plist").stat().st_mode
+    check(mode & 0o777 == 0o644, oct(mode))
+
+
+def remove(system):
+    store = "/var/lib/Zarvo"
+    users_own = re.compile(rf"{store}(/com\.zarvo\.printing\.watermarks\.plist)?$")
+    system.run("apt-get", "purge", "-y", "-qq", "zarvo-filter", "zarvo-tools")
+    left = {path for path in system.files() if not users_own.match(path)}
+    check(not left, f"left behind: {left}")
+    kept = (system.root / store[1:] / "com.zarvo.printing.watermarks.plist").read_text()
+    check("OURS" in kept, "the user's watermark is gone")
+
+
+def why_no_chroot():
+    if os.geteuid() != 0:
+        return "a bare system can be made by root only"
+    if shutil.which("debootstrap") is None:
+        return "debootstrap is not installed"
+    return ""
+
+
+def main():
+    folder = BUILD / "test-output/packages"
+    folder.parent.mkdir(exist_ok=True)
+    packages = step("make deb", lambda: build_packages(folder))
+    step("lintian, owners and modes", lambda: examine(packages))
+    reason = why_no_chroot()
+    if not reason:
+        with tempfile.TemporaryDirectory(prefix="zarvo-debian-") as scratch:
+            system = Chroot(pathlib.Path(scratch))
+            try:
+                step("debootstrap", system.make)
+            except (AssertionError, subprocess.TimeoutExpired) as error:
+                reason = f"debootstrap failed: {error}"
+            if not reason:
+                step("apt install of both packages", lambda: install(system, packages))
+                use(system)
+                step("apt purge", lambda: remove(system))
+    (BUILD / "test-output/package-steps.txt").write_text("\n".join(STEPS) + "\n")
+    if reason:
+        print(f"SKIPPED: installing on a bare Debian: {reason}")
+        return 1 if os.environ.get("ZARVO_REQUIRE_CHROOT") else SKIPPED
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

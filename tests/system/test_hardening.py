@@ -1,0 +1,36 @@
+# SPDX-License-Identifier: Apache-2.0
+"""The programs are built so that a fault of memory is hard to make use of."""
+
+import os
+import pathlib
+import subprocess
+import unittest
+
+BIN = pathlib.Path(os.environ["ZARVO_BIN"])
+SANITIZED = b"__asan_init" in (BIN / "zarvofilter").read_bytes()
+
+
+def readelf(option, program):
+    return subprocess.run(
+        ["readelf", "-W", option, BIN / program], check=True, capture_output=True, text=True
+    ).stdout
+
+
+@unittest.skipIf(SANITIZED, "a build for testing")
+class Hardening(unittest.TestCase):
+    def test_build_flags(self):
+        for program in ("zarvofilter", "zarvodraw"):
+            with self.subTest(program=program):
+                self.assertIn("DYN (Position-Independent", readelf("-h", program))
+                segments = readelf("-l", program)
+                self.assertIn("GNU_RELRO", segments)
+                stack = next(line for line in segments.splitlines() if "GNU_STACK" in line)
+                self.assertNotIn("RWE", stack)
+                self.assertIn("NOW", readelf("-d", program))  # with the above: nothing to overwrite
+                symbols = readelf("-s", program)
+                self.assertIn("__stack_chk_fail", symbols)
+                self.assertIn("printf_chk", symbols)
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,197 @@
+# SPDX-License-Identifier: Apache-2.0
+"""Hostile text in every place of a ticket, of the watermark store and of the arguments.
+
+With a harmless text in the same places the job has a certain shape: its XML elements, its command
+lines, its PostScript tokens, its log lines. No text may change the shape, only what stands in it.
+"""
+
+import os
+import pathlib
+import plistlib
+import re
+import subprocess
+import tempfile
+import unittest
+import xml.etree.ElementTree
+
+BIN = pathlib.Path(os.environ["ZARVO_BIN"])
+GOLDEN = pathlib.Path(os.environ["ZARVO_SOURCE"]) / "tests/golden"
+JOB = (GOLDEN / "input/plain.ps").read_bytes()
+EXIT = b"\x1b%-12345X"
+P = "com.zarvo.print."
+
+# Each a key of the ticket that takes a text.
+TICKET_TEXTS = [
+    *(f"com.zarvo.Act.{key}" for key in ("UID", "AID", "jtml.UID", "jtml.AID")),
+    *(f"{P}JobNotes{key}" for key in ("JobName", "SenderName", "Message", "Recipient")),
+    *(f"{P}JobNotes{key}" for key in ("SheetMessage", "AdditionalInfo")),
+    "com.apple.print.JobInfo.PMJobName",
+    *(f"{P}JobType..d_{key}" for key in ("SavedJobName", "SavedJobLocation")),
+    f"{P}FinishingCustom",
+    *(f"{P}BackgroundFormsOptions..d_{key}" for key in ("NewFormString", "MergeWithString")),
+    *(f"{P}JobLevelStock..d_{key}" for key in ("Name", "Description")),
+    *(f"{P}SpecialPages.FrontCover..d_Stock..d_{key}" for key in ("Name", "Description")),
+    *(f"{P}SpecialPages.InsertList..a_0..d_Stock..d_{key}" for key in ("Name", "Description")),
+    *(f"{P}FullColorOptions..d_{key}" for key in ("TRC", "GrayImages", "RGBImages", "CMYKImages")),
+    *(f"{P}FullColorOptions..d_{key}" for key in ("GrayTextGraphics", "Destination")),
+    *(f"{P}FaxOptions..d_{key}" for key in ("CreditCard", "DialingPrefix")),
+    f"{P}FaxRecipientList..a_0..d_FaxNumber",
+    f"{P}FaxRecipientList..a_0..d_Mailbox",
+    "ZRVJobName",
+    "ZRVJobPassword",
+    "sides",
+]
+SWITCHES = [
+    f"{P}JTMLOptions..d_JTMLOptionAll..b=true",
+    f"{P}JobNotesEnabled..b=true",
+    "com.zarvo.Act.jtml.On..n=2",
+    f"{P}FinishingOptions..n=2",
+    f"{P}BackgroundFormsOptions..d_BackgroundForms..n=3",
+    f"{P}watermark.Watermark=mark",
+]
+JOB_TYPES = {
+    "user": ["com.zarvo.Act.On..n=2", "com.zarvo.Act.AT..n=2", f"{P}JobType..d_JobType..n=3"],
+    "group": ["com.zarvo.Act.On..n=2", "com.zarvo.Act.AT..n=3", f"{P}JobType..d_JobType..n=4"],
+    "account": ["com.zarvo.Act.On..n=3", f"{P}JobType..d_JobType..n=5"],
+}
+PLACEMENTS = (1, 2, 3)
+HARMLESS = "harmless"
+
+
+def hostile_texts():
+    """(what, bytes)"""
+    for byte in [*range(1, 32), 127]:
+        yield f"control {byte}", b"a" + bytes([byte]) + b"@PJL RESET" + bytes([byte]) + b"b"
+    for prefix in (b"PPD: x=y", b"STATE: +media-empty", b"ATTR: a=b", b"PAGE: 1 1", b"ERROR: no"):
+        for end in (b"\n", b"\r", b"\r\n", b"\xc2\x85", b"\xe2\x80\xa8"):
+            yield f"{prefix!r} after {end!r}", b"a" + end + prefix + end
+    yield from {
+        "universal exit": EXIT + b"@PJL SET JOBOFFSET=ON\n",
+        "quotes": b"\"';\" '\" \"\"",
+        "parentheses": b") show systemdict /deletefile get (",
+        "opening": b"((((",
+        "backslash": b"\\",
+        "backslash at the end of a string": b"x\\)\\",
+        "element": b"</job></xpif><evil a=\"1\"/>&lt;&#10;&bad;",
+        "section": b"]]>--><![CDATA[<!--<?x",
+        "shell": b"$(touch /tmp/zarvo-injected) `touch /tmp/zarvo-injected`; | & > <",
+        "format": b"%s%n%1000000d%%",
+        "noncharacter": b"\xef\xbf\xbe\xef\xbf\xbf",
+        "invalid UTF-8": b"\xff\xfe\x80",
+        "overlong": b"\xc0\x8a\xe0\x80\x8a",
+        "surrogate": b"\xed\xa0\x80",
+        "long": b"x" * 500,
+    }.items()
+
+
+def quoted(text):
+    """As one value of the option text."""
+    return b"'" + re.sub(rb"(['\\])", rb"\\\1", text) + b"'"
+
+
+def xml_shape(xml_bytes):
+    return [
+        (element.tag, sorted(element.keys()), len(element))
+        for element in xml.etree.ElementTree.fromstring(xml_bytes).iter()
+    ]
+
+
+def line_shape(header):
+    """Each command line without its value, and with the value's quotes counted at its ends."""
+    lines = header.split(b"\n")
+    return [re.sub(rb"[ ,\"].*", b"", line.removeprefix(b"@PJL COMMENT ")) for line in lines]
+
+
+def postscript_shape(text):
+    """The program with every string, and every name made from one, taken out."""
+    text = re.sub(rb"\((?:[^()\\]|\\.)*\)", b"()", text, flags=re.DOTALL)
+    name = rb"(?:\(\) cvn|/[^\s()<>\[\]{}/%]+)"
+    text = re.sub(rb"(?<=Typeface )" + name, b"NAME", text)
+    return re.sub(name + rb"(?= 20 selectfont)", b"NAME", text)
+
+
+class Injection(unittest.TestCase):
+    def setUp(self):
+        scratch = tempfile.TemporaryDirectory()
+        self.addCleanup(scratch.cleanup)
+        self.scratch = pathlib.Path(scratch.name)
+        self.store = self.scratch / "Zarvo"
+        self.store.mkdir()
+
+    def filter(self, text, job_type, placement):
+        """The parts of the output and the log, with `text` wherever a text can stand."""
+        unicode = text.decode(errors="replace").replace("\0", "")
+        mark = {"textString": unicode, "fontName": unicode}
+        (self.store / "com.zarvo.printing.watermarks.plist").write_bytes(
+            plistlib.dumps({"mark": mark | {"fontSize": 20}}, fmt=plistlib.FMT_BINARY)
+        )
+        options = [option.encode() for option in SWITCHES + JOB_TYPES[job_type]]
+        options.append(f"{P}watermark.Option..n={placement}".encode())
+        options += [key.encode() + b"=" + quoted(text) for key in TICKET_TEXTS]
+        done = subprocess.run(
+            [BIN / "zarvofilter", "1", text, text, "1", b" ".join(options)],
+            input=JOB,
+            capture_output=True,
+            timeout=30,
+            env={
+                "PATH": os.environ["PATH"],
+                "TMPDIR": str(self.scratch),
+                "ZARVO_APPLICATION_SUPPORT": str(self.scratch),
+                "PPD": str(GOLDEN / "ppd/test.ppd"),
+                "ASAN_OPTIONS": os.environ.get("ASAN_OPTIONS", ""),
+            },
+        )
+        self.assertEqual(done.returncode, 0)
+        xml_part, rest = done.stdout.split(EXIT + b"@PJL JOB\n", 1)
+        header, postscript = rest.split(b"@PJL ENTER LANGUAGE = POSTSCRIPT\n", 1)
+        return xml_part, header, postscript, done.stderr
+
+    def test_texts_stay_where_they_belong(self):
+        for job_type in JOB_TYPES:
+            for placement in PLACEMENTS:
+                plain = self.filter(HARMLESS.encode(), job_type, placement)
+                self.assertGreater(plain[0].count(b"harmless"), 15, plain[0].decode())
+                for what, text in hostile_texts():
+                    if placement != 1 and b"\\" not in text and b"(" not in text:
+                        continue  # only the watermark differs
+                    with self.subTest(text=what, job_type=job_type, placement=placement):
+                        self.compare(text, plain, self.filter(text, job_type, placement))
+
+    def compare(self, text, plain, parts):
+        xml_part, header, postscript, log = parts
+        invalid = text.decode(errors="ignore").encode() != text
+        if not invalid:  # such a text counts as missing, and so may what holds it
+            self.assertEqual(xml_shape(xml_part), xml_shape(plain[0]))
+            self.assertEqual(line_shape(header), line_shape(plain[1]))
+        else:
+            xml_shape(xml_part)
+        for line in header.splitlines():
+            self.assertTrue(line.startswith(b"@PJL COMMENT ") or line == b"", line)
+        self.assertNotRegex(header, rb"[\r\f\x1b]")
+        self.assertNotRegex(xml_part, rb"[\x00-\x08\x0b\x0c\x0e-\x1f]")
+        self.assertEqual(postscript_shape(postscript), postscript_shape(plain[2]))
+        self.assertEqual(postscript.count(EXIT), plain[2].count(EXIT))
+        self.assertEqual(
+            [line.split(b":")[0] for line in log.split(b"\n")],
+            [line.split(b":")[0] for line in plain[3].split(b"\n")],
+        )
+        self.assertFalse(pathlib.Path("/tmp/zarvo-injected").exists())
+
+    def test_names_and_file_names_start_no_log_line(self):
+        for what, text in hostile_texts():
+            name = re.sub(rb"[\s=]", b".", text)
+            options = b"com.zarvo.print." + name + b"..n=-1 com.zarvo.print.Gutter..n=-5"
+            options += b" com.zarvo.print.BookletLayout..b=true"
+            with self.subTest(text=what):
+                done = subprocess.run(
+                    [BIN / "zarvofilter", "1", text, text, "1", options, b"/none/" + text],
+                    capture_output=True,
+                    env={"PPD": b"/none/" + text, "TMPDIR": str(self.scratch)},
+                )
+                self.assertEqual(done.returncode, 1)
+                for line in done.stderr.splitlines():
+                    self.assertRegex(line, b"^(ERROR|DEBUG): ")
+
+
+if __name__ == "__main__":
+    unittest.main()

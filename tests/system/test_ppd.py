@@ -1,0 +1,138 @@
+# SPDX-License-Identifier: Apache-2.0
+"""Every choice of the PPD: what it writes into the job's header, ticket and set-up.
+
+The table expected/ppd_choices.txt has a line for each: the option and choice, "xml" when the choice
+switches the XML ticket on, and the lines that differ from a job without it. Options that only mean
+something beside others are given with those. Run this file with --update to write the table anew,
+then read what has changed in it.
+"""
+
+import difflib
+import functools
+import os
+import pathlib
+import re
+import subprocess
+import sys
+import unittest
+
+BIN = pathlib.Path(os.environ["ZARVO_BIN"])
+SOURCE = pathlib.Path(os.environ["ZARVO_SOURCE"])
+PPD = BIN.parent / "ppd/zarvo.ppd"
+TABLE = SOURCE / "tests/system/expected/ppd_choices.txt"
+
+XML = "com.zarvo.print.JTMLOptions..d_JTMLOptionAll..b=true"
+JOB = b"%!PS-Adobe-3.0\n%%BeginProlog\n%%EndProlog\n%%BeginSetup\n%%EndSetup\n%%Page: 1 1\n%%EOF\n"
+# What a choice needs beside it to show.
+WITH = {
+    "JobPIN": "JobType=Secure",
+    "SavedJobName": "JobType=Save",
+    "SavedJobFormat": "JobType=Save",
+    "AccountUser": "Accounting=Account",
+    "AccountID": "Accounting=Account AccountUser=Custom.somebody",
+    "Accounting": "AccountUser=Custom.somebody AccountID=Custom.4711",
+    "HoleCount": "Punch=Left",
+    "SeparatorColor": "Separators=Blank",
+    "CoverColorFront": "FrontCover=Blank",
+    "CoverColorBack": "BackCover=Blank",
+    "FormCyclePages": "BackgroundForm=Custom.Letterhead",
+    "WMPlace": "Watermark=DRAFT",
+    "WMPages": "Watermark=DRAFT",
+    "BookletFinish": "BookletLayout=LeftToRight",
+}
+for name in ("Paper", "Outline", "Rotate", "Gutter", "Creep"):
+    WITH["Booklet" + name] = "BookletLayout=LeftToRight"
+for name in ("Resolution", "Speed", "Confirmation", "Prefix", "Billing"):
+    WITH["Fax" + name] = "FaxNumber=Custom.0911-4711"
+# Cover sheets are drawn; what they show is the fax cover's business.
+UNSEEN = {"FaxCover", "FaxRecipient", "FaxSender", "FaxNotes"}
+CUSTOM = {"int": "7", "string": "A\\ \\&\\ B", "passcode": "0391"}
+
+
+def choices():
+    """(option, choice) for all of them, and a custom value for each option that takes one."""
+    text = PPD.read_text(encoding="utf-8")
+    for option, body in re.findall(r"\*OpenUI \*(\w+)/.*?\n(.*?)\*CloseUI", text, re.S):
+        if option == "PageRegion":
+            continue
+        for choice in re.findall(rf"^\*{option} ([^/]+)/", body, re.M):
+            yield option, choice
+        if kind := re.search(rf"^\*ParamCustom{option} Value/.*: 1 (\w+)", text, re.M):
+            yield option, "Custom." + CUSTOM[kind[1]]
+
+
+@functools.cache
+def run(options):
+    done = subprocess.run(
+        [BIN / "zarvofilter", "1", "user", "title", "1", options],
+        input=JOB, capture_output=True, timeout=60, check=True,
+        env={"PATH": os.environ["PATH"], "PPD": str(PPD), "TZ": "UTC",
+             "ZARVO_APPLICATION_SUPPORT": str(STORE_ROOT)},
+    )  # fmt: skip
+    assert b"ERROR" not in done.stderr, done.stderr
+    text = done.stdout.decode("utf-8", "replace").replace("\x1b", "ESC")
+    # The procedures of the page hooks and of the booklet are the same for every choice.
+    text = re.sub(r"currentglobal\nfalse setglobal\nuserdict /ZRVhooks.*?\n(?=/flipx)", "", text, flags=re.S)
+    text = re.sub(r'<([^ >]+) syntax ?="\w+"(?: xml:space="preserve")?>(.*)</[^>]+>', r"\1: \2", text)
+    text = re.sub(r'<([^ >]+) syntax="(?:collection|1setOf)">', r"\1 {", text)
+    text = re.sub(r"</(?!jtml|job-temp)[^ >]+>", "}", text)
+    text = re.sub(r"%%BeginResource: procset ZRV.*?%%EndResource\n", "", text, flags=re.S)
+    return text.splitlines()
+
+
+def lines():
+    for option, choice in choices():
+        if option in UNSEEN:
+            continue
+        beside = WITH.get(option, "")
+        added = [
+            line[0] + " ".join(line[1:].split())
+            for line in difflib.ndiff(run(f"{XML} {beside}"), run(f"{XML} {beside} {option}={choice}"))
+            if line[0] in "+-" and line[1:].strip() not in ("", "}")
+        ]
+        switches = "xml" if any("<jtml" in line for line in run(f"{option}={choice}")) else "-"
+        what = "  ".join(added) or "(nothing)"
+        yield f"{option}={choice} | {beside or '-'} | {switches} | {what}"
+
+
+def setUpModule():
+    """The store of watermarks that comes with the PPD, in its place."""
+    global STORE_ROOT
+    STORE_ROOT = pathlib.Path(os.environ["ZARVO_TEST_OUTPUT"]) / "ppd"
+    (STORE_ROOT / "Zarvo").mkdir(parents=True, exist_ok=True)
+    target = STORE_ROOT / "Zarvo/com.zarvo.printing.watermarks.plist"
+    target.write_bytes((SOURCE / "ppd/watermarks.plist").read_bytes())
+
+
+class Choices(unittest.TestCase):
+    maxDiff = None
+
+    def test_table(self):
+        self.assertEqual(TABLE.read_text(encoding="utf-8").splitlines(), list(lines()))
+
+    def test_ppd_is_sound(self):
+        done = subprocess.run(["cupstestppd", "-W", "filters", str(PPD)], capture_output=True, text=True)
+        said = done.stdout.splitlines()
+        self.assertIn("PASS", said[0], done.stdout)
+        self.assertEqual([line for line in said[1:] if "zarvofilter" not in line], [])
+
+    def test_translations_are_whole(self):
+        """Every text of the source is in each catalogue."""
+        texts = set(re.findall(
+            r'^ *(?:#media|Group|Option|\*?Choice|Attribute "(?:Param)?Custom\w+") "[^"/]+/([^"]+)"',
+            (SOURCE / "ppd/zarvo.drv").read_text(), re.M,
+        ))  # fmt: skip
+        for catalogue in (SOURCE / "ppd/po").glob("*.po"):
+            content = catalogue.read_text(encoding="utf-8")
+            entries = dict(re.findall(r'^msgid "(.+)"\nmsgstr "(.*)"', content, re.M))
+            self.assertEqual(texts - set(entries), set(), catalogue)
+            self.assertNotIn("", entries.values(), catalogue)
+
+
+if __name__ == "__main__":
+    if "--update" in sys.argv:
+        setUpModule()
+        TABLE.parent.mkdir(exist_ok=True)
+        TABLE.write_text("\n".join(lines()) + "\n", encoding="utf-8")
+    else:
+        unittest.main()

@@ -1,0 +1,99 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: Apache-2.0
+"""zarvo explain: jobs of the filter, whole and damaged, in words."""
+
+import json
+import unittest
+
+from zarvo import ALL_SECTIONS, ZarvoTest, document
+
+SECRETS = ["S3CR", "Tr0ub4dor", "ACCT-77", "4111222233"]
+JOBTYPE = "com.zarvo.print.JobType..d_"
+FULL = " ".join(
+    [
+        ALL_SECTIONS,
+        JOBTYPE + "JobType..n=6",
+        JOBTYPE + "SecurePrintPassword=S3CR",
+        "com.zarvo.Act.On..n=3 com.zarvo.Act.UID=Tr0ub4dor com.zarvo.Act.AID=ACCT-77",
+        "com.zarvo.Act.jtml.On..n=3 com.zarvo.Act.jtml.UID=Tr0ub4dor",
+        "com.zarvo.Act.jtml.AID=ACCT-77",
+        "com.zarvo.print.BannerPage..b=true com.zarvo.print.RequestOffset..b=false",
+        "com.zarvo.print.JobNotesJobName='Q3 & more' com.zarvo.print.JobNotesSenderName=Ada",
+        "com.zarvo.print.JobLevelStock..d_Size..n=4 com.zarvo.print.JobLevelStock..d_Color..n=2",
+        "com.zarvo.print.FinishingOptions..n=4 com.zarvo.print.FinishingStaple1Value..n=5",
+        "com.zarvo.print.FinishingDuplex..n=2 com.zarvo.print.Resolution..n=2",
+        "com.zarvo.print.SpecialPages.FrontCover..d_Stock..d_Size..n=4",
+        "com.zarvo.print.SpecialPages.InsertList..a_0..d_StartPage..n=3",
+        "com.zarvo.print.SpecialPages.InsertList..a_0..d_Stock..d_Color..n=5",
+        "com.zarvo.print.SpecialPages.ExceptionList..a_0..d_StartPage..n=2",
+        "com.zarvo.print.SpecialPages.ExceptionList..a_0..d_EndPage..n=4",
+        "com.zarvo.print.PagesToPrintSelected..n=1 com.zarvo.print.PagesToPrintFrom..n=1",
+        "com.zarvo.print.PagesToPrintTo..n=9",
+    ]
+)
+FAX = " ".join(
+    [
+        JOBTYPE + "JobType..n=5",
+        "com.zarvo.print.FaxOptions..d_Resolution..n=3",
+        "com.zarvo.print.FaxOptions..d_CreditCard=4111222233",
+        "com.zarvo.print.FaxRecipientList..a_0..d_FaxNumber='+1 (202) 555-0143'",
+        "com.zarvo.print.FaxRecipientList..a_1..d_Mailbox=12",
+    ]
+)
+
+
+class Explain(ZarvoTest):
+    def test_whole_jobs(self):
+        jobs = {"explain-secure": (FULL, document(3, (595, 842))), "explain-fax": (FAX, document())}
+        for name, (options, job) in jobs.items():
+            with self.subTest(name):
+                text = self.run_zarvo("explain", stdin=self.filtered(options, job))
+                for secret in SECRETS:
+                    self.assertNotIn(secret, text)
+                self.assert_golden(name + ".txt", text)
+
+    def test_json_says_the_same(self):
+        job = self.path("job.prn", self.filtered(FULL, document(3, (595, 842))))
+        report = json.loads(self.run_zarvo("explain", "--json", job))
+        self.assertEqual(report["document"]["pages"], 3)
+        self.assertEqual(report["document"]["page_sizes"], ["A4, 210 x 297 mm"])
+        self.assertEqual(report["findings"], [])
+        sides = [s["value"] for s in report["ticket"] if s["code"] == "sides"]
+        self.assertEqual(sides[0], "two-sided-long-edge")
+        for secret in SECRETS:
+            self.assertNotIn(secret, json.dumps(report))
+
+    def test_what_looks_wrong(self):
+        good = self.filtered(FULL, document(2))
+        for finding, damaged in {
+            "the end of the job (PJL EOJ) is missing": good.replace(b"@PJL EOJ", b"@PJL COMMENT"),
+            "the PostScript does not end": good[:-200],
+            "not well-formed: line 5": good.replace(b"</job-name>", b"</job-nam>"),
+            "sides: unknown code three-sided": good.replace(b">two-sided-long-edge<", b">three-sided<"),
+            "unknown element sidse": good.replace(b"sides", b"sidse"),
+            "the XML ticket does not end": good.replace(b"</jtml>", b"</jtlm>"),
+            "unknown code OID_VAL_JOB_TYPE_HOLD": good.replace(b"TYPE_SECURE_PRINT", b"TYPE_HOLD"),
+            "unknown setting JOB_PASSWROD": good.replace(b"PASSWORD", b"PASSWROD"),
+            "no PJL envelope": document(1).encode(),
+            "no PostScript document": b"",
+            "finishing: unknown code 77": good.replace(b">20<", b">77<"),
+            "printed after: no date and time": self.filtered(
+                JOBTYPE + "JobType..n=7", document()
+            ),
+        }.items():
+            with self.subTest(finding):
+                self.assertIn(finding, self.run_zarvo("explain", stdin=damaged, status=1))
+
+    def test_hostile_jobs_end(self):
+        self.run_zarvo("explain", stdin=b"<?xml?><jtml>" + b"<media-col>" * 100_000, status=1)
+        self.run_zarvo("explain", stdin=b"@PJL COMMENT x\n" * 200_000, status=1)
+        self.assertNotIn(b"\x1b]0;", self.run_zarvo(
+            "explain", stdin=b'@PJL COMMENT OID_ATT_SAVE_NAME "\x1b]0;x";\n', status=1).encode())
+
+    def test_missing_file(self):
+        self.run_zarvo("explain", "missing.prn", status=2)
+        self.assertIn("missing.prn: No such file", self.errors)
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,128 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: Apache-2.0
+"""zarvo watermark, recipient and fax: what they store is what jobs and dialogs read."""
+
+import json
+import plistlib
+import subprocess
+import unittest
+
+from zarvo import ZarvoTest
+from pictures import box_of, png, read_png
+
+
+class Watermarks(ZarvoTest):
+    def store(self, name="watermarks"):
+        return plistlib.loads(
+            (self.scratch / f"data/Zarvo/com.zarvo.printing.{name}.plist").read_bytes()
+        )
+
+    def test_texts_and_images_come_and_go(self):
+        logo = self.path("logo.png", png(30, 20, (0, 0, 255)))
+        self.run_zarvo("watermark", "add-text", "Entwurf \u00e9", "--size", "40", "-x", "99")
+        self.run_zarvo("watermark", "add-image", logo, "--scale", "300")
+        self.run_zarvo("watermark", "add-text", "Entwurf \u00e9", "--color", "#ff8000", "-x", "9.5")
+        listed = json.loads(self.run_zarvo("watermark", "list", "--json"))
+        self.assertEqual([w["name"] for w in listed], ["None", "Entwurf \u00e9", "logo.png"])
+        store = self.store()
+        text = store["Entwurf \u00e9"]
+        self.assertEqual((text["xPos"], text["fontSize"], text["fontColorBlue"]), (9.5, 72, 0))
+        self.assertAlmostEqual(text["fontColorGreen"], 128 / 255, places=6)
+        image = self.scratch / "data/Zarvo/logo.png"
+        self.assertEqual(store["logo.png"]["filePath"], str(image))
+        self.assertEqual(image.stat().st_mode & 0o777, 0o644)
+        self.run_zarvo("watermark", "remove", "logo.png")
+        self.assertFalse(image.exists())
+        self.assertEqual(self.store()["WatermarkListEntries"], ["None", "Entwurf \u00e9"])
+        self.run_zarvo("watermark", "remove", "logo.png", status=2)
+
+    def test_show_draws_what_jobs_print(self):
+        logo = self.path("logo.png", png(30, 20, (0, 0, 255)))
+        self.run_zarvo("watermark", "add-image", logo, "--scale", "300")
+        self.run_zarvo("watermark", "add-text", "HH", "--color", "#ff0000", "--angle", "0")
+        self.run_zarvo("watermark", "show", "HH", "--place", "foreground", "--output", "t.png")
+        left, top, right, bottom = box_of(read_png(self.scratch / "t.png"), (255, 0, 0))
+        # Centred, two capitals of 72 points wide and one high.
+        self.assertAlmostEqual((left + right) / 2, 306, delta=6)
+        self.assertAlmostEqual((top + bottom) / 2, 396, delta=6)
+        self.assertAlmostEqual(bottom - top, 52, delta=3)
+        self.run_zarvo("watermark", "show", "logo.png", "--place", "foreground", "--output", "i.png")
+        left, top, right, bottom = box_of(read_png(self.scratch / "i.png"), (0, 0, 255))
+        self.assertEqual((round((right - left) / 10), round((bottom - top) / 10)), (9, 6))
+
+    def test_fonts_are_stored_as_printers_take_them(self):
+        clear = b"%!PS-AdobeFont-1.0: Tiny\r/FontName /Tiny def\r"
+        segments = [(1, clear), (2, bytes(range(40))), (1, b"cleartomark\r")]
+        pfb = b"".join(b"\x80" + bytes([kind]) + len(data).to_bytes(4, "little") + data
+                       for kind, data in segments) + b"\x80\x03"
+        name = self.run_zarvo("watermark", "font", self.path("tiny.pfb", pfb)).strip()
+        self.assertEqual(name, "Tiny")
+        hexed = bytes(range(32)).hex() + "\n" + bytes(range(32, 40)).hex() + "\n"
+        expected = clear.replace(b"\r", b"\n") + hexed.encode() + b"cleartomark\n"
+        self.assertEqual(self.store()["Tiny"], expected)
+        for broken in (pfb[:60], b"\x80\x01\xff\xff\xff\xff", b"OTTO", b""):
+            self.run_zarvo("watermark", "font", self.path("broken", broken), status=2)
+
+    def test_bad_arguments(self):
+        self.run_zarvo("watermark", "add-text", "x" * 512, status=2)
+        self.run_zarvo("watermark", "add-text", "x", "--color", "red", status=2)
+        self.run_zarvo("watermark", "add-text", "x", "--font", "a) show (", status=2)
+        self.run_zarvo("watermark", "add-image", "missing.png", status=2)
+        self.run_zarvo("watermark", "add-image", self.path("a.png", b""), "--name", "../b", status=2)
+        self.run_zarvo("watermark", "show", "nothing", status=2)
+        self.assertIn("zarvo watermark list", self.errors)
+
+    def test_a_store_that_cannot_be_written(self):
+        self.environment["ZARVO_APPLICATION_SUPPORT"] = "/proc"
+        self.run_zarvo("watermark", "add-text", "x", status=2)
+        self.assertIn("as root", self.errors)
+
+
+class Recipients(ZarvoTest):
+    def test_people_and_groups(self):
+        ada = self.run_zarvo("recipient", "add", "--first", "Ada", "--last", "de L\u00f3velace; x",
+                             "--fax", "+44 20 7946", "--organization", "A;B\\, C",
+                             "--phone", "5", "--email", "ada@example.org").strip()
+        box = self.run_zarvo("recipient", "add", "--mailbox", "12").strip()
+        self.run_zarvo("recipient", "group", "Branches", "Ada de L\u00f3velace; x", box[:8], ada)
+        group = json.loads(self.run_zarvo("recipient", "list", "--json", "--group", "Branches"))
+        people = {p["UID"]: p for p in group["com.zarvo.print.FaxRecipientList"]}
+        self.assertEqual(people[ada], {
+            "UID": ada, "FirstName": "Ada", "LastName": "de L\u00f3velace; x",
+            "FaxNumber": "+44 20 7946", "Organization": "A;B\\, C", "PhoneNumber": "5",
+            "EmailAddress": "ada@example.org",
+        })
+        self.assertEqual(people[box], {"UID": box, "Mailbox": "12"})
+        self.assertIn("group Branches  members 2", self.run_zarvo("recipient", "list"))
+        self.run_zarvo("recipient", "remove", ada)
+        self.assertIn("group Branches  members 1", self.run_zarvo("recipient", "list"))
+        self.run_zarvo("recipient", "remove", ada, status=2)
+        # What it prints goes into a ticket as it is.
+        self.run_zarvo("ticket", "check", stdin=self.run_zarvo("recipient", "list", "--json"))
+
+    def test_bad_arguments(self):
+        self.run_zarvo("recipient", "add", "--first", "Ada", status=2)
+        self.run_zarvo("recipient", "add", "--fax", "no number", status=2)
+        for _ in range(2):
+            self.run_zarvo("recipient", "add", "--first", "Bo", "--fax", "1")
+        self.run_zarvo("recipient", "remove", "Bo", status=2)
+        self.assertIn("more than one", self.errors)
+        self.run_zarvo("recipient", "remove", "", status=2)
+        self.environment["ZARVO_ADDRESS_BOOK"] = "/proc/contacts"
+        self.run_zarvo("recipient", "add", "--fax", "1", status=2)
+        self.assertIn("/proc/contacts", self.errors)
+
+    def test_cover_sheet(self):
+        settings = {"FaxOptions": {"ShowRecipients": "names", "LocalizedToLabel": "To",
+                                   "CoverSheetNotes": "With thanks", "Size": "a4"},
+                    "FaxRecipientList": [{"FirstName": "Ada"}, {"LastName": "Hopper"}]}
+        self.run_zarvo("fax", "preview", "--output", "c.pdf", stdin=json.dumps(settings))
+        text = subprocess.run(["pdftotext", "-layout", self.scratch / "c.pdf", "-"],
+                              capture_output=True, text=True, check=True).stdout
+        self.assertEqual(text.split("\n")[0].strip(), "To")
+        self.assertIn("Ada, Hopper", text)
+        self.assertIn("With thanks", text)
+
+
+if __name__ == "__main__":
+    unittest.main()

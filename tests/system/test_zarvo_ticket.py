@@ -1,0 +1,132 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: Apache-2.0
+"""zarvo ticket: readable tickets to options and back, misspelt keys, the list of keys."""
+
+import json
+import plistlib
+import re
+import unittest
+
+from zarvo import SOURCE, ZarvoTest
+
+NASTY = "a b\tc\nd 'e' \"f\" \\g {h} i=j , \u00e9 \u65e5 #$%"
+TICKET = {
+    "com.zarvo.print.JobType": {"JobType": "secure", "SecurePrintPassword": "1 2'3\\4"},
+    "com.zarvo.print.JTMLOptions": {"JTMLOptionAll": True},
+    "com.zarvo.print.BannerPage": False,
+    "com.zarvo.print.JobNotesMessage": NASTY,
+    "com.zarvo.print.SpecialPages.InsertList": [
+        {"StartPage": n, "Stock": {"Size": "a4", "Color": "blue"}} for n in range(12)
+    ],
+    "com.zarvo.print.FaxOptions": {"SendTime": "2026-12-31T23:59", "SenderName": ""},
+    "com.zarvo.print.Icon": {"$data": "00ff10"},
+    "sides": "two-sided-long-edge",
+}
+
+
+class Ticket(ZarvoTest):
+    def test_round_trip(self):
+        options = self.run_zarvo("ticket", "encode", stdin=json.dumps(TICKET))
+        self.assertIn("com.zarvo.print.JobType..d_JobType..n=6 ", options)
+        self.assertIn("com.zarvo.print.FaxOptions..d_SendTime..n=3881606340 ", options)
+        back = json.loads(self.run_zarvo("ticket", "decode", "--secrets", stdin=options))
+        self.assertEqual(back, TICKET)
+        # The same through a property list, which keeps numbers as numbers.
+        xml = self.run_zarvo("ticket", "decode", "--secrets", "-f", "plist", stdin=options)
+        self.assertEqual(plistlib.loads(xml.encode())["com.zarvo.print.JobType"]["JobType"], 6)
+        self.assertEqual(self.run_zarvo("ticket", "encode", stdin=xml), options)
+
+    def test_secrets_are_shown_to_who_asks_only(self):
+        ticket = {
+            "com.zarvo.print.JobType": {"SecurePrintPassword": "S3CRET"},
+            "com.zarvo.Act.UID": "S3CRET",
+            "com.zarvo.Act.AID": "S3CRET",
+            "com.zarvo.print.FaxOptions": {"CreditCard": "S3CRET"},
+        }
+        text = json.dumps(ticket)
+        for form in ("json", "plist"):
+            shown = self.run_zarvo("ticket", "decode", "-f", form, stdin=text)
+            self.assertNotIn("S3CRET", shown)
+        # What was hidden must not be printed as if it were the PIN.
+        hidden = self.run_zarvo("ticket", "decode", stdin=text)
+        self.run_zarvo("ticket", "encode", stdin=hidden, status=2)
+        self.assertIn("hidden", self.errors)
+
+    def test_short_names_and_spooler_options(self):
+        lines = self.run_zarvo(
+            "ticket", "encode", "-l", stdin='{"TonerSaver": true, "copies": 3, "Resolution": "600x600"}'
+        )
+        self.assertEqual(
+            sorted(lines.split()),
+            ["com.zarvo.print.Resolution..n=2", "com.zarvo.print.TonerSaver..b=true", "copies=3"],
+        )
+
+    def test_what_options_cannot_carry_is_refused(self):
+        for ticket, place in {
+            '{"com.k": 1.5}': "com.k",
+            '{"com.k": null}': "com.k",
+            '{"com.k": []}': "com.k",
+            '{"com.k": {"a b": 1}}': "com.k/a b",
+            '{"com.k": {"a..b": 1}}': "com.k",
+            '{"com.k": {"a": 1, "A": 2}}': "com.k..d_A",
+            '{"com.k": 4294967296}': "com.k",
+            '{"com.k": {"$data": "0g"}}': "com.k",
+            '{"com.k": "a\\u0000b"}': "com.k",
+            '{"com.k": ': "line 1",
+            '["com.k"]': "",
+            "{" * 100000: "",
+            '{"a":' * 60 + "1" + "}" * 60: "",
+            "<plist><string>x</string></plist>": "dictionary",
+        }.items():
+            with self.subTest(ticket=ticket[:40]):
+                self.assertEqual(self.run_zarvo("ticket", "encode", stdin=ticket, status=2), "")
+                self.assertIn(place, self.errors)
+
+    def test_check_names_the_nearest(self):
+        for ticket, finding in {
+            '{"JobTyp": {"JobType": 6}}': "JobTyp: unknown key; did you mean JobType?",
+            '{"JobType": {"SavedJobNam": "x"}}': "did you mean SavedJobName?",
+            '{"JobType": {"JobType": "secur"}}': 'did you mean "secure"?',
+            '{"com.zarvo.print.tonersaver": true}': "did you mean com.zarvo.print.TonerSaver?",
+            '{"com.zarvo.print.Nonsense": 1}': "com.zarvo.print.Nonsense: unknown key\n",
+            '{"BannerPage": "yes"}': "com.zarvo.print.BannerPage: takes true or false",
+            '{"JTMLOptions": {"JTMLOptionAll": 1}, "Resolution": 9}': "9 is out of range",
+            '{"Resolution": 2}': "has no effect without com.zarvo.print.JTMLOptions",
+            '{"SpecialPages.FrontCover": {"Stock": {"Colour": 1}}}': "did you mean Color?",
+            '{"FaxRecipientList": [{"FaxNumer": "1"}]}': "FaxRecipientList/0/FaxNumer: unknown",
+            '{"JobLevelStock": {"Size": 9}}': "no stock has the code 9",
+            '{"JobType": {"JobType": "secure"}}': "needs a SecurePrintPassword",
+            "com.zarvo.print.JobType..d_JobTyp..n=6": "did you mean JobType?",
+        }.items():
+            with self.subTest(ticket=ticket):
+                self.assertIn(finding, self.run_zarvo("ticket", "check", stdin=ticket, status=1))
+        good = '{"JobType": {"JobType": "proof"}, "sides": "one-sided", "PageSize": "A4"}'
+        self.assertEqual(self.run_zarvo("ticket", "check", stdin=good), "")
+
+    def test_keys_are_those_of_the_ticket_page(self):
+        """The page tells the options, the tool the keys; neither may know more than the other."""
+        types = {"n": ("number", "date", "any"), "b": ("boolean", "any"), "": ("text", "any")}
+        listed = {}
+        for line in self.run_zarvo("ticket", "keys").splitlines():
+            key, type_name, _ = line.split("\t")
+            listed[key] = type_name
+        told = set()
+        for name in re.findall(r"^\| `(com\.[^`]*)`", (SOURCE / "docs/ticket.md").read_text(), re.M):
+            parts = name.split("..")
+            letter = parts.pop() if parts[-1] in ("n", "b") else ""
+            path = parts[0] + "".join("/" + part[2:] for part in parts[1:] if part[0] == "d")
+            with self.subTest(option=name):
+                self.assertIn(listed.get(path), types[letter])
+            while path:
+                told.add(path)
+                path = path.rpartition("/")[0]
+        # Whole groups are described once, for the first key that holds one.
+        described_elsewhere = re.compile(
+            r"/Stock/|ImageShiftOptionsPage/|FullColorOptionsPage/|(InsertList|ExceptionList)/Stock"
+        )
+        untold = {key for key in set(listed) - told if not described_elsewhere.search(key)}
+        self.assertEqual(untold, set())
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,83 @@
+# SPDX-License-Identifier: Apache-2.0
+"""What the tests of the command-line tool share: a scratch folder and ways to run things."""
+
+import os
+import pathlib
+import subprocess
+import tempfile
+import unittest
+
+BIN = pathlib.Path(os.environ["ZARVO_BIN"])
+SOURCE = pathlib.Path(os.environ["ZARVO_SOURCE"])
+OUTPUT = pathlib.Path(os.environ["ZARVO_TEST_OUTPUT"])
+EXPECTED = pathlib.Path(__file__).resolve().parent / "expected"
+PPD = SOURCE / "tests/golden/ppd/test.ppd"
+
+ALL_SECTIONS = "com.zarvo.print.JTMLOptions..d_JTMLOptionAll..b=true"
+
+
+def document(pages=1, size=(612, 792)):
+    """A PostScript document with a number on each page."""
+    text = "%!PS-Adobe-3.0\n%%BeginProlog\n%%EndProlog\n%%BeginSetup\n"
+    text += f"<< /PageSize [{size[0]} {size[1]}] >> setpagedevice\n%%EndSetup\n"
+    for page in range(1, pages + 1):
+        text += f"%%Page: {page} {page}\n%%BeginPageSetup\n%%EndPageSetup\n"
+        text += f"/Helvetica 96 selectfont 90 {size[1] - 180} moveto ({page}) show\nshowpage\n"
+    return text + "%%Trailer\n%%EOF\n"
+
+
+class ZarvoTest(unittest.TestCase):
+    maxDiff = None
+
+    def setUp(self):
+        scratch = tempfile.TemporaryDirectory()
+        self.addCleanup(scratch.cleanup)
+        self.scratch = pathlib.Path(scratch.name)
+        (self.scratch / "data").mkdir()
+        self.environment = {
+            "PATH": os.environ["PATH"],
+            "HOME": str(self.scratch),
+            "TMPDIR": str(self.scratch),
+            "TZ": "UTC",
+            "ZARVO_APPLICATION_SUPPORT": str(self.scratch / "data"),
+            "ZARVO_ADDRESS_BOOK": str(self.scratch / "contacts"),
+            "ASAN_OPTIONS": os.environ.get("ASAN_OPTIONS", ""),
+        }
+
+    def path(self, name, content=None):
+        path = self.scratch / name
+        if content is not None:
+            path.write_bytes(content if isinstance(content, bytes) else content.encode())
+        return str(path)
+
+    def run_zarvo(self, *arguments, stdin=b"", status=0):
+        """Standard output of the tool as text; the log is kept in self.errors."""
+        done = subprocess.run(
+            [BIN / "zarvo", *arguments],
+            input=stdin if isinstance(stdin, bytes) else stdin.encode(),
+            capture_output=True,
+            env=self.environment,
+            cwd=self.scratch,
+            timeout=120,
+        )
+        self.errors = done.stderr.decode()
+        self.assertEqual(done.returncode, status, self.errors + done.stdout.decode())
+        return done.stdout.decode()
+
+    def filtered(self, options, job):
+        """What the filter makes of a job."""
+        return subprocess.run(
+            [BIN / "zarvofilter", "1", "ada", "title", "1", options],
+            input=job.encode(),
+            capture_output=True,
+            env=self.environment | {"PPD": str(PPD)},
+            check=True,
+            timeout=120,
+        ).stdout
+
+    def assert_golden(self, name, text):
+        """Compares with a file of expected/; ZARVO_UPDATE=1 writes it instead."""
+        path = EXPECTED / name
+        if os.environ.get("ZARVO_UPDATE"):
+            path.write_text(text)
+        self.assertEqual(text, path.read_text())

@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Platform/Process.h"
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+
+#include <cerrno>
+
+namespace zarvo {
+namespace {
+
+std::optional<Process> Shell(const std::string& script, ProcessOptions options = {}) {
+  options.arguments = {"/bin/sh", "-c", script};
+  return Process::Start(options);
+}
+
+std::string ReadAll(Process& process) {
+  std::string text;
+  for (int c; (c = std::getc(process.output())) != EOF;) text += static_cast<char>(c);
+  return text;
+}
+
+TEST(Process, ArgumentsReachTheProgramUntouched) {
+  ProcessOptions options;
+  options.arguments = {"/usr/bin/printf", "%s|", "$(id) `id`; \"x'", "", "-"};
+  std::optional<Process> process = Process::Start(options);
+  ASSERT_TRUE(process);
+  EXPECT_EQ(ReadAll(*process), "$(id) `id`; \"x'||-|");
+  EXPECT_EQ(process->Wait(), 0);
+}
+
+TEST(Process, ChildrenCanBeChained) {
+  const UniqueFd text = OpenMemoryFile("b\na\n");
+  ProcessOptions options;
+  options.input_fd = text.get();
+  std::optional<Process> first = Shell("cat; echo c", options);
+  ASSERT_TRUE(first);
+  const UniqueFd between = first->TakeOutput();
+  options.input_fd = between.get();
+  std::optional<Process> second = Shell("sort -r", options);
+  ASSERT_TRUE(second);
+  EXPECT_EQ(ReadAll(*second), "c\nb\na\n");
+  EXPECT_EQ(first->Wait(), 0);
+  EXPECT_EQ(second->Wait(), 0);
+}
+
+TEST(Process, ProgramsThatCannotStartGiveTheReason) {
+  ProcessOptions options;
+  options.arguments = {"/no/such/program"};
+  EXPECT_FALSE(Process::Start(options));
+  EXPECT_EQ(errno, ENOENT);
+  options.arguments = {"/etc/passwd"};
+  EXPECT_FALSE(Process::Start(options));
+  EXPECT_EQ(errno, EACCES);
+}
+
+TEST(Process, InheritsNothingButTheStandardThree) {
+  const UniqueFd file = OpenMemoryFile("x");
+  const int leaked = ::fcntl(file.get(), F_DUPFD, 200);  // not close-on-exec
+  ASSERT_GE(leaked, 200);
+  std::optional<Process> process = Shell("ls /proc/self/fd | grep -c '^2..$'");
+  ASSERT_TRUE(process);
+  EXPECT_EQ(ReadAll(*process), "0\n");
+  ::close(leaked);
+}
+
+TEST(Process, AHangingFamilyIsKilledWhenTheTimeIsUp) {
+  ProcessOptions options;
+  options.wall_clock = std::chrono::milliseconds(200);
+  // The grandchild holds the pipe open as well.
+  std::optional<Process> process = Shell("echo begun; sleep 60 & sleep 60", options);
+  ASSERT_TRUE(process);
+  EXPECT_EQ(ReadAll(*process), "begun\n");
+  EXPECT_TRUE(std::ferror(process->output()));
+  EXPECT_TRUE(WIFSIGNALED(process->Wait()));
+
+  options.wall_clock = std::chrono::milliseconds(100);
+  std::optional<Process> silent = Shell("exec sleep 60", options);
+  ASSERT_TRUE(silent);
+  EXPECT_TRUE(WIFSIGNALED(silent->Wait()));
+}
+
+TEST(Process, LimitsHold) {
+  ProcessOptions options;
+  options.cpu_seconds = 1;
+  options.address_space = 512 << 20;
+  std::optional<Process> process = Shell("ulimit -t; ulimit -c; while :; do :; done", options);
+  ASSERT_TRUE(process);
+  EXPECT_EQ(ReadAll(*process), "1\n0\n");
+  const int status = process->Wait();
+  ASSERT_TRUE(WIFSIGNALED(status));
+  EXPECT_EQ(WTERMSIG(status), SIGXCPU);
+}
+
+TEST(Process, NoChildOutlivesTheProgramThatStartedIt) {
+  int report[2];
+  ASSERT_EQ(::pipe(report), 0);
+  const pid_t filter = ::fork();
+  if (filter == 0) {
+    std::optional<Process> process = Shell("echo $$; exec sleep 60");
+    int child = 0;
+    if (std::fscanf(process->output(), "%d", &child) != 1) ::_exit(1);
+    [[maybe_unused]] const ssize_t written = ::write(report[1], &child, sizeof child);
+    ::raise(SIGKILL);
+  }
+  int child = 0;
+  ASSERT_EQ(::read(report[0], &child, sizeof child), ssize_t{sizeof child});
+  ::waitpid(filter, nullptr, 0);
+  // The orphan is reaped by whoever adopts it; until then it is a zombie, which is dead as well.
+  const auto is_dead = [child] {
+    const std::string path = "/proc/" + std::to_string(child) + "/stat";
+    std::FILE* file = std::fopen(path.c_str(), "re");
+    if (file == nullptr) return true;
+    char state = 0;
+    const int got = std::fscanf(file, "%*d (%*[^)]) %c", &state);
+    std::fclose(file);
+    return got != 1 || state == 'Z' || state == 'X';
+  };
+  for (int tries = 0; tries < 200 && !is_dead(); ++tries) ::usleep(10000);
+  EXPECT_TRUE(is_dead());
+}
+
+}  // namespace
+}  // namespace zarvo

@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Platform/Value.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+#include "Platform/Clock.h"
+#include "Platform/Log.h"
+#include "Platform/Text.h"
+#include "Source/CFAdditions.h"
+
+namespace zarvo {
+namespace {
+
+TEST(Number, ConvertsOnlyWhatFits) {
+  std::int32_t out = 77;
+  const auto narrow = [&out](Number number) {
+    out = 77;
+    return number.Get(&out);
+  };
+  EXPECT_TRUE(narrow(Number(std::int64_t{-2147483648})));
+  EXPECT_EQ(out, std::numeric_limits<std::int32_t>::min());
+  EXPECT_FALSE(narrow(Number(std::int64_t{2147483648})));
+  EXPECT_EQ(out, 77) << "a number that does not fit leaves the default";
+  EXPECT_TRUE(narrow(Number(-3.99)));
+  EXPECT_EQ(out, -3);
+  EXPECT_FALSE(narrow(Number(std::numeric_limits<double>::quiet_NaN())));
+  EXPECT_FALSE(narrow(Number(9223372036854775808.0)));
+  EXPECT_EQ(Number(std::uint32_t{4294967295}).type(), Number::Type::kSInt64);
+}
+
+TEST(Value, DeepTreesAreReleasedWithoutRecursion) {
+  Value tree;
+  for (int level = 0; level < 200000; ++level) {
+    if (level % 2 == 0) {
+      Array array;
+      array.push_back(std::move(tree));
+      tree = Value(std::move(array));
+    } else {
+      Dictionary dictionary;
+      dictionary.emplace("x", std::move(tree));
+      tree = Value(std::move(dictionary));
+    }
+  }
+  tree = Value("gone");
+  EXPECT_EQ(*tree.AsString(), "gone");
+}
+
+TEST(CFAdditions, KindsAreNotMixedUp) {
+  Dictionary ticket;
+  ticket.emplace("flag", Value::Boolean(true));
+  ticket.emplace("text", Value("5"));
+  int number = 9;
+  EXPECT_FALSE(CFDictionaryGetNumber(ticket, "flag", &number)) << "a boolean is not a number";
+  EXPECT_FALSE(CFDictionaryGetNumber(ticket, "text", &number));
+  EXPECT_FALSE(CFDictionaryGetNumber(ticket, "none", &number));
+  EXPECT_EQ(number, 9);
+  CFDictionarySetNumber(ticket, "text", &number);
+  EXPECT_TRUE(CFDictionaryGetNumber(ticket, "text", &number));
+  EXPECT_FALSE(CFDictionarySetCString(ticket, "bad", "\xff"));
+  EXPECT_FALSE(DictionaryContains(ticket, "bad"));
+  CFDictionaryGetDictionaryOrCreate(ticket, "flag").emplace("inner", Value("x"));
+  EXPECT_EQ(*DictionaryGetString(*DictionaryGetDictionary(ticket, "flag"), "inner"), "x");
+}
+
+TEST(Text, NormalisesAndCutsAtCharacters) {
+  EXPECT_EQ(MakeString("e\xCC\x81"), "\xC3\xA9");
+  EXPECT_EQ(MakeString("\xC3("), std::nullopt);
+  EXPECT_EQ(MakeString("\xED\xA0\x80"), std::nullopt) << "a lone surrogate";
+  EXPECT_EQ(Utf8Prefix("a\xC3\xA9", 2), "a");
+  EXPECT_EQ(Utf8Prefix("a\xC3\xA9", 3), "a\xC3\xA9");
+}
+
+TEST(Log, TextNeverStartsALineOfItsOwn) {
+  testing::internal::CaptureStderr();
+  LogLine("DEBUG: %s", "a\nSTATE: +x\r\x1b\x7f");
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "DEBUG: a?STATE: +x???\n");
+}
+
+TEST(Clock, CountsTheCalendarFrom1904) {
+  struct Row {
+    std::int64_t seconds;
+    int year, month, day, hour, minute, weekday;
+  };
+  const Row rows[] = {
+      {0, 1904, 1, 1, 0, 0, 6},               // a Friday
+      {-1, 1903, 12, 31, 23, 59, 5},          // counts before the epoch too
+      {59 * 86400, 1904, 2, 29, 0, 0, 2},     // 1904 is a leap year
+      {3880871100, 2026, 12, 23, 11, 45, 4},  // beyond 31 bits
+      {std::numeric_limits<std::int64_t>::max(), 32767, 12, 31, 23, 59, 1},
+  };
+  for (const Row& row : rows) {
+    const LongDateRec date = LongSecondsToDate(row.seconds);
+    EXPECT_EQ(date.year, row.year) << row.seconds;
+    EXPECT_EQ(date.month, row.month) << row.seconds;
+    EXPECT_EQ(date.day, row.day) << row.seconds;
+    EXPECT_EQ(date.hour, row.hour) << row.seconds;
+    EXPECT_EQ(date.minute, row.minute) << row.seconds;
+    EXPECT_EQ(date.dayOfWeek, row.weekday) << row.seconds;
+  }
+}
+
+}  // namespace
+}  // namespace zarvo
