@@ -14,7 +14,6 @@
 #include <vector>
 
 #include "CUPSFilter/psgets.h"
-#include "Platform/Process.h"
 
 namespace zarvo {
 namespace {

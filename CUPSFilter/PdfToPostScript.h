@@ -6,6 +6,8 @@
 #include <cstdio>
 #include <string>
 
+#include "Platform/Process.h"
+
 namespace zarvo {
 
 /// Where the converters are and how long they may take.
@@ -15,8 +17,8 @@ struct PdfConverters {
   std::string filter_folder = DefaultFilterFolder();
   /// Used alone when one of the filters is missing.
   std::string poppler = "/usr/bin/pdftops";
-  /// Both together are killed after this time.
-  std::chrono::milliseconds limit = std::chrono::seconds(20);
+  /// Both together are killed after this time. The environment may name another one.
+  std::chrono::milliseconds limit = ProcessTimeLimit(std::chrono::seconds(20));
 
   static std::string DefaultFilterFolder();
 };

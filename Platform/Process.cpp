@@ -15,6 +15,8 @@
 #include <algorithm>
 #include <atomic>
 #include <cerrno>
+#include <charconv>
+#include <cstdlib>
 #include <thread>
 
 namespace zarvo {
@@ -238,6 +240,16 @@ int Process::Wait() {
     std::this_thread::sleep_for(pause);
   }
   return child_->status;
+}
+
+std::chrono::milliseconds ProcessTimeLimit(std::chrono::seconds usual) {
+  constexpr int kLongest = 3600;
+  const char* value = std::getenv("ZARVO_HELPER_SECONDS");
+  const std::string_view text = value != nullptr ? value : "";
+  int seconds = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), seconds);
+  const bool valid = error == std::errc() && end == text.data() + text.size();
+  return valid && seconds >= 1 && seconds <= kLongest ? std::chrono::seconds(seconds) : usual;
 }
 
 void EndChildrenOnTermination() {

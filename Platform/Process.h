@@ -63,6 +63,10 @@ class Process {
   std::unique_ptr<Child, Reaper> child_;
 };
 
+/// How long a child may take in all: `usual`, or the whole seconds (1 to 3600) that the
+/// environment's ZARVO_HELPER_SECONDS names, for servers that are slower or less patient than most.
+std::chrono::milliseconds ProcessTimeLimit(std::chrono::seconds usual);
+
 /// From now on a signal that asks this program to end (SIGTERM, SIGINT, SIGHUP) ends its running
 /// children first, with all that they have started, and then this program.
 void EndChildrenOnTermination();

@@ -27,7 +27,7 @@ std::optional<Process> StartDrawHelper(std::vector<std::string> job, int input_f
   options.arguments.insert(options.arguments.begin(), DrawHelperPath());
   options.input_fd = input_fd;
   options.cpu_seconds = 60;
-  options.wall_clock = std::chrono::minutes(2);
+  options.wall_clock = ProcessTimeLimit(std::chrono::minutes(2));
   options.address_space = std::uint64_t{3} << 29;
   return Process::Start(options);
 }

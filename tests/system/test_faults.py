@@ -311,6 +311,18 @@ class Helpers(Faults):
                     self.assert_told(result, 0, "cover sheet was left out")
                     self.assertEqual(result[0], plain)
 
+    def test_hanging_programs_are_ended(self):
+        plain, _, _ = self.run_to_end(FEATURES["cover"].replace("=true", "=false"))
+        self.environment["ZARVO_HELPER_SECONDS"] = "1"
+        hang = "trap '' TERM HUP INT; sleep 60 & sleep 60"
+        self.replace_helper(f"printf 'P6\\n100 100\\n255\\nxx'; {hang}")
+        self.assert_told(self.run_to_end("image", timeout=6), 0, "watermark image", "too long")
+        self.assert_told(self.run_to_end("cover", timeout=6), 0, "cover sheet was left out")
+        shutil.copy(BIN / "zarvodraw", self.scratch)
+        self.replace_converter(hang)
+        result = self.run_to_end("cover", timeout=6)
+        self.assert_told(result, 0, "cover sheet was left out", "did not finish in time")
+        self.assertEqual(result[0], plain)
 
     def test_a_job_of_many_headers_starts_few_programs(self):
         count = self.scratch / "count"

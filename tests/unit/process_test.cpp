@@ -83,6 +83,17 @@ TEST(Process, AHangingFamilyIsKilledWhenTheTimeIsUp) {
   EXPECT_TRUE(WIFSIGNALED(silent->Wait()));
 }
 
+TEST(Process, TheEnvironmentMayNameTheTime) {
+  const std::pair<const char*, int> cases[] = {{"1", 1},     {"3600", 3600}, {"0", 20},
+                                               {"3601", 20}, {"-5", 20},     {"", 20},
+                                               {"9s", 20},   {" 9", 20},     {"99999999999", 20}};
+  for (const auto& [text, seconds] : cases) {
+    ::setenv("ZARVO_HELPER_SECONDS", text, 1);
+    EXPECT_EQ(ProcessTimeLimit(std::chrono::seconds(20)), std::chrono::seconds(seconds)) << text;
+  }
+  ::unsetenv("ZARVO_HELPER_SECONDS");
+}
+
 TEST(Process, LimitsHold) {
   ProcessOptions options;
   options.cpu_seconds = 1;
