@@ -10,6 +10,7 @@
 #include <string>
 
 #include "Platform/Log.h"
+#include "Tools/zarvodraw/DrawableText.h"
 #include "Tools/zarvodraw/ImageFile.h"
 
 namespace zarvo {
@@ -57,7 +58,8 @@ void DrawText(cairo_t* context, const cairo_rectangle_t& area, const _WatermarkD
       pango_cairo_create_layout(context), &g_object_unref);
   pango_layout_set_font_description(layout.get(), font.get());
   pango_layout_set_single_paragraph_mode(layout.get(), TRUE);
-  pango_layout_set_text(layout.get(), watermark.textString, -1);
+  const std::string text = DrawableText(watermark.textString);
+  pango_layout_set_text(layout.get(), text.data(), static_cast<int>(text.size()));
 
   cairo_move_to(context, area.x + watermark.xPos, area.y + area.height - watermark.yPos);
   cairo_rotate(context, -watermark.angle * std::numbers::pi / 180);

@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "Tools/zarvodraw/DrawWatermark.h"
+#include "Tools/zarvodraw/DrawableText.h"
 
 namespace zarvo {
 namespace {
@@ -75,9 +76,10 @@ Layout MakeLayout(cairo_t* context, PangoWeight weight, const std::string& text)
 
 void DrawBlock(cairo_t* context, const cairo_rectangle_t& draw_box, Fixed& pen_x, Fixed& pen_y,
                const FaxCoverBlock& block) {
-  const auto render = [&](const std::string& text, PangoWeight weight) {
+  const auto render = [&](const std::string& wanted, PangoWeight weight) {
     // Laying a long text out takes time; on a full page it would be for nothing.
-    if (text.empty() || ToPoints(pen_y) < draw_box.y) return;
+    if (wanted.empty() || ToPoints(pen_y) < draw_box.y) return;
+    const std::string text = DrawableText(wanted);
     const Layout layout = MakeLayout(context, weight, text);
     RenderWrappingText(context, layout.get(), draw_box, static_cast<int>(text.size()), pen_x, pen_y,
                        draw_box.width);

@@ -41,6 +41,20 @@ TICKET_TEXTS = [
     "ZRVJobPassword",
     "sides",
 ]
+COVER_TEXTS = [
+    *(f"{P}FaxOptions..d_Sender{key}" for key in ("Name", "Organization", "EmailAddress")),
+    *(f"{P}FaxOptions..d_Sender{key}" for key in ("PhoneNumber", "FaxNumber")),
+    *(f"{P}FaxOptions..d_Localized{key}Label" for key in ("Phone", "Fax", "From", "To", "Notes")),
+    *(f"{P}FaxRecipientList..a_0..d_{key}" for key in ("FirstName", "LastName", "Organization")),
+    f"{P}FaxOptions..d_CoverSheetNotes",
+]
+COVER = [
+    f"{P}JobType..d_JobType..n=5",
+    f"{P}FaxRecipientList..a_0..d_FaxNumber=5550100",
+    *(f"{P}FaxOptions..d_{key}..b=true" for key in ("CoverSheet", "ShowSender", "ShowWatermark")),
+    f"{P}FaxOptions..d_ShowRecipients..n=1",
+    f"{P}FaxOptions..d_WatermarkName=mark",
+]
 SWITCHES = [
     f"{P}JTMLOptions..d_JTMLOptionAll..b=true",
     f"{P}JobNotesEnabled..b=true",
@@ -118,16 +132,8 @@ class Injection(unittest.TestCase):
         self.store = self.scratch / "Zarvo"
         self.store.mkdir()
 
-    def filter(self, text, job_type, placement):
-        """The parts of the output and the log, with `text` wherever a text can stand."""
-        unicode = text.decode(errors="replace").replace("\0", "")
-        mark = {"textString": unicode, "fontName": unicode}
-        (self.store / "com.zarvo.printing.watermarks.plist").write_bytes(
-            plistlib.dumps({"mark": mark | {"fontSize": 20}}, fmt=plistlib.FMT_BINARY)
-        )
-        options = [option.encode() for option in SWITCHES + JOB_TYPES[job_type]]
-        options.append(f"{P}watermark.Option..n={placement}".encode())
-        options += [key.encode() + b"=" + quoted(text) for key in TICKET_TEXTS]
+    def run_filter(self, text, options, keys):
+        options = options + [key.encode() + b"=" + quoted(text) for key in keys]
         done = subprocess.run(
             [BIN / "zarvofilter", "1", text, text, "1", b" ".join(options)],
             input=JOB,
@@ -142,6 +148,18 @@ class Injection(unittest.TestCase):
             },
         )
         self.assertEqual(done.returncode, 0)
+        return done
+
+    def filter(self, text, job_type, placement):
+        """The parts of the output and the log, with `text` wherever a text can stand."""
+        unicode = text.decode(errors="replace").replace("\0", "")
+        mark = {"textString": unicode, "fontName": unicode}
+        (self.store / "com.zarvo.printing.watermarks.plist").write_bytes(
+            plistlib.dumps({"mark": mark | {"fontSize": 20}}, fmt=plistlib.FMT_BINARY)
+        )
+        options = [option.encode() for option in SWITCHES + JOB_TYPES[job_type]]
+        options.append(f"{P}watermark.Option..n={placement}".encode())
+        done = self.run_filter(text, options, TICKET_TEXTS)
         xml_part, rest = done.stdout.split(EXIT + b"@PJL JOB\n", 1)
         header, postscript = rest.split(b"@PJL ENTER LANGUAGE = POSTSCRIPT\n", 1)
         return xml_part, header, postscript, done.stderr
@@ -176,6 +194,22 @@ class Injection(unittest.TestCase):
             [line.split(b":")[0] for line in plain[3].split(b"\n")],
         )
         self.assertFalse(pathlib.Path("/tmp/zarvo-injected").exists())
+
+    def test_cover_texts_stay_on_the_cover(self):
+        options = [option.encode() for option in COVER]
+        every_control = b"".join(b"a" + bytes([byte]) + b"@PJL RESET" for byte in range(1, 32))
+        texts = [("every control", every_control)]
+        texts += [(what, text) for what, text in hostile_texts() if not what.startswith("control")]
+
+        def split(done):
+            self.assertNotIn(b"left out", done.stderr)
+            before, cover, rest = re.split(rb"(?=%!PS-Adobe-3.0)", done.stdout)
+            return before, re.findall(rb"@PJL|\x1b|\ntouch|deletefile", cover), rest
+
+        plain = split(self.run_filter(HARMLESS.encode(), options, COVER_TEXTS))
+        for what, text in texts:
+            with self.subTest(text=what):
+                self.assertEqual(split(self.run_filter(text, options, COVER_TEXTS)), plain)
 
     def test_names_and_file_names_start_no_log_line(self):
         for what, text in hostile_texts():
