@@ -6,6 +6,7 @@
 #include <string>
 
 #include "Platform/AddressBook.h"
+#include "Platform/Text.h"
 #include "Source/Fax.h"
 
 namespace zarvo {
@@ -31,7 +32,7 @@ std::optional<std::string> Component(const VCard& card, std::string_view name, i
     std::string_view rest = property.value;
     std::size_t start = 0;
     for (std::size_t at = 0; at <= rest.size(); ++at) {
-      if (at < rest.size() && rest[at] == '\\') {
+      if (at + 1 < rest.size() && rest[at] == '\\') {
         ++at;  // the character after it is no separator
       } else if (at == rest.size() || rest[at] == ';') {
         if (index-- == 0) return VCardText(rest.substr(start, at - start));
@@ -50,9 +51,25 @@ std::optional<std::string> TelephoneNumber(const VCard& card, bool fax) {
     std::string head = property.head;
     std::transform(head.begin(), head.end(), head.begin(),
                    [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
-    if ((head.find("FAX") != std::string::npos) == fax) return VCardText(property.value);
+    // The group before the name may be called anything.
+    const bool is_fax = head.find("FAX", head.find(';')) != std::string::npos;
+    if (is_fax == fax) return VCardText(property.value);
   }
   return std::nullopt;
+}
+
+/// A card's text as the rest of the system takes it. What is not UTF-8 comes from older programs,
+/// whose cards are in Latin-1.
+std::string RecipientText(const std::string& text) {
+  std::optional<std::string> utf8 = MakeString(text);
+  if (utf8) return *std::move(utf8);
+  std::string converted;
+  for (const char c : text) {
+    const auto byte = static_cast<unsigned char>(c);
+    if (byte >= 0x80) converted += static_cast<char>(0xC0 | byte >> 6);
+    converted += byte >= 0x80 ? static_cast<char>(0x80 | (byte & 0x3F)) : c;
+  }
+  return converted;
 }
 
 }  // namespace
@@ -61,7 +78,9 @@ FaxRecipient FaxRecipientFromCard(const VCard& card) {
   FaxRecipient recipient;
   const auto set = [&recipient](void (FaxRecipient::*setter)(const std::string*),
                                 const std::optional<std::string>& text) {
-    if (text && !text->empty()) (recipient.*setter)(&*text);
+    if (!text || text->empty()) return;
+    const std::string utf8 = RecipientText(*text);
+    (recipient.*setter)(&utf8);
   };
   set(&FaxRecipient::setFirstName, Component(card, "N", 1));
   set(&FaxRecipient::setLastName, Component(card, "N", 0));

@@ -87,6 +87,19 @@ TEST_F(AddressBook, FindsCardsThatOtherProgramsNamed) {
             "END:VCARD\r\n");
 }
 
+TEST_F(AddressBook, ReadsRecipientsFromTheCardsOfOthers) {
+  const auto card = ParseVCard(
+      "BEGIN:VCARD\nVERSION:3.0\nN:B\\;C;Ren\xE9\\\nfax1.TEL;TYPE=HOME:1\n"
+      "item1.tel;type=\"home,fax\":2\nORG:Caf\xC3\xA9;Sales\nEND:VCARD\n");
+  ASSERT_TRUE(card);
+  const Dictionary expected = {{"FirstName", "Ren\xC3\xA9\\"},
+                               {"LastName", "B;C"},
+                               {"PhoneNumber", "1"},
+                               {"FaxNumber", "2"},
+                               {"Organization", "Caf\xC3\xA9"}};
+  EXPECT_EQ(FaxRecipientFromCard(*card).toTicket(), expected);
+}
+
 TEST_F(AddressBook, GroupTakesItsMembersInOrder) {
   const Dictionary gone = {{"FirstName", "Gone"}, {"UID", "no such record"}};
   const Dictionary number = {{"FaxNumber", "1"}};
