@@ -78,7 +78,8 @@ std::unique_ptr<SpoolFile> DrawPostScript(const Dictionary& ticket,
 
   std::string failure =
       ConvertPdfToPostScript(::fileno(pdf->stream()), converters, document->stream());
-  if (failure.empty() && std::fflush(document->stream()) != 0)
+  if (failure.empty() &&
+      (std::fflush(document->stream()) != 0 || std::ferror(document->stream()) != 0))
     failure = std::string("no room for it: ") + std::strerror(errno) + "; make room in TMPDIR";
   if (failure.empty()) return document;
   LogLeftOut(failure);

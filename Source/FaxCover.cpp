@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Source/FaxCover.h"
 
-#include <cmath>
-
 #include "Platform/Text.h"
 #include "Source/CFAdditions.h"
 #include "Source/Fax.h"
