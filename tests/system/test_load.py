@@ -51,7 +51,7 @@ MIX = [(name, kind) for name in JOBS_BY_NAME for kind in OPTIONS if kind != "fax
 
 def without_time(output):
     """A cover sheet holds the time at which it was drawn."""
-    return re.sub(rb"\d{14}Z00'00'", b"", output)
+    return re.sub(rb"\d{14}[Z+-]\d\d'\d\d'?", b"", output)
 
 
 class Load(unittest.TestCase):
