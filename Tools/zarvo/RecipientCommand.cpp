@@ -7,6 +7,7 @@
 
 #include "Platform/AddressBook.h"
 #include "Platform/Log.h"
+#include "Platform/Text.h"
 #include "Source/CFAdditions.h"
 #include "Source/Fax.h"
 #include "Source/FaxKeys.h"
@@ -50,6 +51,16 @@ const AddressBookRecord* TheOne(const std::vector<AddressBookRecord>& records,
 int CannotWrite() {
   return Fail(AddressBookFolder(), "the address book cannot be written",
               "Check the folder's owner and the room on its disk");
+}
+
+/// One card in another encoding makes other programs give up on the whole folder.
+bool AreUtf8(std::initializer_list<std::string> texts) {
+  for (const std::string& text : texts) {
+    if (MakeString(text)) continue;
+    Fail("recipient", "has a text that is not UTF-8", "Give it in a terminal with a UTF-8 locale");
+    return false;
+  }
+  return true;
 }
 
 void PrintPerson(const AddressBookRecord& record) {
@@ -115,6 +126,9 @@ int Add(const Options& options) {
   if (!options.fax.empty() && CopyDialingStringFromFaxNumber(options.fax).empty())
     return Fail(options.fax, "holds nothing that can be dialled",
                 "Digits and " + std::string(kFaxDialingCharacters.substr(10)) + " can");
+  if (!AreUtf8({options.first, options.last, options.fax, options.mailbox, options.organization,
+                options.phone, options.email}))
+    return kExitFailure;
   FaxRecipient recipient;
   const auto set = [&recipient](void (FaxRecipient::*setter)(const std::string*),
                                 const std::string& text) {
@@ -151,6 +165,7 @@ int Remove(const Options& options) {
 }
 
 int Group(const Options& options) {
+  if (!AreUtf8({options.group})) return kExitFailure;
   const std::vector<AddressBookRecord> records = AddressBookRecords();
   FaxRecipientList list;
   std::set<std::string> uids;

@@ -103,6 +103,7 @@ class Recipients(ZarvoTest):
     def test_bad_arguments(self):
         self.run_zarvo("recipient", "add", "--first", "Ada", status=2)
         self.run_zarvo("recipient", "add", "--fax", "no number", status=2)
+        self.run_zarvo("recipient", "add", "--fax", "1", "--last", "\udce9", status=2)
         for _ in range(2):
             self.run_zarvo("recipient", "add", "--first", "Bo", "--fax", "1")
         self.run_zarvo("recipient", "remove", "Bo", status=2)
