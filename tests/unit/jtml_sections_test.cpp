@@ -4,61 +4,37 @@
 
 #include <fstream>
 #include <map>
-#include <sstream>
 
 #include "CUPSFilter/JTML/JTML.h"
 #include "CUPSFilter/JTML/Sections.h"
 #include "CUPSFilter/JTML/TicketReading.h"
-#include "CUPSFilter/ParseOptions.h"
 #include "tests/unit/transcript.h"
 
 namespace zarvo {
 namespace {
 
-Dictionary TicketOf(const std::string& options) {
-  cups_option_t* list = nullptr;
-  const int count = cupsParseOptions(options.c_str(), 0, &list);
-  const std::vector<cups_option_t> ordered = NaturalOrder(count, list);
-  Dictionary ticket = ParseCUPSOptionsToDictionary(ordered.data(), count);
-  cupsFreeOptions(count, list);
-  return ticket;
-}
-
 void WriteToStream(const Dictionary& ticket) { WriteJTML(jtml_ofp, ticket); }
 
 using Driver = void (*)(const Dictionary&);
+#define NAMED(driver) \
+  { #driver, &driver }
 const std::map<std::string, Driver> kDrivers = {
-    {"WriteJTML", &WriteToStream},
-    {"WriteJTMLJobNameAndUser", &WriteJTMLJobNameAndUser},
-    {"WriteJTMLJobNotes", &WriteJTMLJobNotes},
-    {"WriteJTMLJobType", &WriteJTMLJobType},
-    {"WriteJTMLAccounting", &WriteJTMLAccounting},
-    {"WriteJTMLPagesToPrint", &WriteJTMLPagesToPrint},
-    {"WriteJTMLBackgroundForms", &WriteJTMLBackgroundForms},
-    {"WriteJTMLFinishing", &WriteJTMLFinishing},
-    {"WriteJTMLDuplex", &WriteJTMLDuplex},
-    {"WriteJTMLOutputDestination", &WriteJTMLOutputDestination},
-    {"WriteJTMLLightenDarken", &WriteJTMLLightenDarken},
-    {"WriteJTMLTonerSaver", &WriteJTMLTonerSaver},
-    {"WriteJTMLOffset", &WriteJTMLOffset},
-    {"WriteJTMLPrinterEmulation", &WriteJTMLPrinterEmulation},
-    {"WriteJTMLImageRotation", &WriteJTMLImageRotation},
-    {"WriteJTMLOPISubsitution", &WriteJTMLOPISubsitution},
-    {"WriteJTMLOPIPreScan", &WriteJTMLOPIPreScan},
-    {"WriteJTMLAntiAliasing", &WriteJTMLAntiAliasing},
-    {"WriteJTMLOutputOrder", &WriteJTMLOutputOrder},
-    {"WriteJTMLOutputColor", &WriteJTMLOutputColor},
-    {"WriteJTMLResolution", &WriteJTMLResolution},
-    {"WriteJTMLHalftone", &WriteJTMLHalftone},
-    {"WriteJTMLImageShift", &WriteJTMLImageShift},
-    {"WriteJTMLHighlightColor", &WriteJTMLHighlightColor},
-    {"WriteJTMLFullColor", &WriteJTMLFullColor},
-    {"WriteJTMLJobLevelStock", &WriteJTMLJobLevelStock},
-    {"WriteJTMLFrontCover", &WriteJTMLFrontCover},
-    {"WriteJTMLBackCover", &WriteJTMLBackCover},
-    {"WriteJTMLInserts", &WriteJTMLInserts},
-    {"WriteJTMLExceptions", &WriteJTMLExceptions},
-};
+    {"WriteJTML", &WriteToStream},   NAMED(WriteJTMLJobNameAndUser),
+    NAMED(WriteJTMLJobNotes),        NAMED(WriteJTMLJobType),
+    NAMED(WriteJTMLAccounting),      NAMED(WriteJTMLPagesToPrint),
+    NAMED(WriteJTMLBackgroundForms), NAMED(WriteJTMLFinishing),
+    NAMED(WriteJTMLDuplex),          NAMED(WriteJTMLOutputDestination),
+    NAMED(WriteJTMLLightenDarken),   NAMED(WriteJTMLTonerSaver),
+    NAMED(WriteJTMLOffset),          NAMED(WriteJTMLPrinterEmulation),
+    NAMED(WriteJTMLImageRotation),   NAMED(WriteJTMLOPISubsitution),
+    NAMED(WriteJTMLOPIPreScan),      NAMED(WriteJTMLAntiAliasing),
+    NAMED(WriteJTMLOutputOrder),     NAMED(WriteJTMLOutputColor),
+    NAMED(WriteJTMLResolution),      NAMED(WriteJTMLHalftone),
+    NAMED(WriteJTMLImageShift),      NAMED(WriteJTMLHighlightColor),
+    NAMED(WriteJTMLFullColor),       NAMED(WriteJTMLJobLevelStock),
+    NAMED(WriteJTMLFrontCover),      NAMED(WriteJTMLBackCover),
+    NAMED(WriteJTMLInserts),         NAMED(WriteJTMLExceptions)};
+#undef NAMED
 
 /// What a driver writes and logs for a ticket.
 std::string Output(Driver driver, const Dictionary& ticket) {
@@ -93,19 +69,13 @@ TEST(JtmlSections, Transcripts) {
 }
 
 TEST(JtmlSections, EscapesWhatXmlCannotHold) {
-  const struct {
-    std::string_view text, escaped;
-  } rows[] = {
-      {"", ""},
-      {"plain \xC3\xA9\xF0\x9F\x98\x80", "plain \xC3\xA9\xF0\x9F\x98\x80"},
-      {"<a & 'b' \"c\">", "&lt;a &amp; &apos;b&apos; &quot;c&quot;&gt;"},
-      {"&amp;", "&amp;amp;"},
-      {std::string_view("\0\x01\x1F\x7F\t\n\r", 7), "???\x7F\t\n\r"},
-      {"\xEF\xBF\xBE\xEF\xBF\xBF\xEF\xBF\xBD\xEF\xBF", "??\xEF\xBF\xBD\xEF\xBF"},
-  };
-  for (const auto& row : rows) {
-    EXPECT_EQ(XMLCreateStringByEscapingEntities(row.text), row.escaped);
-  }
+  using namespace std::string_view_literals;
+  constexpr auto text =
+      "<a & 'b' \"c\">&amp;\0\x01\x1F\x7F\t\n\r\xC3\xA9\xF0\x9F\x98\x80 "
+      "\xEF\xBF\xBE\xEF\xBF\xBF\xEF\xBF\xBD\xEF\xBF"sv;
+  EXPECT_EQ(XMLCreateStringByEscapingEntities(text),
+            "&lt;a &amp; &apos;b&apos; &quot;c&quot;&gt;&amp;amp;???\x7F\t\n\r"
+            "\xC3\xA9\xF0\x9F\x98\x80 ??\xEF\xBF\xBD\xEF\xBF");
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
-// Comparison of whole outputs with files in tests/unit/expected. With the environment variable
-// ZARVO_UPDATE set, a test writes the files instead; read the difference before committing it.
+// Tickets made from option text, and comparison of whole outputs with files in tests/unit/expected.
+// With the environment variable ZARVO_UPDATE set, a test writes the files instead; read the
+// difference before committing it.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -12,7 +13,19 @@
 #include <sstream>
 #include <string>
 
+#include "CUPSFilter/ParseOptions.h"
+
 namespace zarvo {
+
+/// The ticket that an option text gives, the way the filter decodes it.
+inline Dictionary TicketOf(const std::string& text) {
+  cups_option_t* options = nullptr;
+  const int count = cupsParseOptions(text.c_str(), 0, &options);
+  const std::vector<cups_option_t> ordered = NaturalOrder(count, options);
+  Dictionary ticket = ParseCUPSOptionsToDictionary(ordered.data(), count);
+  cupsFreeOptions(count, options);
+  return ticket;
+}
 
 inline std::string ExpectedFile(const std::string& name) {
   return std::string(ZARVO_SOURCE_DIR "/tests/unit/expected/") + name;
