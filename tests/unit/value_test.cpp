@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <sstream>
 
 #include "Platform/Clock.h"
 #include "Platform/Log.h"
@@ -14,19 +15,17 @@ namespace zarvo {
 namespace {
 
 TEST(Number, ConvertsOnlyWhatFits) {
-  std::int32_t out = 77;
-  const auto narrow = [&out](Number number) {
-    out = 77;
-    return number.Get(&out);
+  const auto narrow = [](Number number) {
+    std::int32_t out = 77;  // stays when the number does not fit
+    const bool fits = number.Get(&out);
+    EXPECT_EQ(fits, out != 77);
+    return out;
   };
-  EXPECT_TRUE(narrow(Number(std::int64_t{-2147483648})));
-  EXPECT_EQ(out, std::numeric_limits<std::int32_t>::min());
-  EXPECT_FALSE(narrow(Number(std::int64_t{2147483648})));
-  EXPECT_EQ(out, 77) << "a number that does not fit leaves the default";
-  EXPECT_TRUE(narrow(Number(-3.99)));
-  EXPECT_EQ(out, -3);
-  EXPECT_FALSE(narrow(Number(std::numeric_limits<double>::quiet_NaN())));
-  EXPECT_FALSE(narrow(Number(9223372036854775808.0)));
+  EXPECT_EQ(narrow(Number(std::int64_t{-2147483648})), -2147483648);
+  EXPECT_EQ(narrow(Number(std::int64_t{2147483648})), 77);
+  EXPECT_EQ(narrow(Number(-3.99)), -3);
+  EXPECT_EQ(narrow(Number(std::numeric_limits<double>::quiet_NaN())), 77);
+  EXPECT_EQ(narrow(Number(9223372036854775808.0)), 77);
   EXPECT_EQ(Number(std::uint32_t{4294967295}).type(), Number::Type::kSInt64);
 }
 
@@ -34,12 +33,12 @@ TEST(Value, DeepTreesAreReleasedWithoutRecursion) {
   Value tree;
   for (int level = 0; level < 200000; ++level) {
     if (level % 2 == 0) {
-      Array array;
-      array.push_back(std::move(tree));
+      Array array(1);
+      array[0] = std::move(tree);
       tree = Value(std::move(array));
     } else {
       Dictionary dictionary;
-      dictionary.emplace("x", std::move(tree));
+      dictionary["x"] = std::move(tree);
       tree = Value(std::move(dictionary));
     }
   }
@@ -48,13 +47,10 @@ TEST(Value, DeepTreesAreReleasedWithoutRecursion) {
 }
 
 TEST(CFAdditions, KindsAreNotMixedUp) {
-  Dictionary ticket;
-  ticket.emplace("flag", Value::Boolean(true));
-  ticket.emplace("text", Value("5"));
+  Dictionary ticket = {{"flag", Value::Boolean(true)}, {"text", "5"}};
   int number = 9;
-  EXPECT_FALSE(CFDictionaryGetNumber(ticket, "flag", &number)) << "a boolean is not a number";
-  EXPECT_FALSE(CFDictionaryGetNumber(ticket, "text", &number));
-  EXPECT_FALSE(CFDictionaryGetNumber(ticket, "none", &number));
+  for (const char* key : {"flag", "text", "none"})
+    EXPECT_FALSE(CFDictionaryGetNumber(ticket, key, &number)) << key;
   EXPECT_EQ(number, 9);
   CFDictionarySetNumber(ticket, "text", &number);
   EXPECT_TRUE(CFDictionaryGetNumber(ticket, "text", &number));
@@ -79,25 +75,19 @@ TEST(Log, TextNeverStartsALineOfItsOwn) {
 }
 
 TEST(Clock, CountsTheCalendarFrom1904) {
-  struct Row {
-    std::int64_t seconds;
-    int year, month, day, hour, minute, weekday;
+  const std::pair<std::int64_t, const char*> rows[] = {
+      {0, "1904-1-1 0:0 6"},               // a Friday
+      {-1, "1903-12-31 23:59 5"},          // counts before the epoch too
+      {59 * 86400, "1904-2-29 0:0 2"},     // 1904 is a leap year
+      {3880871100, "2026-12-23 11:45 4"},  // beyond 31 bits
+      {std::numeric_limits<std::int64_t>::max(), "32767-12-31 23:59 1"},
   };
-  const Row rows[] = {
-      {0, 1904, 1, 1, 0, 0, 6},               // a Friday
-      {-1, 1903, 12, 31, 23, 59, 5},          // counts before the epoch too
-      {59 * 86400, 1904, 2, 29, 0, 0, 2},     // 1904 is a leap year
-      {3880871100, 2026, 12, 23, 11, 45, 4},  // beyond 31 bits
-      {std::numeric_limits<std::int64_t>::max(), 32767, 12, 31, 23, 59, 1},
-  };
-  for (const Row& row : rows) {
-    const LongDateRec date = LongSecondsToDate(row.seconds);
-    EXPECT_EQ(date.year, row.year) << row.seconds;
-    EXPECT_EQ(date.month, row.month) << row.seconds;
-    EXPECT_EQ(date.day, row.day) << row.seconds;
-    EXPECT_EQ(date.hour, row.hour) << row.seconds;
-    EXPECT_EQ(date.minute, row.minute) << row.seconds;
-    EXPECT_EQ(date.dayOfWeek, row.weekday) << row.seconds;
+  for (const auto& [seconds, expected] : rows) {
+    const LongDateRec date = LongSecondsToDate(seconds);
+    std::ostringstream text;
+    text << date.year << '-' << date.month << '-' << date.day << ' ' << date.hour << ':'
+         << date.minute << ' ' << date.dayOfWeek;
+    EXPECT_EQ(text.str(), expected);
   }
 }
 
