@@ -113,7 +113,7 @@ bool WritePageSetup(_tag_Q7B_PS_BOOKLET_VARS* v, int source, unsigned creep_offs
 
 /// Hands on a long page's text unseen, up to the first comment that has a meaning. Returns 1 when
 /// it did and the file was repositioned, 0 when there is too little text or the system cannot, -1
-/// when the output failed.
+/// when the file could not be repositioned.
 int SkipPlainText(_tag_Q7B_PS_BOOKLET_VARS* v, std::FILE* file, int source) {
   const auto page = static_cast<std::size_t>(source);
   const off_t end = v->aPlainTextEnd[page - 1];
@@ -126,8 +126,10 @@ int SkipPlainText(_tag_Q7B_PS_BOOKLET_VARS* v, std::FILE* file, int source) {
   const auto length = static_cast<std::size_t>(end - start);
   const std::size_t moved = output.Transfer(fileno(file), &start, length);
   if (moved == 0) return 0;
-  if (moved < length || fseeko(file, end, SEEK_SET) != 0) return -1;
-  v->iSectionBytesLeft = next_page - end + 1;
+  // What stopped it early stops the copier too, whose failures show on the stream.
+  const off_t reached = start + static_cast<off_t>(moved);
+  if (fseeko(file, reached, SEEK_SET) != 0) return -1;
+  v->iSectionBytesLeft = next_page - reached + 1;
   return 1;
 }
 
@@ -145,7 +147,7 @@ int CopyPage(_tag_Q7B_PS_BOOKLET_VARS* v, std::FILE* file, int source, unsigned 
         if (!WritePageSetup(v, source, creep_offset)) return 0;
         state = rpsSpoolingPage;
         new_section = SkipPlainText(v, file, source);
-        if (new_section < 0) return 0;
+        if (new_section < 0) return -301;
       }
       continue;
     }

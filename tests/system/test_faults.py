@@ -27,6 +27,8 @@ PAGE = b"%%%%Page: %d %d\n%%%%BeginPageSetup\n%%%%EndPageSetup\n%s\nshowpage\nep
 HEAD = b"%!PS-Adobe-3.0\n%%BeginProlog\n%%EndProlog\n%%BeginSetup\n%%EndSetup\n"
 TAIL = b"%%Trailer\n%%EOF\n"
 SMALL = HEAD + PAGE % (1, 1, b"") + TAIL
+# A booklet prints the third of four pages last.
+LONG_LAST = HEAD + b"".join(PAGE % (n, n, b"0 " * 2000000 * (n == 3)) for n in range(1, 5)) + TAIL
 LARGE = HEAD + b"".join(PAGE % (n, n, b"0 0 moveto " * 20000) for n in range(1, 21)) + TAIL
 
 FEATURES = {
@@ -174,9 +176,9 @@ class Writing(Faults):
 
     def test_reader_goes(self):
         for feature in ("plain", "ticket", "booklet", "image"):
-            for read in (0, 1, 300000):
-                with self.subTest(feature=feature, read=read):
-                    process = self.start(feature, LARGE)
+            for job, read in ((LARGE, 0), (LARGE, 1), (LARGE, 300000), (LONG_LAST, 300000)):
+                with self.subTest(feature=feature, size=len(job), read=read):
+                    process = self.start(feature, job)
                     while read > 0 and (got := os.read(process.stdout.fileno(), read)):
                         read -= len(got)
                     process.stdout.close()
