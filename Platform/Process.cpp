@@ -188,6 +188,8 @@ std::optional<Process> Process::Start(const ProcessOptions& options) {
       !OpenPipe(&report_reading, &report_writing))
     return std::nullopt;
 
+  // Whoever started this program may have left it set to throw ended children away unseen.
+  ::signal(SIGCHLD, SIG_DFL);
   const pid_t parent = ::getpid();
   const SignalsHeld held;  // until the child is known to the signal handler
   const pid_t pid = ::fork();

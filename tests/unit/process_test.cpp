@@ -42,6 +42,13 @@ TEST(Process, ProgramsThatCannotStartGiveTheReason) {
   EXPECT_EQ(errno, EACCES);
 }
 
+TEST(Process, TheStatusIsKnownWhereEndedChildrenWereThrownAway) {
+  ::signal(SIGCHLD, SIG_IGN);
+  std::optional<Process> process = Shell("exit 3");
+  ASSERT_TRUE(process);
+  EXPECT_EQ(WEXITSTATUS(process->Wait()), 3);
+}
+
 TEST(Process, InheritsNothingButTheStandardThree) {
   const UniqueFd file = OpenMemoryFile("x");
   const int leaked = ::fcntl(file.get(), F_DUPFD, 200);  // not close-on-exec
