@@ -1,76 +1,96 @@
 # SPDX-License-Identifier: Apache-2.0
-"""PNG pictures for tests: made, read and measured without a library."""
+"""Pictures for tests: made, drawn and measured without a library."""
 
+import os
+import pathlib
+import re
 import struct
+import subprocess
 import zlib
 
+BIN = pathlib.Path(os.environ["ZARVO_BIN"])
+EXIT = b"\x1b%-12345X"
+COLORS = ("black", "red", "green", "yellow", "blue", "magenta", "cyan", "white")
+# One bit when a channel is bright, another when it is as bright as the light gray of watermarks.
+LEVELS = bytes((value >= 128) + 8 * (160 <= value < 224) for value in range(256))
+MASKS = {name: bytes(code % 8 == number for code in range(256)) for number, name in enumerate(COLORS)}
+MASKS["gray"] = bytes(code == 63 for code in range(256))
 
-def png(width, height, color):
-    """A picture of one colour."""
-    return write_png([bytes(color) * width] * height)
 
-
-def write_png(rows):
-    """A picture of these rows, each of three bytes a pixel."""
+def png(width, height, row, claimed=None):
+    """A picture whose rows repeat these RGB bytes; `claimed` is the size that its header tells."""
 
     def chunk(kind, data):
         return struct.pack(">I", len(data)) + kind + data + struct.pack(">I", zlib.crc32(kind + data))
 
-    head = struct.pack(">IIBBBBB", len(rows[0]) // 3, len(rows), 8, 2, 0, 0, 0)
-    packed = zlib.compress(b"".join(b"\0" + row for row in rows), 9)
-    return (b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", head) + chunk(b"IDAT", packed)
-            + chunk(b"IEND", b""))
+    head = struct.pack(">IIBBBBB", *(claimed or (width, height)), 8, 2, 0, 0, 0)
+    row = (bytes(row) * (3 * width // len(row) + 1))[: 3 * width]
+    return (b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", head)
+            + chunk(b"IDAT", zlib.compress((b"\0" + row) * height)) + chunk(b"IEND", b""))
+
+
+class Picture:
+    """One page. Areas are left, top, right and bottom, in fractions of its sides."""
+
+    def __init__(self, width, height, pixels):
+        self.width, self.height, self.pixels = width, height, pixels
+        planes = (pixels[channel::3].translate(LEVELS) for channel in range(3))
+        code = sum(int.from_bytes(plane, "little") << bit for bit, plane in enumerate(planes))
+        self._codes = code.to_bytes(width * height, "little")
+
+    def mask(self, color):
+        """A byte for each pixel, 1 where it has that colour."""
+        return self._codes.translate(MASKS[color])
+
+    def count(self, color, left=0.0, top=0.0, right=1.0, bottom=1.0):
+        mask, width = self.mask(color), self.width
+        first, last = int(left * width), int(right * width)
+        return sum(mask[y * width + first : y * width + last].count(1)
+                   for y in range(int(top * self.height), int(bottom * self.height)))
+
+    def box(self, color):
+        """Left, top, right and bottom of all pixels of that colour."""
+        mask, width = self.mask(color), self.width
+        rows = [mask[start : start + width] for start in range(0, len(mask), width)]
+        found = [(y, row.find(1), row.rfind(1)) for y, row in enumerate(rows) if 1 in row]
+        lines, lefts, rights = zip(*found)
+        return min(lefts), lines[0], max(rights) + 1, lines[-1] + 1
+
+    def likeness(self, expected, color):
+        """How much of what is expected in that colour is there, and how much elsewhere."""
+        ours, theirs = (int.from_bytes(page.mask(color), "little") for page in (self, expected))
+        return [part.bit_count() / theirs.bit_count() for part in (ours & theirs, ours & ~theirs)]
+
+
+def pictures(data):
+    """Those of a stream of portable pixmaps."""
+    start, found = 0, []
+    while head := re.compile(rb"P6\n(?:#.*\n)?(\d+) (\d+)\n255\n").match(data, start):
+        width, height = map(int, head.groups())
+        start = head.end() + 3 * width * height
+        found.append(Picture(width, height, data[head.end() : start]))
+    return found
 
 
 def read_png(path):
-    """Rows of an 8-bit RGB picture, each a bytes object."""
-    data = path.read_bytes()
-    position, packed = 8, b""
-    while position < len(data):
-        length, kind = struct.unpack(">I4s", data[position : position + 8])
-        body = data[position + 8 : position + 8 + length]
-        if kind == b"IHDR":
-            width, height = struct.unpack(">II", body[:8])
-        if kind == b"IDAT":
-            packed += body
-        position += 12 + length
-    raw, rows, previous = zlib.decompress(packed), [], bytes(3 * width)
-    for y in range(height):
-        start = y * (3 * width + 1)
-        previous = unfilter(raw[start], raw[start + 1 : start + 1 + 3 * width], previous)
-        rows.append(previous)
-    return rows
+    return pictures(run([BIN / "zarvodraw", "image", path]))[0]
 
 
-def unfilter(kind, line, above):
-    out = bytearray(line)
-    for i in range(len(out)):
-        left = out[i - 3] if i >= 3 else 0
-        corner = above[i - 3] if i >= 3 else 0
-        if kind == 1:
-            guess = left
-        elif kind == 2:
-            guess = above[i]
-        elif kind == 3:
-            guess = (left + above[i]) // 2
-        elif kind == 4:
-            estimate = left + above[i] - corner
-            guess = min((left, above[i], corner), key=lambda v: abs(estimate - v))
-        else:
-            return bytes(out)
-        out[i] = (out[i] + guess) & 255
-    return bytes(out)
+def draw(job, *options, dpi=72):
+    """The pages of a job, or of a plain document, as the printer would draw them."""
+    end = job.rfind(EXIT + b"@PJL EOJ")
+    document = job[job.index(b"%!PS-Adobe") : end] if end >= 0 else job
+    return pictures(ghostscript("ppmraw", document, f"-r{dpi}", *options))
 
 
-def box_of(rows, color, tolerance=40):
-    """Left, top, right and bottom of all pixels of about this colour; None without any."""
-    found = [
-        (x, y)
-        for y, row in enumerate(rows)
-        for x in range(len(row) // 3)
-        if all(abs(row[3 * x + i] - color[i]) <= tolerance for i in range(3))
-    ]
-    if not found:
-        return None
-    columns, lines = zip(*found)
-    return min(columns), min(lines), max(columns) + 1, max(lines) + 1
+def ghostscript(device, document, *options):
+    return run(["gs", "-q", "-dSAFER", "-dBATCH", "-dNOPAUSE", "-sstdout=%stderr", "-sOutputFile=-",
+                f"-sDEVICE={device}", *options, "-"], document)  # fmt: skip
+
+
+def run(command, data=None, **environment):
+    done = subprocess.run(list(map(str, command)), input=data, capture_output=True, timeout=120,
+                          env=os.environ | environment)  # fmt: skip
+    if done.returncode != 0:
+        raise RuntimeError(f"{command}: {done.stderr[-2000:]} {done.stdout[-2000:]}")
+    return done.stdout

@@ -8,7 +8,7 @@ import tempfile
 import unittest
 
 from cupsd import BIN, PrivateCupsd, Printer
-from test_pagehooks import draw, run
+from pictures import draw, run
 
 SOURCE = pathlib.Path(os.environ["ZARVO_SOURCE"])
 PPD = BIN.parent / "ppd/zarvo.ppd"

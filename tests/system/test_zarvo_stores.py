@@ -8,7 +8,7 @@ import subprocess
 import unittest
 
 from zarvo import ZarvoTest
-from pictures import box_of, png, read_png
+from pictures import png, read_png
 
 
 class Watermarks(ZarvoTest):
@@ -41,13 +41,13 @@ class Watermarks(ZarvoTest):
         self.run_zarvo("watermark", "add-image", logo, "--scale", "300")
         self.run_zarvo("watermark", "add-text", "HH", "--color", "#ff0000", "--angle", "0")
         self.run_zarvo("watermark", "show", "HH", "--place", "foreground", "--output", "t.png")
-        left, top, right, bottom = box_of(read_png(self.scratch / "t.png"), (255, 0, 0))
+        left, top, right, bottom = read_png(self.scratch / "t.png").box("red")
         # Centred, two capitals of 72 points wide and one high.
         self.assertAlmostEqual((left + right) / 2, 306, delta=6)
         self.assertAlmostEqual((top + bottom) / 2, 396, delta=6)
         self.assertAlmostEqual(bottom - top, 52, delta=3)
         self.run_zarvo("watermark", "show", "logo.png", "--place", "foreground", "--output", "i.png")
-        left, top, right, bottom = box_of(read_png(self.scratch / "i.png"), (0, 0, 255))
+        left, top, right, bottom = read_png(self.scratch / "i.png").box("blue")
         self.assertEqual((round((right - left) / 10), round((bottom - top) / 10)), (9, 6))
 
     def test_fonts_are_stored_as_printers_take_them(self):

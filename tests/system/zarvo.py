@@ -3,13 +3,13 @@
 
 import os
 import pathlib
+import plistlib
 import subprocess
 import tempfile
 import unittest
 
 BIN = pathlib.Path(os.environ["ZARVO_BIN"])
 SOURCE = pathlib.Path(os.environ["ZARVO_SOURCE"])
-OUTPUT = pathlib.Path(os.environ["ZARVO_TEST_OUTPUT"])
 EXPECTED = pathlib.Path(__file__).resolve().parent / "expected"
 PPD = SOURCE / "tests/golden/ppd/test.ppd"
 
@@ -64,16 +64,28 @@ class ZarvoTest(unittest.TestCase):
         self.assertEqual(done.returncode, status, self.errors + done.stdout.decode())
         return done.stdout.decode()
 
-    def filtered(self, options, job):
-        """What the filter makes of a job."""
-        return subprocess.run(
-            [BIN / "zarvofilter", "1", "ada", "title", "1", options],
-            input=job.encode(),
-            capture_output=True,
-            env=self.environment | {"PPD": str(PPD)},
-            check=True,
-            timeout=120,
-        ).stdout
+    def start_filter(self, options, program=BIN / "zarvofilter", ppd=PPD):
+        return subprocess.Popen(
+            [program, "1", "ada", "title", "1", options],
+            stdin=subprocess.PIPE,
+            stdout=subprocess.PIPE,
+            stderr=subprocess.PIPE,
+            env=self.environment | ({"PPD": str(ppd)} if ppd else {}),
+        )
+
+    def filtered(self, options, job, **how):
+        """What the filter makes of a job; the log is kept in self.errors."""
+        process = self.start_filter(options, **how)
+        output, errors = process.communicate(job if isinstance(job, bytes) else job.encode(), 120)
+        self.errors = errors.decode()
+        self.assertEqual(process.returncode, 0, self.errors)
+        return output
+
+    def write_store(self, name, entries):
+        """A shared data file, as the dialog would leave it."""
+        path = self.scratch / f"data/Zarvo/com.zarvo.printing.{name}.plist"
+        path.parent.mkdir(exist_ok=True)
+        path.write_bytes(plistlib.dumps(entries))
 
     def assert_golden(self, name, text):
         """Compares with a file of expected/; ZARVO_UPDATE=1 writes it instead."""

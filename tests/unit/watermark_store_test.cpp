@@ -10,7 +10,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <memory>
+#include <tuple>
 
 #include "Source/Preferences.h"
 #include "Source/WatermarkSupport.h"
@@ -21,6 +21,23 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr char kCollection[] = "marks.plist";
+
+/// No two fields are alike.
+const _WatermarkData kMark = [] {
+  _WatermarkData mark{};
+  std::strcpy(mark.textString, "Draft \"<1>\"");
+  std::strcpy(mark.filename, "unused.png");
+  std::strcpy(mark.filePath, "/a/\xC3\xA9.png");
+  std::strcpy(mark.fontName, "Times-Bold");
+  std::tie(mark.xOffset, mark.yOffset, mark.fontColorRed, mark.fontColorGreen, mark.fontColorBlue,
+           mark.fontColorAlpha) = std::tuple(0.1F, -2.5F, 0.25F, 1.0F / 3, 1.0F, 0.5F);
+  std::tie(mark.wellColorRed, mark.wellColorGreen, mark.wellColorBlue, mark.wellColorAlpha) =
+      std::tuple(0.7F, 0.8F, 0.9F, 0.95F);
+  std::tie(mark.angle, mark.density, mark.scale, mark.units, mark.fontSize) =
+      std::tuple(-45, 40, 250, 2, 72);
+  std::tie(mark.isTextWatermark, mark.xPos, mark.yPos) = std::tuple(1, 100.1, -1.0 / 3);
+  return mark;
+}();
 
 /// Every test has folders of its own for the shared and the user's files.
 class Store : public testing::Test {
@@ -46,89 +63,54 @@ class Store : public testing::Test {
   std::ptrdiff_t Entries() const {
     return std::distance(fs::directory_iterator(Folder()), fs::directory_iterator());
   }
+  static bool Save(const std::string& text) {
+    _WatermarkData data = kMark;
+    std::strcpy(data.textString, text.c_str());
+    return saveWatermarkData(kCollection, data);
+  }
+  int Load(const std::string& name) { return loadWatermarkData(kCollection, &name, &data_); }
 
   fs::path root_;
+  _WatermarkData data_ = kMark;
   std::error_code ignored_;
 };
 
-_WatermarkData TextWatermark(const char* text) {
-  _WatermarkData data{};
-  std::strcpy(data.textString, text);
-  std::strcpy(data.filename, "unused.png");
-  std::strcpy(data.filePath, "/a/\xC3\xA9.png");
-  std::strcpy(data.fontName, "Times-Bold");
-  data.xOffset = 0.1F;
-  data.yOffset = -2.5F;
-  data.fontColorRed = 0.25F;
-  data.fontColorGreen = 1.0F / 3;
-  data.fontColorBlue = 1;
-  data.fontColorAlpha = 0.5F;
-  data.wellColorRed = 0.7F;
-  data.wellColorGreen = 0.8F;
-  data.wellColorBlue = 0.9F;
-  data.wellColorAlpha = 0.95F;
-  data.angle = -45;
-  data.density = 40;
-  data.scale = 250;
-  data.units = 1;
-  data.fontSize = 72;
-  data.isTextWatermark = 1;
-  data.xPos = 100.1;
-  data.yPos = -1.0 / 3;
-  return data;
-}
-
 TEST_F(Store, EveryStoredFieldComesBack) {
-  const _WatermarkData saved = TextWatermark("Draft \"<1>\"");
-  ASSERT_TRUE(saveWatermarkData(kCollection, saved));
-  _WatermarkData loaded{};
-  const std::string name = saved.textString;
-  ASSERT_EQ(loadWatermarkData(kCollection, &name, &loaded), 1);
-  loaded.isTextWatermark = 1;  // not stored
-  EXPECT_EQ(std::memcmp(&loaded, &saved, sizeof saved), 0);
+  ASSERT_TRUE(Save(kMark.textString));
+  data_ = {};
+  ASSERT_EQ(Load(kMark.textString), 1);
+  data_.isTextWatermark = 1;  // not stored
+  EXPECT_EQ(std::memcmp(&data_, &kMark, sizeof kMark), 0);
   struct stat info {};
   ASSERT_EQ(::stat(File().c_str(), &info), 0);
   EXPECT_EQ(info.st_mode & 0444, 0444U) << "the filter runs as another user";
 
-  const std::string missing = "Final";
-  EXPECT_EQ(loadWatermarkData(kCollection, &missing, &loaded), 0);
   const _WatermarkData zero{};
-  EXPECT_EQ(std::memcmp(&loaded, &zero, sizeof zero), 0);
-  loaded.angle = 1;
-  EXPECT_EQ(loadWatermarkData(kCollection, nullptr, &loaded), 0);
-  EXPECT_EQ(loaded.angle, 0);
+  EXPECT_EQ(Load("Final"), 0);
+  EXPECT_EQ(std::memcmp(&data_, &zero, sizeof zero), 0);
+  data_ = kMark;
+  EXPECT_EQ(loadWatermarkData(kCollection, nullptr, &data_), 0);
+  EXPECT_EQ(std::memcmp(&data_, &zero, sizeof zero), 0);
 }
 
 TEST_F(Store, OddEntriesKeepTheRecordSane) {
-  Write(
-      "<plist version=\"1.0\"><dict><key>x</key><dict>"
-      "<key>textString</key><string>" +
-      std::string(512, 'a') +
-      "</string>"
-      "<key>fontName</key><string>" +
-      std::string(511, 'b') +
-      "</string>"
-      "<key>filename</key><integer>1</integer>"
-      "<key>angle</key><real>-30.9</real><key>scale</key><real>1e300</real>"
-      "<key>density</key><string>5</string><key>fontSize</key><integer>4294967297</integer>"
-      "<key>xPos</key><real>nan</real><key>xOffset</key><real>1e300</real>"
-      "<key>yPos</key><integer>7</integer></dict><key>y</key><string>no entry</string>"
-      "</dict></plist>");
-  _WatermarkData data = TextWatermark("kept");
-  std::string name = "x";
-  ASSERT_EQ(loadWatermarkData(kCollection, &name, &data), 1);
-  EXPECT_STREQ(data.textString, "") << "a text that does not fit is empty";
-  EXPECT_EQ(std::strlen(data.fontName), 511U);
-  EXPECT_STREQ(data.filename, "unused.png");
-  EXPECT_EQ(data.angle, -30);
-  EXPECT_EQ(data.scale, 250) << "out of range";
-  EXPECT_EQ(data.density, 40) << "a text is no number";
-  EXPECT_EQ(data.fontSize, 72) << "must not wrap to 1";
-  EXPECT_EQ(data.xPos, 100.1);
-  EXPECT_EQ(data.xOffset, 0.1F);
-  EXPECT_EQ(data.yPos, 7);
-  name = "y";
-  EXPECT_EQ(loadWatermarkData(kCollection, &name, &data), 0);
+  Write(R"(<plist version="1.0"><dict><key>x</key><dict><key>fontName</key><string>)" +
+        std::string(511, 'b') + "</string><key>textString</key><string>" + std::string(512, 'a') +
+        R"(</string><key>filename</key><integer>1</integer>
+           <key>angle</key><real>-30.9</real><key>scale</key><real>1e300</real>
+           <key>density</key><string>5</string><key>fontSize</key><integer>4294967297</integer>
+           <key>xPos</key><real>nan</real><key>xOffset</key><real>1e300</real>
+           <key>yPos</key><integer>7</integer></dict>
+           <key>y</key><string>no entry</string></dict></plist>)");
+  // Numbers that are out of range or no numbers, and texts that are none, leave their fields.
+  _WatermarkData expected = kMark;
+  std::memset(expected.textString, 0, sizeof expected.textString);  // does not fit
+  std::memset(expected.fontName, 'b', sizeof expected.fontName - 1);
+  expected.angle = -30;
+  expected.yPos = 7;
+  ASSERT_EQ(Load("x"), 1);
+  EXPECT_EQ(std::memcmp(&data_, &expected, sizeof expected), 0);
+  EXPECT_EQ(Load("y"), 0);
 }
 
 TEST_F(Store, ListsEntriesAndFontsShareOneFile) {
@@ -137,9 +119,10 @@ TEST_F(Store, ListsEntriesAndFontsShareOneFile) {
   EXPECT_FALSE(removeWatermarkData(kCollection, "Draft"));
   EXPECT_FALSE(fs::exists(File()));
 
-  const Array names{Value("None"), Value("Caf\xC3\xA9")};
+  const std::string composed = "Caf\xC3\xA9", decomposed = "Cafe\xCC\x81";  // one name
+  const Array names{Value("None"), Value(composed)};
   ASSERT_TRUE(saveWatermarkList(kCollection, &names));
-  ASSERT_TRUE(saveWatermarkData(kCollection, TextWatermark("Cafe\xCC\x81")));
+  ASSERT_TRUE(Save(decomposed));
   ASSERT_TRUE(storeFontData(kCollection, "Gothic", font));
 
   Array loaded, shown;
@@ -147,22 +130,22 @@ TEST_F(Store, ListsEntriesAndFontsShareOneFile) {
   ASSERT_EQ(loadWatermarkList(kCollection, &browser, &loaded), 1);
   EXPECT_EQ(Value(loaded), Value(names));
   EXPECT_EQ(Value(shown), Value(names));
-  _WatermarkData data{};
-  EXPECT_EQ(loadWatermarkData(kCollection, loaded[1].AsString(), &data), 1)
-      << "composed and decomposed names are one name";
+  EXPECT_EQ(Load(composed), 1);
+  EXPECT_EQ(Load(decomposed), 1);
   Data bytes{1};
-  loadFontData(kCollection, "Gothic", &bytes);
-  loadFontData(kCollection, "Caf\xC3\xA9", &bytes);
-  loadFontData(kCollection, "missing", &bytes);
+  for (const char* key : {"Gothic", composed.c_str(), "missing"})
+    loadFontData(kCollection, key, &bytes);
   EXPECT_EQ(bytes, (Data{1, '%', '!', 0, 255})) << "appended, and only data";
 
-  EXPECT_TRUE(removeWatermarkData(kCollection, "Cafe\xCC\x81"));
-  EXPECT_EQ(loadWatermarkData(kCollection, loaded[1].AsString(), &data), 0);
+  EXPECT_TRUE(removeWatermarkData(kCollection, decomposed));
+  EXPECT_EQ(Load(composed), 0);
   ASSERT_EQ(loadWatermarkList(kCollection, nullptr, &loaded), 1);
   EXPECT_EQ(loaded.size(), 2U) << "removing leaves the list alone";
 
-  _WatermarkData image = TextWatermark("Gothic");
+  _WatermarkData image = kMark;
   image.isTextWatermark = 0;
+  ASSERT_TRUE(saveWatermarkData(kCollection, image));
+  EXPECT_EQ(Load("unused.png"), 1);
   std::strcpy(image.filename, "WatermarkListEntries");
   EXPECT_FALSE(saveWatermarkData(kCollection, image)) << "it would replace the list";
   EXPECT_EQ(loadWatermarkList(nullptr, nullptr, &loaded), 0);
@@ -171,23 +154,23 @@ TEST_F(Store, ListsEntriesAndFontsShareOneFile) {
 }
 
 TEST_F(Store, DamagedFilesAreReportedAndKeptAside) {
-  ASSERT_TRUE(saveWatermarkData(kCollection, TextWatermark("Draft")));
+  ASSERT_TRUE(Save("Draft"));
   const std::string whole = Read();
-  const std::string broken[] = {"<plist><dict", whole.substr(0, whole.size() / 2), "",
-                                "<plist version=\"1.0\"><array/></plist>"};
-  for (const std::string& bytes : broken) {
+  const std::string array = "<plist version=\"1.0\"><array/></plist>";
+  for (const std::string& bytes :
+       {std::string("<plist><dict"), whole.substr(0, whole.size() / 2), std::string(), array}) {
     Write(bytes);
     testing::internal::CaptureStderr();
     Array names;
     EXPECT_EQ(loadWatermarkList(kCollection, nullptr, &names), 0);
     const std::string log = testing::internal::GetCapturedStderr();
-    if (bytes.find("array") == std::string::npos) {
+    if (bytes != array) {
       EXPECT_TRUE(log.starts_with("CopyXMLData()::CFPropertyListCreateFromXMLData() error: "));
       EXPECT_EQ(log.find('\n'), log.size() - 1) << "one line";
     }
     EXPECT_FALSE(removeWatermarkData(kCollection, "Draft"));
     EXPECT_EQ(Read(), bytes) << "changes leave a damaged file alone";
-    ASSERT_TRUE(saveWatermarkData(kCollection, TextWatermark("Draft")));
+    ASSERT_TRUE(Save("Draft"));
     EXPECT_EQ(Read(), whole);
     EXPECT_EQ(fs::file_size(File().string() + ".damaged"), bytes.size());
   }
@@ -202,29 +185,25 @@ TEST_F(Store, FoldersThatAreMissingOrReadOnly) {
 
   ::setenv("ZARVO_APPLICATION_SUPPORT", (root_ / "none").c_str(), 1);
   EXPECT_FALSE(CopyPreferenceFileURL("a.plist"));
-  EXPECT_FALSE(saveWatermarkData(kCollection, TextWatermark("Draft")));
+  EXPECT_FALSE(Save("Draft"));
   ::setenv("ZARVO_APPLICATION_SUPPORT", root_.c_str(), 1);
 
-  ASSERT_TRUE(saveWatermarkData(kCollection, TextWatermark("Draft")));
+  ASSERT_TRUE(Save("Draft"));
   fs::permissions(root_, fs::perms(0755));
   const pid_t child = ::fork();
   if (child == 0) {  // without the superuser's rights the folder is read-only
     if (::getuid() == 0 ? ::setuid(65534) != 0 : ::chmod(Folder().c_str(), 0555) != 0) ::_exit(2);
-    _WatermarkData data{};
-    const std::string name = "Draft";
-    ::_exit(saveWatermarkData(kCollection, TextWatermark("Final")) ||
-            loadWatermarkData(kCollection, &name, &data) != 1);
+    ::_exit(Save("Final") || Load("Draft") != 1);
   }
   int status = -1;
   ::waitpid(child, &status, 0);
   EXPECT_EQ(status, 0);
   fs::permissions(Folder(), fs::perms(0755));
-  EXPECT_EQ(Entries(), 1) << "no temporary file stays";
   fs::remove(File());
 
   // A folder in the file's place fails for the superuser too, whom permissions do not stop.
   fs::create_directories(File() / "x");
-  EXPECT_FALSE(saveWatermarkData(kCollection, TextWatermark("Draft")));
+  EXPECT_FALSE(Save("Draft"));
   EXPECT_EQ(Entries(), 1) << "no temporary file stays";
 }
 
@@ -234,12 +213,9 @@ TEST_F(Store, UserPreferencesReportFailedWrites) {
   EXPECT_TRUE(WriteUserPreferences("my.plist", preferences));
   EXPECT_EQ(Value(*CopyUserPreferences("my.plist")), preferences);
   std::ofstream(root_ / "config" / "my.plist") << "junk";
-  testing::internal::CaptureStderr();
-  EXPECT_EQ(Value(*CopyUserPreferences("my.plist")), Value(Dictionary()));
-  EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
-
   fs::create_directories(root_ / "config" / "taken.plist" / "x");
   testing::internal::CaptureStderr();
+  EXPECT_EQ(Value(*CopyUserPreferences("my.plist")), Value(Dictionary()));
   EXPECT_FALSE(WriteUserPreferences("taken.plist", preferences));
   EXPECT_EQ(testing::internal::GetCapturedStderr(), "WriteUserPreferences() failed (21)\n");
 
@@ -249,14 +225,13 @@ TEST_F(Store, UserPreferencesReportFailedWrites) {
 }
 
 TEST_F(Store, ParallelWritersLoseNothingAndReadersSeeWholeFiles) {
-  ASSERT_TRUE(saveWatermarkList(kCollection, std::make_unique<Array>().get()));
+  const Array none;
+  ASSERT_TRUE(saveWatermarkList(kCollection, &none));
   constexpr int writers = 4, each = 10;
   for (int writer = 0; writer < writers; ++writer) {
     if (::fork() != 0) continue;
-    for (int i = 0; i < each; ++i) {
-      const std::string name = std::to_string(writer) + "-" + std::to_string(i);
-      if (!saveWatermarkData(kCollection, TextWatermark(name.c_str()))) ::_exit(1);
-    }
+    for (int i = 0; i < each; ++i)
+      if (!Save(std::to_string(writer) + "-" + std::to_string(i))) ::_exit(1);
     ::_exit(0);
   }
   int failed = 0, left = writers;
@@ -273,26 +248,16 @@ TEST_F(Store, ParallelWritersLoseNothingAndReadersSeeWholeFiles) {
 }
 
 TEST_F(Store, ATenMegabyteListIsReadInTime) {
-  Dictionary file;
-  Array names;
-  const std::string padding(900, 'x');
-  for (int i = 0; i < 10000; ++i) {
-    const std::string name = "mark " + std::to_string(i);
-    names.emplace_back(name);
-    file.emplace(name, Value(Dictionary{{"filePath", Value(padding)}, {"angle", Number(i)}}));
-  }
-  ASSERT_TRUE(ChangeSharedFile(kCollection, MissingFile::kStartEmpty, [&](Dictionary& all) {
-    all = std::move(file);
-    return true;
-  }));
-  ASSERT_TRUE(saveWatermarkList(kCollection, &names));
-  EXPECT_GT(fs::file_size(File()), 10U << 20);
-  _WatermarkData data{};
-  const std::string name = "mark 9999";
+  std::string xml = "<plist version=\"1.0\"><dict>";
+  for (int i = 0; i < 10000; ++i)
+    xml += "<key>" + std::to_string(i) + "</key><dict><key>filePath</key><string>" +
+           std::string(1000, 'x') + "</string><key>angle</key><real>9</real></dict>";
+  Write(xml + "</dict></plist>");
   const auto begin = std::clock();
-  EXPECT_EQ(loadWatermarkData(kCollection, &name, &data), 1);
+  EXPECT_TRUE(Save("one more"));
+  EXPECT_EQ(Load("9999"), 1);
   EXPECT_LT(std::clock() - begin, 5 * CLOCKS_PER_SEC);
-  EXPECT_EQ(data.angle, 9999);
+  EXPECT_EQ(data_.angle, 9);
 }
 
 }  // namespace
