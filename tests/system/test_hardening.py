@@ -3,6 +3,7 @@
 
 import os
 import pathlib
+import re
 import subprocess
 import unittest
 
@@ -30,6 +31,11 @@ class Hardening(unittest.TestCase):
                 symbols = readelf("-s", program)
                 self.assertIn("__stack_chk_fail", symbols)
                 self.assertIn("printf_chk", symbols)
+
+    def test_the_filter_links_no_drawing_library(self):
+        names = set(re.findall(r"NEEDED.*\[(.*?)\.so", readelf("-d", "zarvofilter")))
+        runtime = {"ld-linux-x86-64", "libstdc++", "libgcc_s", "libc", "libm"}
+        self.assertEqual(names - runtime, {"libcups", "libplist-2.0"})  # libutf8proc is linked in
 
 
 if __name__ == "__main__":

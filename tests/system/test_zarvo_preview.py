@@ -29,12 +29,9 @@ def page_text(pdf):
 
 
 class Preview(ZarvoTest):
-    def settings(self, **settings):
-        return self.path("settings.json", json.dumps(settings))
-
     def test_booklet_with_watermark(self):
         self.run_zarvo("watermark", "add-text", "DRAFT", "--color", "#cc0000")
-        settings = self.settings(**{
+        settings = self.path("s.json", {
             "BookletLayout": True, "PageSize": "A4", "JTMLOptions": {"JTMLOptionAll": True},
             "watermark.Watermark": "DRAFT", "watermark.Option": "foreground",
         })
@@ -54,7 +51,7 @@ class Preview(ZarvoTest):
         self.assertEqual([round(bar / bars[1]) for bar in bars], [8, 1, 2, 7, 6, 3, 4, 5])
 
     def test_covers_and_inserts_are_named_in_their_place(self):
-        settings = self.settings(**{
+        settings = self.path("s.json", {
             "JTMLOptions": {"JTMLOptionAll": True},
             "FinishingDuplex": "long-edge",
             "SpecialPages.FrontCover": {"SidesImaged": "none", "Stock": {"Size": "a4", "Color": "blue"}},
@@ -99,11 +96,11 @@ class Preview(ZarvoTest):
 
 class Spooler(ZarvoTest):
     def test_print_and_queue(self):
-        settings = self.path("s.json", json.dumps({
+        settings = self.path("s.json", {
             "JobType": {"JobType": "secure", "SecurePrintPassword": "4 2'7"},
             "JTMLOptions": {"JTMLOptionAll": True},
             "JobNotesMessage": "a \"b\" 'c' \\ {d}, \u00e9",
-        }))
+        })
         job = self.path("job.ps", document(2))
         with PrivateCupsd() as cupsd, Printer() as printer:
             cupsd.add_queue("office", PPD, printer.uri)

@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: Apache-2.0
 """What the tests of the command-line tool share: a scratch folder and ways to run things."""
 
+import json
 import os
 import pathlib
 import plistlib
@@ -46,6 +47,8 @@ class ZarvoTest(unittest.TestCase):
 
     def path(self, name, content=None):
         path = self.scratch / name
+        if isinstance(content, dict):
+            content = json.dumps(content)
         if content is not None:
             path.write_bytes(content if isinstance(content, bytes) else content.encode())
         return str(path)
