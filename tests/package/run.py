@@ -13,7 +13,6 @@ import os
 import pathlib
 import re
 import shutil
-import socket
 import subprocess
 import sys
 import tempfile
@@ -23,10 +22,9 @@ BUILD = pathlib.Path(sys.argv[1]).resolve()
 SOURCE = pathlib.Path(__file__).resolve().parents[2]
 os.environ["ZARVO_BIN"] = str(BUILD / "bin")
 sys.path.insert(0, str(SOURCE / "tests/system"))
-from cupsd import Printer  # noqa: E402
+from cupsd import CONFIGURATION, PrivateCupsd, Printer, free_port  # noqa: E402
 
 SKIPPED = 77
-STARTED = time.monotonic()
 STEPS = []
 # /proc is mounted for one command alone: the mount is gone with it, and nothing that clears the
 # folder away can ever reach through it.
@@ -45,20 +43,6 @@ MODES = {
         "./usr/share/bash-completion/completions/zarvo": "-rw-r--r--",
     },
 }
-CUPSD_CONF = """Listen 127.0.0.1:{port}
-LogLevel debug
-DefaultAuthType None
-<Location />
-  Order allow,deny
-  Allow from 127.0.0.1
-</Location>
-<Policy default>
-  <Limit All>
-    Order allow,deny
-    Allow from 127.0.0.1
-  </Limit>
-</Policy>
-"""
 JOB = """%!PS-Adobe-3.0
 << /PageSize [595 842] >> setpagedevice
 1 1 8 { /Helvetica 99 selectfont 100 400 moveto 10 string cvs show showpage } for
@@ -149,30 +133,26 @@ def install(system, packages):
         (system.root / "root" / package.name).unlink()
 
 
-class Cupsd:
+class Cupsd(PrivateCupsd):
+    """The spooler of the bare system."""
+
     def __init__(self, system):
         self.system = system
 
     def __enter__(self):
-        with socket.socket() as probe:
-            probe.bind(("127.0.0.1", 0))
-            port = probe.getsockname()[1]
-        (self.system.root / "etc/cups/cupsd.conf").write_text(CUPSD_CONF.format(port=port))
-        self.server = f"127.0.0.1:{port}"
+        self.port = free_port()
+        self.error_log = self.system.root / "var/log/cups/error_log"
+        (self.system.root / "etc/cups/cupsd.conf").write_text(CONFIGURATION.format(port=self.port))
         self.process = subprocess.Popen(self.system.command("/usr/sbin/cupsd", "-f"))
-        for _ in range(100):
-            with socket.socket() as probe:
-                if probe.connect_ex(("127.0.0.1", port)) == 0:
-                    return self
-            time.sleep(0.1)
-        raise RuntimeError("cupsd did not start")
+        self._wait_until_ready()
+        return self
 
     def __exit__(self, *exception):
         self.process.terminate()
         self.process.wait()
 
     def run(self, *command):
-        return self.system.run(*command, CUPS_SERVER=self.server)
+        return self.system.run(*command, CUPS_SERVER=f"127.0.0.1:{self.port}")
 
 
 def use(system):
@@ -215,11 +195,21 @@ def remove(system):
     check("OURS" in kept, "the user's watermark is gone")
 
 
-def why_no_chroot():
+def use_on_bare_system(packages):
+    """Gives the reason when there cannot be such a system."""
     if os.geteuid() != 0:
         return "a bare system can be made by root only"
     if shutil.which("debootstrap") is None:
         return "debootstrap is not installed"
+    with tempfile.TemporaryDirectory(prefix="zarvo-debian-") as scratch:
+        system = Chroot(pathlib.Path(scratch))
+        try:
+            step("debootstrap", system.make)
+        except (AssertionError, subprocess.TimeoutExpired) as error:
+            return f"debootstrap failed: {error}"
+        step("apt install of both packages", lambda: install(system, packages))
+        use(system)
+        step("apt purge", lambda: remove(system))
     return ""
 
 
@@ -228,18 +218,7 @@ def main():
     folder.parent.mkdir(exist_ok=True)
     packages = step("make deb", lambda: build_packages(folder))
     step("lintian, owners and modes", lambda: examine(packages))
-    reason = why_no_chroot()
-    if not reason:
-        with tempfile.TemporaryDirectory(prefix="zarvo-debian-") as scratch:
-            system = Chroot(pathlib.Path(scratch))
-            try:
-                step("debootstrap", system.make)
-            except (AssertionError, subprocess.TimeoutExpired) as error:
-                reason = f"debootstrap failed: {error}"
-            if not reason:
-                step("apt install of both packages", lambda: install(system, packages))
-                use(system)
-                step("apt purge", lambda: remove(system))
+    reason = use_on_bare_system(packages)
     (BUILD / "test-output/package-steps.txt").write_text("\n".join(STEPS) + "\n")
     if reason:
         print(f"SKIPPED: installing on a bare Debian: {reason}")

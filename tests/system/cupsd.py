@@ -22,6 +22,21 @@ SYSTEM_SERVERBIN = pathlib.Path(
     .stdout.strip()
 )
 CONVERTER_GROUPS = ("backend", "filter")
+# This machine alone, which is asked for no password.
+CONFIGURATION = """Listen 127.0.0.1:{port}
+LogLevel debug
+DefaultAuthType None
+<Location />
+  Order allow,deny
+  Allow from 127.0.0.1
+</Location>
+<Policy default>
+  <Limit All>
+    Order allow,deny
+    Allow from 127.0.0.1
+  </Limit>
+</Policy>
+"""
 
 
 def free_port():
@@ -162,25 +177,13 @@ FileDevice Yes
 """
         )
         (self.root / "cupsd.conf").write_text(
-            f"""Listen 127.0.0.1:{self.port}
-LogLevel debug
-MaxLogSize 0
+            CONFIGURATION.format(port=self.port)
+            + f"""MaxLogSize 0
 Browsing No
 WebInterface No
-DefaultAuthType None
 MaxJobs {self._max_jobs}
 PreserveJobHistory Yes
 PreserveJobFiles No
-<Location />
-  Order allow,deny
-  Allow from 127.0.0.1
-</Location>
-<Policy default>
-  <Limit All>
-    Order allow,deny
-    Allow from 127.0.0.1
-  </Limit>
-</Policy>
 """
         )
 

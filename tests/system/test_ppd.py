@@ -25,25 +25,25 @@ XML = "com.zarvo.print.JTMLOptions..d_JTMLOptionAll..b=true"
 JOB = b"%!PS-Adobe-3.0\n%%BeginProlog\n%%EndProlog\n%%BeginSetup\n%%EndSetup\n%%Page: 1 1\n%%EOF\n"
 # What a choice needs beside it to show.
 WITH = {
-    "JobPIN": "JobType=Secure",
-    "SavedJobName": "JobType=Save",
-    "SavedJobFormat": "JobType=Save",
-    "AccountUser": "Accounting=Account",
-    "AccountID": "Accounting=Account AccountUser=Custom.somebody",
-    "Accounting": "AccountUser=Custom.somebody AccountID=Custom.4711",
-    "HoleCount": "Punch=Left",
-    "SeparatorColor": "Separators=Blank",
-    "CoverColorFront": "FrontCover=Blank",
-    "CoverColorBack": "BackCover=Blank",
-    "FormCyclePages": "BackgroundForm=Custom.Letterhead",
-    "WMPlace": "Watermark=DRAFT",
-    "WMPages": "Watermark=DRAFT",
-    "BookletFinish": "BookletLayout=LeftToRight",
+    option: beside
+    for beside, options in {
+        "JobType=Secure": "JobPIN",
+        "JobType=Save": "SavedJobName SavedJobFormat",
+        "Accounting=Account": "AccountUser",
+        "Accounting=Account AccountUser=Custom.somebody": "AccountID",
+        "AccountUser=Custom.somebody AccountID=Custom.4711": "Accounting",
+        "Punch=Left": "HoleCount",
+        "Separators=Blank": "SeparatorColor",
+        "FrontCover=Blank": "CoverColorFront",
+        "BackCover=Blank": "CoverColorBack",
+        "BackgroundForm=Custom.Letterhead": "FormCyclePages",
+        "Watermark=DRAFT": "WMPlace WMPages",
+        "BookletLayout=LeftToRight": "BookletFinish BookletPaper BookletOutline BookletRotate "
+                                     "BookletGutter BookletCreep",
+        "FaxNumber=Custom.0911-4711": "FaxResolution FaxSpeed FaxConfirmation FaxPrefix FaxBilling",
+    }.items()
+    for option in options.split()
 }
-for name in ("Paper", "Outline", "Rotate", "Gutter", "Creep"):
-    WITH["Booklet" + name] = "BookletLayout=LeftToRight"
-for name in ("Resolution", "Speed", "Confirmation", "Prefix", "Billing"):
-    WITH["Fax" + name] = "FaxNumber=Custom.0911-4711"
 # Cover sheets are drawn; what they show is the fax cover's business.
 UNSEEN = {"FaxCover", "FaxRecipient", "FaxSender", "FaxNotes"}
 CUSTOM = {"int": "7", "string": "A\\ \\&\\ B", "passcode": "0391"}

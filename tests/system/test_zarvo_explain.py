@@ -7,39 +7,27 @@ import unittest
 
 from zarvo import ALL_SECTIONS, ZarvoTest, document
 
-SECRETS = ["S3CR", "Tr0ub4dor", "ACCT-77", "4111222233"]
+SECRETS = "S3CR|Tr0ub4dor|ACCT-77|4111222233"
 JOBTYPE = "com.zarvo.print.JobType..d_"
-FULL = " ".join(
-    [
-        ALL_SECTIONS,
-        JOBTYPE + "JobType..n=6",
-        JOBTYPE + "SecurePrintPassword=S3CR",
-        "com.zarvo.Act.On..n=3 com.zarvo.Act.UID=Tr0ub4dor com.zarvo.Act.AID=ACCT-77",
-        "com.zarvo.Act.jtml.On..n=3 com.zarvo.Act.jtml.UID=Tr0ub4dor",
-        "com.zarvo.Act.jtml.AID=ACCT-77",
-        "com.zarvo.print.BannerPage..b=true com.zarvo.print.RequestOffset..b=false",
-        "com.zarvo.print.JobNotesJobName='Q3 & more' com.zarvo.print.JobNotesSenderName=Ada",
-        "com.zarvo.print.JobLevelStock..d_Size..n=4 com.zarvo.print.JobLevelStock..d_Color..n=2",
-        "com.zarvo.print.FinishingOptions..n=4 com.zarvo.print.FinishingStaple1Value..n=5",
-        "com.zarvo.print.FinishingDuplex..n=2 com.zarvo.print.Resolution..n=2",
-        "com.zarvo.print.SpecialPages.FrontCover..d_Stock..d_Size..n=4",
-        "com.zarvo.print.SpecialPages.InsertList..a_0..d_StartPage..n=3",
-        "com.zarvo.print.SpecialPages.InsertList..a_0..d_Stock..d_Color..n=5",
-        "com.zarvo.print.SpecialPages.ExceptionList..a_0..d_StartPage..n=2",
-        "com.zarvo.print.SpecialPages.ExceptionList..a_0..d_EndPage..n=4",
-        "com.zarvo.print.PagesToPrintSelected..n=1 com.zarvo.print.PagesToPrintFrom..n=1",
-        "com.zarvo.print.PagesToPrintTo..n=9",
-    ]
-)
-FAX = " ".join(
-    [
-        JOBTYPE + "JobType..n=5",
-        "com.zarvo.print.FaxOptions..d_Resolution..n=3",
-        "com.zarvo.print.FaxOptions..d_CreditCard=4111222233",
-        "com.zarvo.print.FaxRecipientList..a_0..d_FaxNumber='+1 (202) 555-0143'",
-        "com.zarvo.print.FaxRecipientList..a_1..d_Mailbox=12",
-    ]
-)
+FULL = f"""{ALL_SECTIONS} {JOBTYPE}JobType..n=6 {JOBTYPE}SecurePrintPassword=S3CR
+com.zarvo.Act.On..n=3 com.zarvo.Act.UID=Tr0ub4dor com.zarvo.Act.AID=ACCT-77
+com.zarvo.Act.jtml.On..n=3 com.zarvo.Act.jtml.UID=Tr0ub4dor com.zarvo.Act.jtml.AID=ACCT-77
+com.zarvo.print.BannerPage..b=true com.zarvo.print.RequestOffset..b=false
+com.zarvo.print.JobNotesJobName='Q3 & more' com.zarvo.print.JobNotesSenderName=Ada
+com.zarvo.print.JobLevelStock..d_Size..n=4 com.zarvo.print.JobLevelStock..d_Color..n=2
+com.zarvo.print.FinishingOptions..n=4 com.zarvo.print.FinishingStaple1Value..n=5
+com.zarvo.print.FinishingDuplex..n=2 com.zarvo.print.Resolution..n=2
+com.zarvo.print.SpecialPages.FrontCover..d_Stock..d_Size..n=4
+com.zarvo.print.SpecialPages.InsertList..a_0..d_StartPage..n=3
+com.zarvo.print.SpecialPages.InsertList..a_0..d_Stock..d_Color..n=5
+com.zarvo.print.SpecialPages.ExceptionList..a_0..d_StartPage..n=2
+com.zarvo.print.SpecialPages.ExceptionList..a_0..d_EndPage..n=4
+com.zarvo.print.PagesToPrintSelected..n=1 com.zarvo.print.PagesToPrintFrom..n=1
+com.zarvo.print.PagesToPrintTo..n=9"""
+FAX = f"""{JOBTYPE}JobType..n=5 com.zarvo.print.FaxOptions..d_Resolution..n=3
+com.zarvo.print.FaxOptions..d_CreditCard=4111222233
+com.zarvo.print.FaxRecipientList..a_0..d_FaxNumber='+1 (202) 555-0143'
+com.zarvo.print.FaxRecipientList..a_1..d_Mailbox=12"""
 
 
 class Explain(ZarvoTest):
@@ -48,8 +36,7 @@ class Explain(ZarvoTest):
         for name, (options, job) in jobs.items():
             with self.subTest(name):
                 text = self.run_zarvo("explain", stdin=self.filtered(options, job))
-                for secret in SECRETS:
-                    self.assertNotIn(secret, text)
+                self.assertNotRegex(text, SECRETS)
                 self.assert_golden(name + ".txt", text)
 
     def test_json_says_the_same(self):
@@ -60,8 +47,7 @@ class Explain(ZarvoTest):
         self.assertEqual(report["findings"], [])
         sides = [s["value"] for s in report["ticket"] if s["code"] == "sides"]
         self.assertEqual(sides[0], "two-sided-long-edge")
-        for secret in SECRETS:
-            self.assertNotIn(secret, json.dumps(report))
+        self.assertNotRegex(json.dumps(report), SECRETS)
 
     def test_what_looks_wrong(self):
         good = self.filtered(FULL, document(2))
@@ -77,20 +63,15 @@ class Explain(ZarvoTest):
             "no PJL envelope": document(1).encode(),
             "no PostScript document": b"",
             "finishing: unknown code 77": good.replace(b">20<", b">77<"),
-            "printed after: no date and time": self.filtered(
-                JOBTYPE + "JobType..n=7", document()
-            ),
+            "printed after: no date and time": self.filtered(JOBTYPE + "JobType..n=7", document()),
         }.items():
             with self.subTest(finding):
                 self.assertIn(finding, self.run_zarvo("explain", stdin=damaged, status=1))
 
     def test_hostile_jobs_end(self):
-        self.run_zarvo("explain", stdin=b"<?xml?><jtml>" + b"<media-col>" * 100_000, status=1)
-        self.run_zarvo("explain", stdin=b"@PJL COMMENT x\n" * 200_000, status=1)
-        self.assertNotIn(b"\x1b]0;", self.run_zarvo(
-            "explain", stdin=b'@PJL COMMENT OID_ATT_SAVE_NAME "\x1b]0;x";\n', status=1).encode())
-
-    def test_missing_file(self):
+        for job in (b"<?xml?><jtml>" + b"<media-col>" * 100_000, b"@PJL COMMENT x\n" * 200_000,
+                    b'@PJL COMMENT OID_ATT_SAVE_NAME "\x1b]0;x";\n'):
+            self.assertNotIn("\x1b]0;", self.run_zarvo("explain", stdin=job, status=1))
         self.run_zarvo("explain", "missing.prn", status=2)
         self.assertIn("missing.prn: No such file", self.errors)
 

@@ -12,10 +12,9 @@ from pictures import png, read_png
 
 
 class Watermarks(ZarvoTest):
-    def store(self, name="watermarks"):
-        return plistlib.loads(
-            (self.scratch / f"data/Zarvo/com.zarvo.printing.{name}.plist").read_bytes()
-        )
+    def store(self):
+        path = self.scratch / "data/Zarvo/com.zarvo.printing.watermarks.plist"
+        return plistlib.loads(path.read_bytes())
 
     def test_texts_and_images_come_and_go(self):
         logo = self.path("logo.png", png(30, 20, (0, 0, 255)))
@@ -64,15 +63,16 @@ class Watermarks(ZarvoTest):
             self.run_zarvo("watermark", "font", self.path("broken", broken), status=2)
 
     def test_bad_arguments(self):
-        self.run_zarvo("watermark", "add-text", "x" * 512, status=2)
-        self.run_zarvo("watermark", "add-text", "x", "--color", "red", status=2)
-        self.run_zarvo("watermark", "add-text", "x", "--font", "a) show (", status=2)
-        self.run_zarvo("watermark", "add-image", "missing.png", status=2)
-        self.run_zarvo("watermark", "add-image", self.path("a.png", b""), "--name", "../b", status=2)
-        self.run_zarvo("watermark", "show", "nothing", status=2)
-        self.assertIn("zarvo watermark list", self.errors)
-
-    def test_a_store_that_cannot_be_written(self):
+        for arguments, told in (
+            (["add-text", "x" * 512], ""),
+            (["add-text", "x", "--color", "red"], ""),
+            (["add-text", "x", "--font", "a) show ("], ""),
+            (["add-image", "missing.png"], ""),
+            (["add-image", self.path("a.png", b""), "--name", "../b"], ""),
+            (["show", "nothing"], "zarvo watermark list"),
+        ):
+            self.run_zarvo("watermark", *arguments, status=2)
+            self.assertIn(told, self.errors)
         self.environment["ZARVO_APPLICATION_SUPPORT"] = "/proc"
         self.run_zarvo("watermark", "add-text", "x", status=2)
         self.assertIn("as root", self.errors)
@@ -87,12 +87,12 @@ class Recipients(ZarvoTest):
         self.run_zarvo("recipient", "group", "Branches", "Ada de L\u00f3velace; x", box[:8], ada)
         group = json.loads(self.run_zarvo("recipient", "list", "--json", "--group", "Branches"))
         people = {p["UID"]: p for p in group["com.zarvo.print.FaxRecipientList"]}
-        self.assertEqual(people[ada], {
-            "UID": ada, "FirstName": "Ada", "LastName": "de L\u00f3velace; x",
-            "FaxNumber": "+44 20 7946", "Organization": "A;B\\, C", "PhoneNumber": "5",
-            "EmailAddress": "ada@example.org",
+        self.assertEqual(people, {
+            ada: {"UID": ada, "FirstName": "Ada", "LastName": "de L\u00f3velace; x",
+                  "FaxNumber": "+44 20 7946", "Organization": "A;B\\, C", "PhoneNumber": "5",
+                  "EmailAddress": "ada@example.org"},
+            box: {"UID": box, "Mailbox": "12"},
         })
-        self.assertEqual(people[box], {"UID": box, "Mailbox": "12"})
         self.assertIn("group Branches  members 2", self.run_zarvo("recipient", "list"))
         self.run_zarvo("recipient", "remove", ada)
         self.assertIn("group Branches  members 1", self.run_zarvo("recipient", "list"))
@@ -101,14 +101,15 @@ class Recipients(ZarvoTest):
         self.run_zarvo("ticket", "check", stdin=self.run_zarvo("recipient", "list", "--json"))
 
     def test_bad_arguments(self):
-        self.run_zarvo("recipient", "add", "--first", "Ada", status=2)
-        self.run_zarvo("recipient", "add", "--fax", "no number", status=2)
-        self.run_zarvo("recipient", "add", "--fax", "1", "--last", "\udce9", status=2)
         for _ in range(2):
             self.run_zarvo("recipient", "add", "--first", "Bo", "--fax", "1")
-        self.run_zarvo("recipient", "remove", "Bo", status=2)
-        self.assertIn("more than one", self.errors)
-        self.run_zarvo("recipient", "remove", "", status=2)
+        for arguments, told in (
+            ("add --first Ada", ""), ("add --fax no-number", ""), ("add --fax 1 --last \udce9", ""),
+            ("remove ", ""),
+            ("remove Bo", "more than one"),
+        ):
+            self.run_zarvo("recipient", *arguments.split(" "), status=2)
+            self.assertIn(told, self.errors)
         self.environment["ZARVO_ADDRESS_BOOK"] = "/proc/contacts"
         self.run_zarvo("recipient", "add", "--fax", "1", status=2)
         self.assertIn("/proc/contacts", self.errors)
@@ -120,9 +121,7 @@ class Recipients(ZarvoTest):
         self.run_zarvo("fax", "preview", "--output", "c.pdf", stdin=json.dumps(settings))
         text = subprocess.run(["pdftotext", "-layout", self.scratch / "c.pdf", "-"],
                               capture_output=True, text=True, check=True).stdout
-        self.assertEqual(text.split("\n")[0].strip(), "To")
-        self.assertIn("Ada, Hopper", text)
-        self.assertIn("With thanks", text)
+        self.assertRegex(text, r"(?s)^ *To\n.*Ada, Hopper.*With thanks")
 
 
 if __name__ == "__main__":

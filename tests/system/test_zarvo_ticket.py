@@ -37,27 +37,22 @@ class Ticket(ZarvoTest):
         self.assertEqual(self.run_zarvo("ticket", "encode", stdin=xml), options)
 
     def test_secrets_are_shown_to_who_asks_only(self):
-        ticket = {
+        text = json.dumps({
             "com.zarvo.print.JobType": {"SecurePrintPassword": "S3CRET"},
-            "com.zarvo.Act.UID": "S3CRET",
-            "com.zarvo.Act.AID": "S3CRET",
-            "com.zarvo.print.FaxOptions": {"CreditCard": "S3CRET"},
-        }
-        text = json.dumps(ticket)
+            "com.zarvo.Act.UID": "S3CRET", "com.zarvo.Act.AID": "S3CRET",
+            "com.zarvo.print.FaxOptions": {"CreditCard": "S3CRET"}})
         for form in ("json", "plist"):
-            shown = self.run_zarvo("ticket", "decode", "-f", form, stdin=text)
-            self.assertNotIn("S3CRET", shown)
+            self.assertNotIn("S3CRET", self.run_zarvo("ticket", "decode", "-f", form, stdin=text))
         # What was hidden must not be printed as if it were the PIN.
         hidden = self.run_zarvo("ticket", "decode", stdin=text)
         self.run_zarvo("ticket", "encode", stdin=hidden, status=2)
         self.assertIn("hidden", self.errors)
 
     def test_short_names_and_spooler_options(self):
-        lines = self.run_zarvo(
-            "ticket", "encode", "-l", stdin='{"TonerSaver": true, "copies": 3, "Resolution": "600x600"}'
-        )
+        short = '{"TonerSaver": true, "copies": 3, "Resolution": "600x600"}'
+        lines = self.run_zarvo("ticket", "encode", "-l", stdin=short).split()
         self.assertEqual(
-            sorted(lines.split()),
+            sorted(lines),
             ["com.zarvo.print.Resolution..n=2", "com.zarvo.print.TonerSaver..b=true", "copies=3"],
         )
 
@@ -106,10 +101,8 @@ class Ticket(ZarvoTest):
     def test_keys_are_those_of_the_ticket_page(self):
         """The page tells the options, the tool the keys; neither may know more than the other."""
         types = {"n": ("number", "date", "any"), "b": ("boolean", "any"), "": ("text", "any")}
-        listed = {}
-        for line in self.run_zarvo("ticket", "keys").splitlines():
-            key, type_name, _ = line.split("\t")
-            listed[key] = type_name
+        lines = self.run_zarvo("ticket", "keys").splitlines()
+        listed = {key: kind for key, kind, _ in (line.split("\t") for line in lines)}
         told = set()
         for name in re.findall(r"^\| `(com\.[^`]*)`", (SOURCE / "docs/ticket.md").read_text(), re.M):
             parts = name.split("..")
@@ -121,11 +114,8 @@ class Ticket(ZarvoTest):
                 told.add(path)
                 path = path.rpartition("/")[0]
         # Whole groups are described once, for the first key that holds one.
-        described_elsewhere = re.compile(
-            r"/Stock/|ImageShiftOptionsPage/|FullColorOptionsPage/|(InsertList|ExceptionList)/Stock"
-        )
-        untold = {key for key in set(listed) - told if not described_elsewhere.search(key)}
-        self.assertEqual(untold, set())
+        elsewhere = r"/Stock/|ImageShiftOptionsPage/|FullColorOptionsPage/|(InsertList|ExceptionList)/Stock"
+        self.assertEqual([key for key in set(listed) - told if not re.search(elsewhere, key)], [])
 
 
 if __name__ == "__main__":

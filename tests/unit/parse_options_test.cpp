@@ -58,7 +58,7 @@ TEST(ParseOptions, DecodesEveryAddressAndType) {
       {"K..n=1 K..a_0..n=2", "{K=1;}"},  // the number is in the way of the array
       {"K..a_0..n=1 K..d_x..n=2", "{K=(1,);}"},
       {"K..d_x..n=1 K..d_x..a_0..n=2", "{K={x=1;};}"},
-      {"K=\xFF L..d_x=\xFF", "{L={};}"},  // not UTF-8
+      {"K=\xFF L..d_x=\xFF M=\xED\xA0\x80", "{L={};}"},  // not UTF-8
       {"K=e\xCC\x81", "{K='\xC3\xA9';}"},
   };
   for (const auto& [text, ticket] : rows) EXPECT_EQ(Show(TicketOf(text)), ticket) << text;

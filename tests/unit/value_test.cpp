@@ -7,8 +7,6 @@
 #include <sstream>
 
 #include "Platform/Clock.h"
-#include "Platform/Log.h"
-#include "Platform/Text.h"
 #include "Source/CFAdditions.h"
 
 namespace zarvo {
@@ -58,20 +56,6 @@ TEST(CFAdditions, KindsAreNotMixedUp) {
   EXPECT_FALSE(DictionaryContains(ticket, "bad"));
   CFDictionaryGetDictionaryOrCreate(ticket, "flag").emplace("inner", Value("x"));
   EXPECT_EQ(*DictionaryGetString(*DictionaryGetDictionary(ticket, "flag"), "inner"), "x");
-}
-
-TEST(Text, NormalisesAndCutsAtCharacters) {
-  EXPECT_EQ(MakeString("e\xCC\x81"), "\xC3\xA9");
-  EXPECT_EQ(MakeString("\xC3("), std::nullopt);
-  EXPECT_EQ(MakeString("\xED\xA0\x80"), std::nullopt) << "a lone surrogate";
-  EXPECT_EQ(Utf8Prefix("a\xC3\xA9", 2), "a");
-  EXPECT_EQ(Utf8Prefix("a\xC3\xA9", 3), "a\xC3\xA9");
-}
-
-TEST(Log, TextNeverStartsALineOfItsOwn) {
-  testing::internal::CaptureStderr();
-  LogLine("DEBUG: %s", "a\nSTATE: +x\r\x1b\x7f");
-  EXPECT_EQ(testing::internal::GetCapturedStderr(), "DEBUG: a?STATE: +x???\n");
 }
 
 TEST(Clock, CountsTheCalendarFrom1904) {
