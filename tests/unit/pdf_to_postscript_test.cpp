@@ -88,6 +88,7 @@ TEST_F(PdfToPostScript, SaysWhichConverterFailedAndHow) {
       {"exec yes", kGood, "/pdftops did not finish in time"},
       {"exec sleep 60", kGood, "/pdftops did not finish in time"},
       {"sleep 60; true", kGood, "/pdftops did not finish in time"},
+      {"exec >&-; exec sleep 60", kGood, "/pdftops was ended by signal 9"},
       {"exec head -c 100000 /dev/urandom", "exec cat", "wrote no PostScript document"},
       {"true", "true", "wrote no PostScript document"},
   };
