@@ -60,8 +60,8 @@ class Store : public testing::Test {
     std::ifstream file(File(), std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
   }
-  std::ptrdiff_t Entries() const {
-    return std::distance(fs::directory_iterator(Folder()), fs::directory_iterator());
+  static std::ptrdiff_t Entries(const fs::path& folder) {
+    return std::distance(fs::directory_iterator(folder), fs::directory_iterator());
   }
   static bool Save(const std::string& text) {
     _WatermarkData data = kMark;
@@ -168,7 +168,7 @@ TEST_F(Store, DamagedFilesAreReportedAndKeptAside) {
       EXPECT_TRUE(log.starts_with("CopyXMLData()::CFPropertyListCreateFromXMLData() error: "));
       EXPECT_EQ(log.find('\n'), log.size() - 1) << "one line";
     }
-    EXPECT_FALSE(removeWatermarkData(kCollection, "Draft"));
+    EXPECT_FALSE(storeFontData(kCollection, "Gothic", {1}));
     EXPECT_EQ(Read(), bytes) << "changes leave a damaged file alone";
     ASSERT_TRUE(Save("Draft"));
     EXPECT_EQ(Read(), whole);
@@ -199,25 +199,22 @@ TEST_F(Store, FoldersThatAreMissingOrReadOnly) {
   ::waitpid(child, &status, 0);
   EXPECT_EQ(status, 0);
   fs::permissions(Folder(), fs::perms(0755));
-  fs::remove(File());
-
-  // A folder in the file's place fails for the superuser too, whom permissions do not stop.
-  fs::create_directories(File() / "x");
-  EXPECT_FALSE(Save("Draft"));
-  EXPECT_EQ(Entries(), 1) << "no temporary file stays";
 }
 
 TEST_F(Store, UserPreferencesReportFailedWrites) {
   const Value preferences(Dictionary{{"volume", Value("loud")}});
-  EXPECT_EQ(Value(*CopyUserPreferences("my.plist")), Value(Dictionary()));
+  const fs::path config = root_ / "config";
+  EXPECT_EQ(Value(CopyUserPreferences("my.plist").value()), Value(Dictionary()));
   EXPECT_TRUE(WriteUserPreferences("my.plist", preferences));
-  EXPECT_EQ(Value(*CopyUserPreferences("my.plist")), preferences);
-  std::ofstream(root_ / "config" / "my.plist") << "junk";
-  fs::create_directories(root_ / "config" / "taken.plist" / "x");
+  EXPECT_EQ(Value(CopyUserPreferences("my.plist").value()), preferences);
+  EXPECT_EQ(fs::status(config / "my.plist").permissions(), fs::perms(0600));
+  std::ofstream(config / "my.plist") << "junk";
+  fs::create_directories(config / "taken.plist" / "x");
   testing::internal::CaptureStderr();
-  EXPECT_EQ(Value(*CopyUserPreferences("my.plist")), Value(Dictionary()));
+  EXPECT_EQ(Value(CopyUserPreferences("my.plist").value()), Value(Dictionary()));
   EXPECT_FALSE(WriteUserPreferences("taken.plist", preferences));
   EXPECT_EQ(testing::internal::GetCapturedStderr(), "WriteUserPreferences() failed (21)\n");
+  EXPECT_EQ(Entries(config), 2) << "no temporary file stays";
 
   ::setenv("XDG_CONFIG_HOME", "/dev/null/none", 1);
   EXPECT_FALSE(CopyUserPreferences("my.plist"));
@@ -244,7 +241,7 @@ TEST_F(Store, ParallelWritersLoseNothingAndReadersSeeWholeFiles) {
   EXPECT_EQ(failed, 0);
   const std::optional<Value> file = CopyXMLData(kCollection);
   EXPECT_EQ(file->AsDictionary()->size(), std::size_t{writers * each + 1});
-  EXPECT_EQ(Entries(), 1);
+  EXPECT_EQ(Entries(Folder()), 1);
 }
 
 TEST_F(Store, ATenMegabyteListIsReadInTime) {
