@@ -143,10 +143,8 @@ class Imposition(unittest.TestCase):
     def test_places(self):
         expected = dict(part.split("\n", 1) for part in EXPECTED.read_text().split("== ")[1:])
         for name, lines in measured():
-            words = itertools.zip_longest(expected[name].split(), " ".join(lines).split(), fillvalue="")
-            if not all(a == b or a.isdigit() and b.isdigit() and abs(int(a) - int(b)) < 2 for a, b in words):
-                with self.subTest(name):
-                    self.assertEqual(expected[name].splitlines(), lines)
+            with self.subTest(name):
+                self.assertEqual(expected[name].splitlines(), lines)
 
     def test_page_device(self):
         """Duplex, tumble, collation and sheet size as a device with such features sees them."""

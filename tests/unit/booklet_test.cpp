@@ -274,7 +274,7 @@ TEST(Booklet, RespoolsEveryJobInEveryLayout) {
       {"widest size", letters + Page(1) + Page(2, Size(32767, 65535)) + kTail},
       {"too wide", Head() + Page(1, Size(32768, 10)) + kTail},
       {"two trailers", Head() + Pages(1) + "%%Trailer\n" + Page(2) + kTail},
-      {"trailer with text", Head() + Pages(1) + "%%Trailer x\n%%EOF\n"},
+      {"trailer with text, end alone", Head() + Pages(1) + "%%Trailer x\n%%EOF\nend\n"},
       {"CR LF, blanks and Ctrl-D",
        "\x04%!PS\r\n%%BeginProlog \r\n \t\x04%%Page: 1 1\r\n%%BeginPageSetup\r\n"
        "%%EndPageSetup\r\nx\r\n%%Trailer\r\nend\r\n"},
