@@ -32,7 +32,7 @@ Dictionary Decode(const Options& options) {
 /// Fails when a case takes time as its square would: seconds are plenty for any of them.
 class Limits : public testing::Test {
  protected:
-  void TearDown() override { EXPECT_LT((std::clock() - start_) / CLOCKS_PER_SEC, 10); }
+  void TearDown() override { EXPECT_LT((std::clock() - start_) / CLOCKS_PER_SEC, 20); }
 
  private:
   std::clock_t start_ = std::clock();  // of this process, however busy the machine is
@@ -82,6 +82,15 @@ TEST_F(Limits, NestingOf10000LevelsManyTimes) {
   }
 }
 
+TEST_F(Limits, ATreeOfAMillionLevelsIsReleased) {
+  Value tree{Number(1)};
+  for (int i = 0; i < 1000000; ++i) {
+    Array level;
+    level.push_back(std::move(tree));
+    tree = Value(std::move(level));
+  }
+}
+
 TEST_F(Limits, PositionsNearTheLargestNumber) {
   Options options;
   for (const char* position :
@@ -93,6 +102,7 @@ TEST_F(Limits, PositionsNearTheLargestNumber) {
 TEST_F(Limits, TenThousandRecipients) {
   Options options{{"com.zarvo.print.FaxOptions..d_CoverSheet..b", "true"},
                   {"com.zarvo.print.FaxOptions..d_ShowRecipients..n", "2"},
+                  {"com.zarvo.print.FaxOptions..d_CoverSheetNotes", std::string(100000, 'x')},
                   {"com.zarvo.print.JobType..d_JobType..n", "5"}};
   for (int i = 0; i < 10000; ++i) {
     const std::string recipient = "com.zarvo.print.FaxRecipientList..a_" + std::to_string(i);
@@ -106,6 +116,7 @@ TEST_F(Limits, TenThousandRecipients) {
   EXPECT_NE(comments.find("\"5559999\""), std::string::npos);
   EXPECT_LT(comments.size(), 70u * 10000);
   EXPECT_LT(FaxCoverFromTicket(ticket)->recipients.text.size(), 40000u);
+  EXPECT_LT(FaxCoverFromTicket(ticket)->notes.text.size(), 40000u);
 }
 
 TEST_F(Limits, SendTimesOfOtherCenturies) {
