@@ -70,13 +70,33 @@ TEST(Process, TheEnvironmentMayNameTheTime) {
   ::unsetenv("ZARVO_HELPER_SECONDS");
 }
 
+TEST(Process, SignalsThatTheFilterIgnoresEndItsChildren) {
+  for (const int number : {SIGPIPE, SIGXFSZ}) {
+    const auto before = ::signal(number, SIG_IGN);
+    std::optional<Process> process = Shell("kill -" + std::to_string(number) + " $$; echo alive");
+    ASSERT_TRUE(process);
+    EXPECT_EQ(ReadAll(*process), "");
+    EXPECT_EQ(WTERMSIG(process->Wait()), number);
+    ::signal(number, before);
+  }
+}
+
 TEST(Process, LimitsHold) {
+  rlimit core{};
+  ::getrlimit(RLIMIT_CORE, &core);
+  core.rlim_cur = core.rlim_max;
+  ::setrlimit(RLIMIT_CORE, &core);
   ProcessOptions options;
   options.cpu_seconds = 1;
   options.address_space = 512 << 20;
-  std::optional<Process> process = Shell("ulimit -t; ulimit -c; while :; do :; done", options);
+  std::optional<Process> process =
+      Shell("ulimit -t; ulimit -c; ulimit -v; while :; do :; done", options);
   ASSERT_TRUE(process);
-  EXPECT_EQ(ReadAll(*process), "1\n0\n");
+#ifdef __SANITIZE_ADDRESS__
+  EXPECT_EQ(ReadAll(*process), "1\n0\nunlimited\n");
+#else
+  EXPECT_EQ(ReadAll(*process), "1\n0\n524288\n");
+#endif
   const int status = process->Wait();
   ASSERT_TRUE(WIFSIGNALED(status));
   EXPECT_EQ(WTERMSIG(status), SIGXCPU);
