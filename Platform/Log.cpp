@@ -25,9 +25,13 @@ void WriteOut(std::string_view text) {
 
 std::string PrintableText(std::string_view text) {
   std::string result(text);
+  char* before = nullptr;
   for (char& c : result) {
     const auto byte = static_cast<unsigned char>(c);
     if (byte < 32 || byte == 127) c = '?';
+    // U+0080 to U+009F in UTF-8; U+009B steers a terminal as ESC and "[" do.
+    if (byte >= 0x80 && byte < 0xA0 && before != nullptr && *before == '\xC2') *before = c = '?';
+    before = &c;
   }
   return result;
 }

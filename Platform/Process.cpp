@@ -37,10 +37,28 @@ void ReplaceGroup(pid_t old_group, pid_t group) {
     if (place.compare_exchange_strong(old_group, group)) return;
 }
 
-void KillGroupsAndDie(int signal) {
+void KillGroups() {
   for (const std::atomic<pid_t>& place : running_groups)
     if (const pid_t group = place.load(); group != 0) ::kill(-group, SIGKILL);
+}
+
+void KillGroupsAndDie(int signal) {
+  KillGroups();
   ::raise(signal);  // its disposition is the default again
+}
+
+std::atomic<int> noted_signal;
+
+void KillGroupsAndNote(int signal) {
+  noted_signal = signal;
+  KillGroups();
+}
+
+void HandleTermination(void (*handler)(int)) {
+  struct sigaction action {};
+  action.sa_handler = handler;
+  action.sa_flags = static_cast<int>(SA_RESETHAND);
+  for (const int signal : kTerminating) ::sigaction(signal, &action, nullptr);
 }
 
 /// Keeps the signals above off for its life.
@@ -254,12 +272,11 @@ std::chrono::milliseconds ProcessTimeLimit(std::chrono::seconds usual) {
   return valid && seconds >= 1 && seconds <= kLongest ? std::chrono::seconds(seconds) : usual;
 }
 
-void EndChildrenOnTermination() {
-  struct sigaction action {};
-  action.sa_handler = &KillGroupsAndDie;
-  action.sa_flags = static_cast<int>(SA_RESETHAND);
-  for (const int signal : kTerminating) ::sigaction(signal, &action, nullptr);
-}
+void EndChildrenOnTermination() { HandleTermination(&KillGroupsAndDie); }
+
+void NoteTermination() { HandleTermination(&KillGroupsAndNote); }
+
+int NotedTermination() { return noted_signal; }
 
 UniqueFd OpenMemoryFile(std::string_view bytes) {
   UniqueFd file(::memfd_create("zarvo", MFD_CLOEXEC));

@@ -71,6 +71,13 @@ std::chrono::milliseconds ProcessTimeLimit(std::chrono::seconds usual);
 /// children first, with all that they have started, and then this program.
 void EndChildrenOnTermination();
 
+/// From now on such a signal ends the running children and is noted; this program goes on, to clear
+/// away what it has made. A second one ends it.
+void NoteTermination();
+
+/// The signal that has been noted, or 0.
+int NotedTermination();
+
 /// A file in memory that holds `bytes`, positioned at its start; none, with errno set, on failure.
 UniqueFd OpenMemoryFile(std::string_view bytes);
 

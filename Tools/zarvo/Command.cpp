@@ -7,6 +7,7 @@
 
 #include "Platform/AtomicFile.h"
 #include "Platform/Log.h"
+#include "Platform/Process.h"
 
 namespace zarvo::tool {
 namespace {
@@ -17,6 +18,7 @@ constexpr mode_t kNewFileMode = 0666;
 }  // namespace
 
 int Fail(const std::string& place, const std::string& cause, const std::string& remedy) {
+  if (NotedTermination() != 0) return kExitFailure;  // the user knows why
   std::string text = "zarvo: " + place + ": " + cause;
   if (!remedy.empty()) text += ". " + remedy;
   // What came from a file must not be able to steer the terminal.

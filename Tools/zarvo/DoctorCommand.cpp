@@ -166,7 +166,10 @@ class Examination {
   void CheckStore(const char* collection, const std::string& path) {
     struct stat status {};
     if (stat(path.c_str(), &status) != 0)
-      return Note("store", path, "is not there yet", "\"zarvo watermark add-text\" makes it");
+      return Note("store", path, "is not there yet",
+                  std::string("\"zarvo watermark add-text") +
+                      (std::string_view(collection) == kFaxImageCollection ? " --fax" : "") +
+                      "\" makes it");
     if ((status.st_mode & S_IROTH) == 0)
       return Wrong("store", path, "the spooler's user cannot read it", "chmod a+r " + path);
     if ((status.st_mode & (S_IWGRP | S_IWOTH)) != 0)

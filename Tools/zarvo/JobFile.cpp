@@ -92,11 +92,12 @@ class Reader {
   }
 
   void ReadPjl(std::string_view line) {
-    if (line.starts_with("@PJL JOB")) ++job_.envelopes;
+    if (line == "@PJL JOB" || line.starts_with("@PJL JOB ")) ++job_.envelopes;
     if (line.starts_with("@PJL EOJ")) ++job_.ends;
     in_header_ = !line.starts_with("@PJL ENTER LANGUAGE") && !line.starts_with("@PJL EOJ");
     in_postscript_ = line.starts_with("@PJL ENTER LANGUAGE");
-    if (job_.pjl.size() < kMaxPjlLines) {
+    pjl_bytes_ += line.size();
+    if (job_.pjl.size() < kMaxPjlLines && pjl_bytes_ <= kMaxPjlBytes) {
       job_.pjl.emplace_back(line);
     } else {
       job_.pjl_cut = true;
@@ -164,6 +165,7 @@ class Reader {
   std::FILE* copy_;
   std::vector<char> buffer_;
   JobFile job_;
+  std::size_t pjl_bytes_ = 0;
   bool in_header_ = false;
   bool in_postscript_ = false;
   int depth_ = 0;  // of embedded documents

@@ -13,6 +13,7 @@ namespace zarvo::tool {
 /// Limits: a longer ticket or more lines than a real job can have is damage or malice.
 constexpr std::size_t kMaxTicketBytes = 64 << 20;
 constexpr std::size_t kMaxPjlLines = 100'000;
+constexpr std::size_t kMaxPjlBytes = 64 << 20;
 constexpr std::size_t kMaxPageSizes = 100;
 
 /// What the PostScript of a job shows without being run.
@@ -31,7 +32,7 @@ struct JobFile {
   std::string ticket;            ///< the XML ticket, empty when there is none
   bool ticket_cut = false;       ///< it did not end, or not within kMaxTicketBytes
   std::vector<std::string> pjl;  ///< lines that begin "@PJL", without their ends
-  bool pjl_cut = false;          ///< there were more than kMaxPjlLines
+  bool pjl_cut = false;          ///< there were more than kMaxPjlLines or kMaxPjlBytes
   int stray_lines = 0;           ///< lines among them that are no PJL
   int envelopes = 0;             ///< "@PJL JOB" lines
   int ends = 0;                  ///< "@PJL EOJ" lines

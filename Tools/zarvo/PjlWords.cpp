@@ -119,7 +119,10 @@ class Explainer {
       Say("language", postscript ? "PostScript" : "unknown", "ENTER LANGUAGE");
     } else if (line != "@PJL JOB" && line != "@PJL EOJ" && line != "@PJL COMMENT ZRVbegin" &&
                line != "@PJL COMMENT ZRVend") {
-      Say("another line", std::string(line), "");
+      // What is unknown may hold a secret: values are not shown.
+      const std::size_t value = line.find_first_of("=\"");
+      const bool whole = value == std::string_view::npos;
+      Say("another line", std::string(line.substr(0, value)) + (whole ? "" : " (not shown)"), "");
     }
   }
 

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // zarvo preview: the sheets as the printer will deliver them.
+#include <spawn.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -48,6 +50,24 @@ JobKind KindOf(const std::string& path) {
   return start.find("%PDF-") != std::string::npos ? JobKind::kPdf : JobKind::kUnknown;
 }
 
+/// Shows a file on the desktop. Returns an exit status.
+int Show(const std::string& file) {
+  std::string program = FindProgram("xdg-open");
+  std::string argument = file;
+  char* const arguments[] = {program.data(), argument.data(), nullptr};
+  int status = -1;
+  std::fflush(stdout);
+  // Not as a child that is ended with this program: the viewer may be one of its own.
+  pid_t opener = 0;
+  if (!program.empty() &&
+      posix_spawn(&opener, program.c_str(), nullptr, nullptr, arguments, environ) == 0) {
+    while (waitpid(opener, &status, 0) < 0 && errno == EINTR) {
+    }
+  }
+  if (status == 0) return kExitOk;
+  return Fail(file, "cannot be shown here", "Install the package xdg-utils, or open it yourself");
+}
+
 /// One preview, from the job to its sheets. Every step gives an empty text or why it failed.
 class Preview {
  public:
@@ -56,13 +76,24 @@ class Preview {
 
   int Run() {
     if (!scratch_) return Fail("TMPDIR", "no folder for temporary files can be made");
+    std::error_code error;
+    job_file_ = fs::absolute(options_.job, error);
+    const fs::file_type type = fs::status(options_.job, error).type();
+    if (options_.job == "-" || type == fs::file_type::fifo || type == fs::file_type::character) {
+      // It can be read only once.
+      job_file_ = File("job");
+      const int status = Deliver(options_.job == "-" ? "/dev/stdin" : options_.job, job_file_);
+      if (status != kExitOk) return status;
+    }
     std::string failure = Draw();
-    if (!failure.empty()) return Fail(options_.job, failure);
+    if (!failure.empty()) return Fail(Title(), failure);
     const int status = DeliverSheets();
     if (status == kExitOk && options_.output != "-") PrintPlan();
-    if (status == kExitOk && options_.open) return Open();
     return status;
   }
+
+  /// What there is to look at.
+  std::string FirstFile() const { return first_.empty() ? options_.output : first_; }
 
  private:
   std::string Draw() {
@@ -89,11 +120,11 @@ class Preview {
 
   /// What the spooler would do ahead of the filter.
   std::string Convert() {
-    const JobKind kind = KindOf(options_.job);
+    const JobKind kind = KindOf(job_file_);
     if (kind == JobKind::kUnknown) return "is neither PostScript nor PDF";
     std::error_code error;
     if (kind == JobKind::kPrinterReady) {
-      fs::copy_file(options_.job, File("input.ps"), error);
+      fs::copy_file(job_file_, File("input.ps"), error);
       return error ? error.message() : "";
     }
     const bool pdf = kind == JobKind::kPdf;
@@ -111,17 +142,17 @@ class Preview {
       if (!ppd_.empty()) chain.arguments.insert(chain.arguments.end(), {"-p", ppd_});
       if (!option_text_.empty())
         chain.arguments.insert(chain.arguments.end(), {"-o", option_text_});
-      chain.arguments.push_back(options_.job);
+      chain.arguments.push_back(job_file_);
       if (RunChild(chain, &log) && fs::file_size(File("input.ps"), error) > 0) return "";
     }
     if (!pdf) {
-      fs::copy_file(options_.job, File("input.ps"), fs::copy_options::overwrite_existing, error);
+      fs::copy_file(job_file_, File("input.ps"), fs::copy_options::overwrite_existing, error);
       return error ? error.message() : "";
     }
     const std::string poppler = FindProgram("pdftops");
     if (poppler.empty())
       return "no program can convert PDF; install the package cups-filters or poppler-utils";
-    chain.arguments = {poppler, "-level3", options_.job, "-"};
+    chain.arguments = {poppler, "-level3", job_file_, "-"};
     return RunChild(chain, &log) ? "" : "cannot be converted: " + ErrorLines(log);
   }
 
@@ -140,12 +171,14 @@ class Preview {
     std::string log;
     if (!RunChild(filter, &log)) return filter.arguments[0] + ": " + ErrorLines(log);
     // A job that printed without its watermark is a job to hear about.
-    if (log.find("ERROR: ") != std::string::npos)
-      std::fprintf(stderr, "zarvo: the filter says: %s\n", PrintableText(ErrorLines(log)).c_str());
+    if (const std::string lost = Complaints(log); !lost.empty())
+      std::fprintf(stderr, "zarvo: the filter says: %s\n", PrintableText(lost).c_str());
     return "";
   }
 
-  std::string Title() const { return fs::path(options_.job).filename(); }
+  std::string Title() const {
+    return options_.job == "-" ? "(stdin)" : fs::path(options_.job).filename().string();
+  }
 
   /// Puts a page for each blank cover and each insert among the pages. In a booklet the pages of
   /// the document are not those of the sheets: there they are only named.
@@ -249,6 +282,7 @@ class Preview {
     std::string line = options_.output + ": " +
                        plural(facts.pages, facts.booklet ? "sheet side" : "page") + " on " +
                        plural(sheets, "sheet") + (facts.booklet ? ", booklet" : "");
+    if (facts.pages == 0) line = options_.output + ": the job does not say where its pages begin";
     if (facts.page_sizes.size() == 1) {
       const auto [width, height] = facts.page_sizes.begin()->first;
       line += ", " + PointSizeWords(width, height);
@@ -259,21 +293,11 @@ class Preview {
     if (facts.text_overlay || facts.image_watermark) std::printf("  watermark\n");
   }
 
-  /// Leaves this process to the desktop's opener, which may have to outlive it.
-  int Open() const {
-    const std::string program = FindProgram("xdg-open");
-    const std::string file = first_.empty() ? options_.output : first_;
-    if (!program.empty()) {
-      std::fflush(stdout);
-      execl(program.c_str(), "xdg-open", file.c_str(), nullptr);
-    }
-    return Fail(file, "cannot be shown here", "Install the package xdg-utils, or open it yourself");
-  }
-
   const Options& options_;
   std::string option_text_;
   std::string ppd_;
   ScratchFolder scratch_;
+  std::string job_file_;
   JobFile job_;
   Explanation ticket_;
   std::vector<SpecialSheet> sheets_;
@@ -281,9 +305,12 @@ class Preview {
 };
 
 int RunPreview(Options options) {
+  if (options.open && options.output == "-")
+    return Fail("--open", "shows files, not standard output", "Give --output a name");
   const std::optional<std::string> text = OptionTextOf(options.options);
   if (!text) return kExitFailure;
-  if (access(options.job.c_str(), R_OK) != 0) return Fail(options.job, std::strerror(errno));
+  if (options.job != "-" && access(options.job.c_str(), R_OK) != 0)
+    return Fail(options.job, std::strerror(errno));
   std::unique_ptr<QueuePpd> queue;
   std::string ppd = options.ppd;
   if (!options.queue.empty()) {
@@ -297,15 +324,18 @@ int RunPreview(Options options) {
     if (const std::string fault = PpdFault(ppd); !fault.empty()) return Fail(ppd, fault);
   }
   if (options.output.empty())
-    options.output = fs::path(options.job).stem().string() + "-preview.pdf";
-  return Preview(options, *text, ppd).Run();
+    options.output =
+        options.job == "-" ? "preview.pdf" : fs::path(options.job).stem().string() + "-preview.pdf";
+  Preview preview(options, *text, ppd);
+  const int status = preview.Run();
+  return status == kExitOk && options.open ? Show(preview.FirstFile()) : status;
 }
 
 }  // namespace
 
 void SetUpPreview(CLI::App& app, Action* action) {
   const auto options = std::make_shared<Options>();
-  app.add_option("job", options->job, "PostScript or PDF file")->required();
+  app.add_option("job", options->job, "PostScript or PDF file; - for standard input")->required();
   CLI::Option* queue = app.add_option("-q,--queue", options->queue, "take this queue's PPD");
   app.add_option("-p,--ppd", options->ppd, "take this PPD file")->excludes(queue);
   app.add_option("-o", options->options.options, "an option, as for lp; may be repeated")

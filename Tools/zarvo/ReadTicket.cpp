@@ -29,6 +29,13 @@ struct Unreadable {
   std::string reason;
 };
 
+/// The options outside the ticket that carry a PIN or an account: the spooler's and the PPD's.
+bool IsSecretOption(std::string_view name) {
+  constexpr std::string_view kOptions[] = {"ZRVJobPassword", "job-password", "JobPIN",
+                                           "AccountUser",    "AccountID",    "FaxBilling"};
+  return std::find(std::begin(kOptions), std::end(kOptions), name) != std::end(kOptions);
+}
+
 std::optional<std::int64_t> CodeOf(const TicketKey& key, const std::string& word) {
   for (const CodeWord& row : key.words) {
     if (word == row.word) return row.code;
@@ -71,7 +78,7 @@ Value TextValue(const std::string& path, const std::string& text, const TicketKe
   if (key != nullptr && key->type == KeyType::kDate) {
     if (const auto seconds = ParseDate(text)) return Number(*seconds);
   }
-  if (key != nullptr && key->secret && text == kHiddenSecret)
+  if ((key != nullptr ? key->secret : IsSecretOption(path)) && text == kHiddenSecret)
     throw Unreadable{path + ": the value was hidden when the ticket was shown; put it back"};
   return MakeText(path, text);
 }
@@ -238,7 +245,13 @@ Dictionary HideSecrets(const Dictionary& dictionary, Keys keys) {
 
 }  // namespace
 
-Dictionary WithoutSecrets(const Dictionary& ticket) { return HideSecrets(ticket, TopLevelKeys()); }
+Dictionary WithoutSecrets(const Dictionary& ticket) {
+  Dictionary shown = HideSecrets(ticket, TopLevelKeys());
+  for (auto& [name, value] : shown) {
+    if (IsSecretOption(name)) value = std::string(kHiddenSecret);
+  }
+  return shown;
+}
 
 Dictionary TicketOfOptions(const std::string& options) {
   cups_option_t* parsed = nullptr;
@@ -271,7 +284,10 @@ std::optional<Dictionary> ReadTicket(std::string_view text, std::string* error) 
 }
 
 std::string TicketToJson(const Dictionary& ticket) {
-  return ToJson(ticket, TopLevelKeys()).dump(2) + "\n";
+  // Recipients come from address cards of other programs, in whatever encoding.
+  return ToJson(ticket, TopLevelKeys())
+             .dump(2, ' ', false, ordered_json::error_handler_t::replace) +
+         "\n";
 }
 
 }  // namespace zarvo::tool

@@ -50,15 +50,21 @@ std::string ReadLog(int file) {
 ScratchFolder::ScratchFolder() {
   std::error_code error;
   std::string name = fs::temp_directory_path(error) / "zarvo-XXXXXX";
+  NoteTermination();  // so that the folder goes when the user has had enough
   if (!error && mkdtemp(name.data()) != nullptr) path_ = name;
+  // What a program leaves behind when it is ended goes with the folder.
+  if (!path_.empty()) setenv("TMPDIR", path_.c_str(), 1);
 }
 
 ScratchFolder::~ScratchFolder() {
   std::error_code error;
-  if (!path_.empty()) fs::remove_all(path_, error);
+  if (path_.empty()) return;
+  setenv("TMPDIR", path_.parent_path().c_str(), 1);
+  fs::remove_all(path_, error);
 }
 
 bool RunChild(const ChildRun& run, std::string* log) {
+  if (NotedTermination() != 0) return false;
   UniqueFd input;
   if (!run.input.empty()) {
     input = UniqueFd(open(run.input.c_str(), O_RDONLY | O_CLOEXEC));
@@ -129,6 +135,18 @@ std::string ErrorLines(const std::string& log) {
       errors += (errors.empty() ? "" : "; ") + line.substr(kPrefix.size());
   }
   return errors.empty() ? last : errors;
+}
+
+std::string Complaints(const std::string& log) {
+  std::string complaints;
+  std::istringstream lines(log);
+  for (std::string line; std::getline(lines, line);) {
+    for (const std::string_view prefix : {"ERROR: ", "INFO: "}) {
+      if (line.starts_with(prefix))
+        complaints += (complaints.empty() ? "" : "; ") + line.substr(prefix.size());
+    }
+  }
+  return complaints;
 }
 
 std::string Render(const std::string& input, const std::string& device, int resolution,

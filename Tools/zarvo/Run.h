@@ -48,6 +48,10 @@ std::string FilterPath();
 /// The lines of a log that tell of errors, without their prefix; its end when there are none.
 std::string ErrorLines(const std::string& log);
 
+/// What the filter has to say about a job that it took: what it left out, and why. Without the
+/// lines' prefixes; empty when all went well.
+std::string Complaints(const std::string& log);
+
 /// Renders a PostScript or PDF file by Ghostscript. `device` is "pdfwrite" or "png16m"; a PNG
 /// `output` holds "%d" for the page's number and has `resolution` dots per inch. Returns an empty
 /// text, or why it failed.

@@ -111,14 +111,22 @@ class Checker {
   std::vector<TicketFinding> findings;
 
  private:
+  /// Whether a text under this name must have been meant for the key. The options of the PPD and
+  /// the spooler differ from all keys in more letters, or in letter case only.
+  static bool IsMisspelt(const std::string& name, const std::string& key) {
+    if (key.empty()) return false;
+    const std::size_t letters = EditDistance(Lower(name), Lower(key));
+    return letters == 1 || letters == 2;
+  }
+
   void Unknown(const std::string& place, const std::string& name, const Value& value, Keys keys,
                bool top) {
     // Everything that is not ours is the spooler's or the driver's business; but those are texts.
     const bool ours = !top || name.starts_with(kOurKeys);
-    if (!ours && value.AsString() != nullptr) return;
     std::vector<std::string> candidates;
     for (const TicketKey& key : keys) candidates.push_back(ours ? key.name : ShortName(key));
     const std::string nearest = NearestName(name, candidates);
+    if (!ours && value.AsString() != nullptr && !IsMisspelt(name, nearest)) return;
     Add(place, nearest.empty() ? "unknown key" : "unknown key; did you mean " + nearest + "?");
   }
 

@@ -245,10 +245,17 @@ class Explainer {
     explanation.statements.push_back({name, std::move(value), std::string(code), level});
   }
 
+  /// Not every level is told on a level of its own, so they are counted apart.
   void Node(const pugi::xml_node& node, const Element* parent, int level) {
     if (node.type() != pugi::node_element) return;
     constexpr int kDeepest = 20;
-    if (level > kDeepest) return Wrong("elements nest too deep");
+    if (depth_ > kDeepest) return Wrong("elements nest too deep");
+    ++depth_;
+    Tell(node, parent, level);
+    --depth_;
+  }
+
+  void Tell(const pugi::xml_node& node, const Element* parent, int level) {
     const std::string_view name = node.name();
     if (name == "value" || name == "lower-bound" || name == "upper-bound")
       return Member(node, parent, level);
@@ -320,6 +327,8 @@ class Explainer {
     if (width <= 0 || height <= 0) Wrong("paper without a size");
     Say(element.words, SizeWords(width, height), element.name, level);
   }
+
+  int depth_ = 0;
 };
 
 /// The printers read the account's mismatched end tag as it is; a reader of XML does not.

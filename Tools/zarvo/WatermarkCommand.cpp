@@ -14,6 +14,7 @@
 #include "Platform/Log.h"
 #include "Platform/Text.h"
 #include "Source/CFAdditions.h"
+#include "Source/DrawHelper.h"
 #include "Source/FaxCover.h"
 #include "Source/Preferences.h"
 #include "Source/WatermarkSupport.h"
@@ -33,6 +34,8 @@ namespace fs = std::filesystem;
 
 /// Jobs count from 2 and never reach the first entry; it stands for no watermark.
 constexpr const char* kFirstEntry = "None";
+/// The store's own entry, which holds the list.
+constexpr const char* kListEntry = "WatermarkListEntries";
 
 struct Options {
   std::string name;
@@ -91,8 +94,19 @@ std::string Describe(const _WatermarkData& data) {
   return "image, " + std::to_string(data.scale) + " %, " + data.filePath;
 }
 
+/// Whether a watermark or a font may have the name; tells why not.
+bool MayBeNamed(const Options& options, const std::string& name) {
+  const std::vector<std::string> names = Names(options);
+  if (name != (names.empty() ? kFirstEntry : names[0]) && name != kListEntry) return true;
+  Fail(name, "is a name that the store itself needs", "Take another one");
+  return false;
+}
+
 int List(const Options& options) {
   const std::vector<std::string> names = Names(options);
+  std::error_code error;
+  if (names.empty() && fs::exists(StorePath(options), error))
+    return Fail(StorePath(options), "cannot be read, or is damaged", "See \"zarvo doctor\"");
   nlohmann::ordered_json json = nlohmann::ordered_json::array();
   for (std::size_t i = 0; i < names.size(); ++i) {
     _WatermarkData data{};
@@ -105,7 +119,8 @@ int List(const Options& options) {
                   PrintableText(what).c_str());
     }
   }
-  if (options.json) std::printf("%s\n", json.dump(2).c_str());
+  if (options.json)
+    std::printf("%s\n", json.dump(2, ' ', false, nlohmann::json::error_handler_t::replace).c_str());
   return kExitOk;
 }
 
@@ -142,6 +157,9 @@ void Center(const Options& options, std::size_t characters, _WatermarkData* data
 }
 
 int Store(const Options& options, const _WatermarkData& data, const std::string& name) {
+  Data font;
+  loadFontData(options.collection(), name, &font);
+  if (!font.empty()) return Fail(name, "names a font of the store", "Take another name");
   if (!saveWatermarkData(options.collection(), data) || !AddToList(options, name))
     return CannotWrite(options);
   return kExitOk;
@@ -152,6 +170,7 @@ int AddText(const Options& options) {
   const std::optional<std::string> text = MakeString(options.name);
   if (!text || text->empty() || !CopyText(*text, data.textString, sizeof data.textString))
     return Fail(options.name, "is no text of 1 to 511 bytes");
+  if (!MayBeNamed(options, *text)) return kExitFailure;
   if (!CopyText(options.font, data.fontName, sizeof data.fontName) || options.font.empty() ||
       options.font.find_first_of(" /()<>[]{}%\t\r\n") != std::string::npos)
     return Fail(options.font, "is no PostScript font name", "Names look like Helvetica-Bold");
@@ -177,6 +196,15 @@ int AddImage(const Options& options) {
   const fs::path source = fs::canonical(options.file, error);
   if (error) return Fail(options.file, error.message());
   const std::string name = options.name.empty() ? source.filename().string() : options.name;
+  if (!MayBeNamed(options, name)) return kExitFailure;
+  ChildRun decoding;
+  decoding.arguments = {DrawHelperPath(), "image", source};
+  decoding.output = "/dev/null";
+  std::string log;
+  if (!RunChild(decoding, &log)) {
+    const std::string told = Complaints(log);
+    return Fail(options.file, told.empty() ? ErrorLines(log) : told);
+  }
   _WatermarkData data{};
   fs::path image = source;
   if (!options.in_place) {
@@ -184,7 +212,8 @@ int AddImage(const Options& options) {
     if (name.empty() || name[0] == '.' || name.find('/') != std::string::npos ||
         name.ends_with(".plist"))
       return Fail(name, "cannot name a file of the store", "Give another --name");
-    image = fs::path(StorePath(options)).parent_path() / name;
+    // Both stores are in one folder.
+    image = fs::path(StorePath(options)).parent_path() / ((options.fax ? "fax-" : "") + name);
     constexpr std::size_t kMaxImage = 256 << 20;
     const std::optional<std::string> bytes = ReadWholeFile(source, kMaxImage);
     if (!bytes) return Fail(options.file, std::strerror(errno));
@@ -208,13 +237,14 @@ bool Load(const Options& options, _WatermarkData* data) {
 int Remove(const Options& options) {
   _WatermarkData data{};
   std::vector<std::string> names = Names(options);
+  if (!MayBeNamed(options, options.name)) return kExitFailure;
   // A name whose entry is gone can still be taken off the list.
   if (std::find(names.begin(), names.end(), options.name) == names.end() && !Load(options, &data))
     return kExitFailure;
-  loadWatermarkData(options.collection(), &options.name, &data);
+  const bool stored = loadWatermarkData(options.collection(), &options.name, &data) == 1;
   std::erase(names, options.name);
   const Array list(names.begin(), names.end());
-  if (!removeWatermarkData(options.collection(), options.name) ||
+  if ((stored && !removeWatermarkData(options.collection(), options.name)) ||
       !saveWatermarkList(options.collection(), &list))
     return CannotWrite(options);
   const fs::path image = data.filePath;
@@ -232,6 +262,10 @@ int Font(const Options& options) {
   if (!font) return Fail(options.file, error);
   const std::string name = options.name.empty() ? FontName(*font) : options.name;
   if (name.empty()) return Fail(options.file, "tells no name of the font", "Give --name");
+  _WatermarkData data{};
+  if (!MayBeNamed(options, name)) return kExitFailure;
+  if (loadWatermarkData(options.collection(), &name, &data) == 1)
+    return Fail(name, "names a watermark", "Give another --name");
   // The store takes fonts only once it is there.
   if (Names(options).empty() && !AddToList(options, kFirstEntry)) return CannotWrite(options);
   if (!storeFontData(options.collection(), name, *font)) return CannotWrite(options);
@@ -260,8 +294,7 @@ int Show(const Options& options) {
   filter.output = scratch.File("job.prn");
   std::string log;
   if (!RunChild(filter, &log)) return Fail(filter.arguments[0], ErrorLines(log));
-  if (const std::string lost = ErrorLines(log); log.find("ERROR: ") != std::string::npos)
-    return Fail(options.name, lost);
+  if (const std::string lost = Complaints(log); !lost.empty()) return Fail(options.name, lost);
   JobFile job;
   std::string failure = TakePostScript(scratch.File("job.prn"), scratch.File("job.ps"), &job);
   if (failure.empty())

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 // zarvo: see what a print job will be, set it up, explain it.
-#include <sys/stat.h>
-
+#include <cerrno>
 #include <csignal>
 #include <cstdio>
 #include <cstring>
+#include <exception>
 
+#include "Platform/Process.h"
 #include "Tools/zarvo/Command.h"
 #include "Tools/zarvo/CommandTable.h"
 
@@ -27,6 +28,21 @@ std::string ExamplesText(const char* examples) {
   return text;
 }
 
+/// The library's message, with the place and the way to more; it does not name unknown commands.
+int WrongUsage(const CLI::App& app, const CLI::ParseError& error) {
+  std::string command;
+  const CLI::App* at = &app;
+  while (!at->get_subcommands().empty()) {
+    at = at->get_subcommands().front();
+    command += at->get_name() + " ";
+  }
+  const std::vector<std::string> unknown = at->remaining();
+  const bool no_command = at->get_require_subcommand_min() > 0 && !unknown.empty();
+  return Fail(command.empty() ? "command line" : command.substr(0, command.size() - 1),
+              no_command ? "no such command: " + unknown[0] : error.what(),
+              "\"zarvo " + command + "--help\" tells more");
+}
+
 int Main(int argc, char** argv) {
   CLI::App app("See what a print job will be, set it up, explain it.", "zarvo");
   Action action;
@@ -34,10 +50,22 @@ int Main(int argc, char** argv) {
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
-    // Help and version go to standard output and are no failure; the library prints both kinds.
-    return app.exit(error) == 0 ? kExitOk : kExitFailure;
+    // Help and version go to standard output and are no failure.
+    return error.get_exit_code() == 0 ? app.exit(error), kExitOk : WrongUsage(app, error);
   }
-  return action();
+  int status = kExitFailure;
+  try {
+    status = action();
+  } catch (const std::exception& error) {
+    Fail("(internal)", error.what());
+  }
+  if ((std::fflush(stdout) != 0 || std::ferror(stdout) != 0) && status != kExitFailure)
+    status = Fail("(stdout)", std::strerror(errno));
+  if (const int signal = NotedTermination(); signal != 0) {
+    std::signal(signal, SIG_DFL);
+    std::raise(signal);
+  }
+  return status;
 }
 
 }  // namespace
@@ -47,11 +75,12 @@ std::span<const Command> Commands() {
       {"preview", "Draw the sheets as the printer will deliver them",
        "zarvo preview report.pdf -q office\n"
        "zarvo preview report.ps --settings booklet.json --output sheets.pdf\n"
-       "zarvo preview report.pdf -p printer.ppd -o media=A4 --output page.png",
+       "zarvo preview report.pdf -p printer.ppd -o media=A4 --output page.png\n"
+       "man -t lp | zarvo preview - -q office --open",
        &SetUpPreview},
       {"explain", "Say what a job asks of the printer",
        "zarvo explain job.prn\n"
-       "lpstat -o | head; sudo cat /var/spool/cups/d00042-001 | zarvo explain -\n"
+       "cupsfilter -e -p printer.ppd -m printer/any report.pdf 2>/dev/null | zarvo explain -\n"
        "zarvo explain --json job.prn | jq .findings",
        &SetUpExplain},
       {"ticket", "Translate and check job tickets",

@@ -70,8 +70,12 @@ class Explain(ZarvoTest):
 
     def test_hostile_jobs_end(self):
         for job in (b"<?xml?><jtml>" + b"<media-col>" * 100_000, b"@PJL COMMENT x\n" * 200_000,
-                    b'@PJL COMMENT OID_ATT_SAVE_NAME "\x1b]0;x";\n'):
-            self.assertNotIn("\x1b]0;", self.run_zarvo("explain", stdin=job, status=1))
+                    b"<?xml?><jtml><job-template-attributes><finishings>" + b"<value>" * 200_000,
+                    b"@PJL JOBPASSWORD=4711\n"
+                    b'@PJL COMMENT OID_ATT_SAVE_NAME "\x1b]0;x\xc2\x9b31m";\n'):
+            told = self.run_zarvo("explain", stdin=job, status=1)
+            for shown in ("\x1b", "\x9b", "4711"):
+                self.assertNotIn(shown, told)
         self.run_zarvo("explain", "missing.prn", status=2)
         self.assertIn("missing.prn: No such file", self.errors)
 

@@ -6,7 +6,9 @@ import json
 import os
 import pathlib
 import pty
+import signal
 import subprocess
+import time
 import unittest
 
 from cupsd import PrivateCupsd, Printer
@@ -77,7 +79,19 @@ class Preview(ZarvoTest):
                              capture_output=True, env=self.environment, cwd=self.scratch, check=True)
         self.assertEqual(page_text(self.path("out.pdf", out.stdout)), ["2", "3"])
         self.assertEqual(out.stderr, b"")
-        self.assertEqual(list(self.scratch.glob("zarvo-*")), [])  # nothing stays behind
+        opener = pathlib.Path(self.path("xdg-open", '#!/bin/sh\ncp "$1" shown.pdf\n'))
+        opener.chmod(0o755)
+        self.environment["PATH"] += f":{self.scratch}"
+        self.run_zarvo("preview", "-", "--open", stdin=out.stdout)
+        self.assertEqual(len(page_text(self.scratch / "shown.pdf")), 2)
+        self.run_zarvo("preview", "in.pdf", "--open", "--output", "-", status=2)
+        endless = self.path("endless.ps", "%!PS-Adobe-3.0\n%%Page: 1 1\n{} loop\n%%EOF\n")
+        drawing = subprocess.Popen([BIN / "zarvo", "preview", endless], env=self.environment)
+        while not list(self.scratch.glob("zarvo-*/job.ps")):
+            time.sleep(0.05)
+        drawing.send_signal(signal.SIGINT)
+        self.assertEqual(drawing.wait(30), -signal.SIGINT)
+        self.assertEqual([*self.scratch.glob("zarvo-*"), *self.scratch.glob("gs_*")], [])
 
     def test_what_cannot_be_drawn(self):
         good = document()
@@ -156,6 +170,11 @@ class Manners(ZarvoTest):
             self.assertIn("Examples:", self.run_zarvo(command, "--help"))
         for wrong in ([], ["nonsense"], ["ticket"], ["explain", "--nonsense"], ["preview"]):
             self.run_zarvo(*wrong, status=2)
+        self.run_zarvo("watermark", "\033nonsense", status=2)
+        self.assertIn("zarvo: watermark: no such command: ?nonsense", self.errors)
+        with open("/dev/full", "wb") as full:
+            done = subprocess.run([BIN / "zarvo", "ticket", "keys"], stdout=full, stderr=full)
+        self.assertEqual(done.returncode, 2)
 
     def test_manual_pages_and_completion(self):
         self.run_zarvo("manual", "--man", "man")

@@ -35,6 +35,27 @@ class Watermarks(ZarvoTest):
         self.assertEqual(self.store()["WatermarkListEntries"], ["None", "Entwurf \u00e9"])
         self.run_zarvo("watermark", "remove", "logo.png", status=2)
 
+    def test_names_that_are_taken(self):
+        """Nothing overwrites what jobs find under the same name, nor shifts what they count."""
+        font = self.path("f.pfa", b"%!\n/FontName /Tiny def\n")
+        self.run_zarvo("watermark", "add-text", "DRAFT", "--font", "a" + "\u00e9" * 60)
+        self.run_zarvo("watermark", "font", font)
+        for arguments in (["add-text", "None"], ["remove", "None"], ["add-text", "Tiny"],
+                          ["add-text", "WatermarkListEntries"], ["font", font, "--name", "DRAFT"],
+                          ["add-image", font]):
+            with self.subTest(arguments):
+                self.run_zarvo("watermark", *arguments, status=2)
+                self.assertNotIn("as root", self.errors)
+        store = self.store()
+        self.assertEqual(store["WatermarkListEntries"], ["None", "DRAFT"])
+        self.assertIn("DRAFT", self.run_zarvo("watermark", "list", "--json"))
+        del store["DRAFT"]
+        path = self.scratch / "data/Zarvo/com.zarvo.printing.watermarks.plist"
+        path.write_bytes(plistlib.dumps(store))
+        self.run_zarvo("watermark", "remove", "DRAFT")  # a name without a watermark
+        path.write_bytes(b"damaged")
+        self.run_zarvo("watermark", "list", status=2)
+
     def test_show_draws_what_jobs_print(self):
         logo = self.path("logo.png", png(30, 20, (0, 0, 255)))
         self.run_zarvo("watermark", "add-image", logo, "--scale", "300")

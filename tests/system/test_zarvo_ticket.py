@@ -39,7 +39,7 @@ class Ticket(ZarvoTest):
     def test_secrets_are_shown_to_who_asks_only(self):
         text = json.dumps({
             "com.zarvo.print.JobType": {"SecurePrintPassword": "S3CRET"},
-            "com.zarvo.Act.UID": "S3CRET", "com.zarvo.Act.AID": "S3CRET",
+            "com.zarvo.Act.UID": "S3CRET", "com.zarvo.Act.AID": "S3CRET", "JobPIN": "Custom.S3CRET",
             "com.zarvo.print.FaxOptions": {"CreditCard": "S3CRET"}})
         for form in ("json", "plist"):
             self.assertNotIn("S3CRET", self.run_zarvo("ticket", "decode", "-f", form, stdin=text))
@@ -81,6 +81,7 @@ class Ticket(ZarvoTest):
         for ticket, finding in {
             '{"JobTyp": {"JobType": 6}}': "JobTyp: unknown key; did you mean JobType?",
             '{"JobType": {"SavedJobNam": "x"}}': "did you mean SavedJobName?",
+            '{"Resoluton": 2}': "Resoluton: unknown key; did you mean Resolution?",
             '{"JobType": {"JobType": "secur"}}': 'did you mean "secure"?',
             '{"com.zarvo.print.tonersaver": true}': "did you mean com.zarvo.print.TonerSaver?",
             '{"com.zarvo.print.Nonsense": 1}': "com.zarvo.print.Nonsense: unknown key\n",
@@ -95,7 +96,7 @@ class Ticket(ZarvoTest):
         }.items():
             with self.subTest(ticket=ticket):
                 self.assertIn(finding, self.run_zarvo("ticket", "check", stdin=ticket, status=1))
-        good = '{"JobType": {"JobType": "proof"}, "sides": "one-sided", "PageSize": "A4"}'
+        good = '{"JobType": {"JobType": "proof"}, "outputorder": "reverse", "PageSize": "A4"}'
         self.assertEqual(self.run_zarvo("ticket", "check", stdin=good), "")
 
     def test_keys_are_those_of_the_ticket_page(self):
