@@ -108,6 +108,8 @@ class Watermarks(ZarvoTest):
                 self.assertNotIn(b"readdata\n", output)
                 [line] = [line for line in self.errors.splitlines() if line.startswith("INFO: ")]
                 self.assertIn(path, line)
+                if name == "claims ten gigapixels":  # known before memory is taken
+                    self.assertIn("100 million pixels", line)
 
     def peak_memory(self, width, height):
         """The filter's own peak, in KiB, once it has written the image."""
