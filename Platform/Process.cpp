@@ -137,23 +137,38 @@ struct Process::Child {
   UniqueFd output_fd;
   std::FILE* output = nullptr;
   Clock::time_point deadline;
+  bool readers_time_counts = true;
+  Clock::time_point read_last;
   char buffer[1 << 16] = {};  // of `output`
 
   static ssize_t Read(void* cookie, char* buffer, std::size_t size) {
-    const auto* child = static_cast<const Child*>(cookie);
+    auto* child = static_cast<Child*>(cookie);
+    child->LeaveOutReadersTime();
+    const ssize_t got = child->ReadInTime(buffer, size);
+    child->read_last = Clock::now();
+    return got;
+  }
+
+  void LeaveOutReadersTime() {
+    if (!readers_time_counts) deadline += Clock::now() - read_last;
+    read_last = Clock::now();
+  }
+
+  ssize_t ReadInTime(char* into, std::size_t size) const {
     for (;;) {
       const auto left =
-          std::chrono::duration_cast<std::chrono::milliseconds>(child->deadline - Clock::now());
-      pollfd ready[] = {{child->output_fd.get(), POLLIN, 0}, {child->end_fd.get(), POLLIN, 0}};
-      const int count = ::poll(ready, 2, static_cast<int>(std::max<long>(left.count(), 0)));
+          std::chrono::duration_cast<std::chrono::milliseconds>(deadline - Clock::now());
+      pollfd ready[] = {{output_fd.get(), POLLIN, 0}, {end_fd.get(), POLLIN, 0}};
+      // A child that never stops writing must not outlast its time either.
+      const int count = left.count() > 0 ? ::poll(ready, 2, static_cast<int>(left.count())) : 0;
       // Nothing more is to come from a child that has ended, whoever else holds its output open.
-      if (count > 0 && ready[0].revents == 0) ::kill(-child->pid, SIGKILL);
+      if (count > 0 && ready[0].revents == 0) ::kill(-pid, SIGKILL);
       if (count == 0) {
-        ::kill(-child->pid, SIGKILL);
+        ::kill(-pid, SIGKILL);
         errno = ETIMEDOUT;
         return -1;
       }
-      const ssize_t got = count > 0 ? ::read(child->output_fd.get(), buffer, size) : -1;
+      const ssize_t got = count > 0 ? ::read(output_fd.get(), into, size) : -1;
       if (got >= 0 || errno != EINTR) return got;
     }
   }
@@ -175,6 +190,7 @@ struct Process::Child {
   }
 
   void CloseOutput() {
+    LeaveOutReadersTime();
     if (output != nullptr) std::fclose(output);
     output = nullptr;
     output_fd.reset();
@@ -219,7 +235,8 @@ std::optional<Process> Process::Start(const ProcessOptions& options) {
   ReplaceGroup(0, pid);
   UniqueFd end(static_cast<int>(::syscall(SYS_pidfd_open, pid, 0)));
   Process process(new Child{pid, 0, std::move(end), std::move(output_reading), nullptr,
-                            Clock::now() + options.wall_clock});
+                            Clock::now() + options.wall_clock, options.readers_time_counts,
+                            Clock::now()});
   report_writing.reset();
   int error = 0;
   ssize_t got;

@@ -29,6 +29,9 @@ struct ProcessOptions {
   std::uint64_t address_space = 0;
   /// After this time reading fails and the child is killed.
   std::chrono::milliseconds wall_clock = std::chrono::minutes(5);
+  /// Whether the time between two reads counts as well. It must not where the reader hands on what
+  /// it reads to a printer, which may be out of paper for an hour.
+  bool readers_time_counts = true;
 };
 
 /// A running child whose standard output can be read. It inherits no descriptor but the three

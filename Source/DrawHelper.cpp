@@ -28,6 +28,7 @@ std::optional<Process> StartDrawHelper(std::vector<std::string> job, int input_f
   options.input_fd = input_fd;
   options.cpu_seconds = 60;
   options.wall_clock = ProcessTimeLimit(std::chrono::minutes(2));
+  options.readers_time_counts = false;
   options.address_space = std::uint64_t{3} << 29;
   return Process::Start(options);
 }

@@ -18,8 +18,9 @@ std::string DrawHelperPath();
 
 /// Starts the helper with a job's name and arguments, and `input_fd` as its standard input (-1 for
 /// none), under the limits that every drawing job has: 60 seconds of processor time, 2 minutes in
-/// all (the environment may name another time), 1.5 GiB of memory (an image of 100 megapixels needs
-/// half of that). Nothing, with errno set, when it cannot be started.
+/// all (the environment may name another time) without what the reader takes for itself, 1.5 GiB of
+/// memory (an image of 100 megapixels needs half of that). Nothing, with errno set, when it cannot
+/// be started.
 std::optional<Process> StartDrawHelper(std::vector<std::string> job, int input_fd = -1);
 
 }  // namespace zarvo

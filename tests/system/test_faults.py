@@ -61,13 +61,9 @@ class Faults(unittest.TestCase):
         shutil.copy(BIN / "zarvodraw", self.scratch)
         store = self.scratch / "support/Zarvo"
         store.mkdir(parents=True)
-        image = self.scratch / "mark.png"
-        subprocess.run(
-            ["gs", "-q", "-dSAFER", "-dBATCH", "-dNOPAUSE", "-sDEVICE=pngmono", "-r20", f"-o{image}",
-             "-c", "100 100 moveto 400 400 lineto stroke showpage"],
-            check=True,
-        )  # fmt: skip
-        mark = {"filename": "mark.png", "filePath": str(image), "scale": 100}
+        self.image = self.scratch / "mark.png"
+        self.draw_mark(20)
+        mark = {"filename": "mark.png", "filePath": str(self.image), "scale": 100}
         (store / "com.zarvo.printing.watermarks.plist").write_bytes(plistlib.dumps({"mark.png": mark}))
         self.mark = uuid.uuid4().hex
         self.environment = {
@@ -78,6 +74,13 @@ class Faults(unittest.TestCase):
             "ZARVO_TEST_MARK": self.mark,
             "ASAN_OPTIONS": os.environ.get("ASAN_OPTIONS", ""),
         }
+
+    def draw_mark(self, resolution):
+        subprocess.run(
+            ["gs", "-q", "-dSAFER", "-dBATCH", "-dNOPAUSE", "-sDEVICE=pngmono", f"-r{resolution}",
+             f"-o{self.image}", "-c", "100 100 moveto 400 400 lineto stroke showpage"],
+            check=True,
+        )  # fmt: skip
 
     def replace_helper(self, script):
         helper = self.scratch / "zarvodraw"
@@ -200,6 +203,16 @@ class Writing(Faults):
                 time.sleep(2)
                 self.assertEqual(self.finish(process), expected)
                 self.assertEqual(expected[1:], ([], 0))
+
+    def test_stalled_reader_gets_the_whole_image(self):
+        # More than the pipes on both sides of the filter hold.
+        self.draw_mark(200)
+        expected = self.run_to_end("image")
+        self.environment["ZARVO_HELPER_SECONDS"] = "1"
+        process = self.start("image")
+        time.sleep(2.5)
+        self.assertTrue(self.finish(process) == expected)
+        self.assertEqual(expected[1:], ([], 0))
 
     def test_closed_descriptors_are_no_success(self):
         for descriptor, told in ((0, 1), (1, 1), (2, 0)):
