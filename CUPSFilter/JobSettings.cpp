@@ -3,8 +3,8 @@
 
 #include <cmath>
 
-#include "CUPSFilter/MediaSize.h"
-#include "CUPSFilter/common.h"
+#include "CUPSFilter/Options/MediaSize.h"
+#include "CUPSFilter/Options/common.h"
 #include "Source/CFAdditions.h"
 
 namespace zarvo {

@@ -3,7 +3,7 @@
 // rest is the job.
 #include <string>
 
-#include "CUPSFilter/q7bbook32.h"
+#include "CUPSFilter/Booklet/q7bbook32.h"
 #include "Platform/Process.h"
 #include "fuzz/target.h"
 

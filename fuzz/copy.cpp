@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // A whole copy pass: the input's first bytes, up to a NUL, are the option text, the rest is the
 // job. Every byte of the job comes out in order, save for lines that a fax replaces.
-#include "CUPSFilter/CopyPass.h"
+#include "CUPSFilter/CopyPass/CopyPass.h"
 #include "fuzz/target.h"
 #include "fuzz/ticket.h"
 #include "tests/copy_reference.h"

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cstdio>
 
-#include "CUPSFilter/CopyRules.h"
+#include "CUPSFilter/CopyPass/CopyRules.h"
 #include "CUPSFilter/JTML/JTML.h"
 #include "fuzz/target.h"
 #include "fuzz/ticket.h"

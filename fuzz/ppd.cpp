@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "CUPSFilter/ParseOptions.h"
-#include "CUPSFilter/PpdTicket.h"
+#include "CUPSFilter/Options/ParseOptions.h"
+#include "CUPSFilter/Options/PpdTicket.h"
 #include "Platform/Process.h"
 #include "fuzz/target.h"
 

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cstdio>
 
-#include "CUPSFilter/outputPICT.h"
+#include "CUPSFilter/Watermark/outputPICT.h"
 #include "fuzz/target.h"
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

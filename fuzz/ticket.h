@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "CUPSFilter/JobSettings.h"
-#include "CUPSFilter/ParseOptions.h"
+#include "CUPSFilter/Options/ParseOptions.h"
 
 namespace zarvo {
 

@@ -11,8 +11,8 @@
 #include <string>
 #include <string_view>
 
-#include "CUPSFilter/CopyPass.h"
-#include "CUPSFilter/psgets.h"
+#include "CUPSFilter/CopyPass/CopyPass.h"
+#include "CUPSFilter/CopyPass/psgets.h"
 #include "Platform/UniqueFd.h"
 
 namespace zarvo {

@@ -16,7 +16,8 @@ JOB = b"%!PS-Adobe-3.0\n%%BeginPageSetup\nshowpage\n%%EOF\n"
 ROWS = re.findall(r"^\| `([^`]+)` \|", PAGE, re.MULTILINE)
 KEYS = "com.zarvo.print.", "com.zarvo.Act.", "com.zarvo.WMS.", "com.apple.print."
 # Files whose capitalised words are all sub-keys.
-SUB_KEYS = "CUPSFilter/JTML/*.cpp", "CUPSFilter/Job*.cpp", "CUPSFilter/MediaSize.cpp", "Source/FaxKeys.h"
+SUB_KEYS = ("CUPSFilter/JTML/*.cpp", "CUPSFilter/Job*.cpp", "CUPSFilter/Header/Job*.cpp",
+            "CUPSFilter/Options/MediaSize.cpp", "Source/FaxKeys.h")
 
 # What random tickets hold: texts, and numbers in range and at the edges.
 VALUES = ["''", "plain", "\x01<a&\\\"\\'>", "&" * 3000, "x" * 254 + "\u00e9\u00e9"]

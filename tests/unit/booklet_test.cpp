@@ -10,10 +10,10 @@
 #include <utility>
 #include <vector>
 
-#include "CUPSFilter/BookletCopier.h"
-#include "CUPSFilter/CommentReader.h"
-#include "CUPSFilter/psgets.h"
-#include "CUPSFilter/q7bbook32.h"
+#include "CUPSFilter/Booklet/BookletCopier.h"
+#include "CUPSFilter/Booklet/CommentReader.h"
+#include "CUPSFilter/Booklet/q7bbook32.h"
+#include "CUPSFilter/CopyPass/psgets.h"
 #include "Platform/UniqueFd.h"
 #include "tests/unit/transcript.h"
 

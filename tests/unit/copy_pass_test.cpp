@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // The copy pass looks for landmarks in large blocks. A plain reader that takes the job line by line
 // must give the same bytes, whatever the job holds and however the blocks fall.
-#include "CUPSFilter/CopyPass.h"
+#include "CUPSFilter/CopyPass/CopyPass.h"
 
 #include <gtest/gtest.h>
 

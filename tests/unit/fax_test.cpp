@@ -8,7 +8,7 @@
 #include <filesystem>
 #include <limits>
 
-#include "CUPSFilter/FaxComments.h"
+#include "CUPSFilter/Header/FaxComments.h"
 #include "Source/FaxCover.h"
 #include "Source/FaxKeys.h"
 #include "tests/unit/transcript.h"

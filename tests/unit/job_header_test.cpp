@@ -6,9 +6,9 @@
 #include <sstream>
 #include <string>
 
-#include "CUPSFilter/JobTypeComments.h"
-#include "CUPSFilter/StringHash.h"
-#include "CUPSFilter/common.h"
+#include "CUPSFilter/CopyPass/StringHash.h"
+#include "CUPSFilter/Header/JobTypeComments.h"
+#include "CUPSFilter/Options/common.h"
 
 namespace zarvo {
 namespace {

@@ -6,11 +6,11 @@
 #include <string>
 #include <vector>
 
-#include "CUPSFilter/FaxComments.h"
+#include "CUPSFilter/Booklet/q7bbook32.h"
+#include "CUPSFilter/Header/FaxComments.h"
+#include "CUPSFilter/Header/JobTypeComments.h"
 #include "CUPSFilter/JTML/JTML.h"
-#include "CUPSFilter/JobTypeComments.h"
-#include "CUPSFilter/ParseOptions.h"
-#include "CUPSFilter/q7bbook32.h"
+#include "CUPSFilter/Options/ParseOptions.h"
 #include "Platform/Process.h"
 #include "Source/CFAdditions.h"
 #include "Source/FaxCover.h"

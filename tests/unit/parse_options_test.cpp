@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "CUPSFilter/ParseOptions.h"
+#include "CUPSFilter/Options/ParseOptions.h"
 
 #include "tests/unit/transcript.h"
 

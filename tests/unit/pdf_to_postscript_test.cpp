@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "CUPSFilter/PdfToPostScript.h"
+#include "CUPSFilter/FaxCover/PdfToPostScript.h"
 
 #include <gtest/gtest.h>
 

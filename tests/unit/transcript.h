@@ -14,7 +14,7 @@
 #include <string>
 #include <vector>
 
-#include "CUPSFilter/ParseOptions.h"
+#include "CUPSFilter/Options/ParseOptions.h"
 
 namespace zarvo {
 

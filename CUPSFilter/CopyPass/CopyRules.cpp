@@ -1,0 +1,326 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "CUPSFilter/CopyPass/CopyRules.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstdlib>
+#include <string>
+#include <utility>
+
+#include "CUPSFilter/CopyPass/StringHash.h"
+#include "CUPSFilter/Header/AccountingComments.h"
+#include "CUPSFilter/Header/JobTypeComments.h"
+#include "CUPSFilter/Header/PjlText.h"
+#include "CUPSFilter/Options/common.h"
+#include "CUPSFilter/Watermark/WatermarkText.h"
+#include "CUPSFilter/Watermark/outputPICT.h"
+#include "Platform/Log.h"
+#include "Source/CFAdditions.h"
+
+namespace zarvo {
+namespace {
+
+constexpr std::string_view kUniversalExit = "\x1b%-12345X";
+
+constexpr std::string_view beginZarvoProofPrint = "%%BeginFeature: *ZRVJobType ProofPrint";
+constexpr std::string_view beginZarvoSavedPrint = "%%BeginFeature: *ZRVJobType SavedPrint";
+constexpr std::string_view beginZarvoSecurePrint = "%%BeginFeature: *ZRVJobType SecurePrint";
+constexpr std::array kFeatureLines = {beginZarvoProofPrint, beginZarvoSavedPrint,
+                                      beginZarvoSecurePrint};
+constexpr std::size_t kShortestFeatureLine = std::min(
+    {beginZarvoProofPrint.size(), beginZarvoSavedPrint.size(), beginZarvoSecurePrint.size()});
+
+bool Contains(std::string_view line, std::string_view text) {
+  return line.find(text) != std::string_view::npos;
+}
+
+bool BeginsCountedData(std::string_view line) {
+  return line.starts_with("%%BeginBinary:") ||
+         (line.starts_with("%%BeginData:") && !Contains(line, "ASCII") && !Contains(line, "Hex"));
+}
+
+/// The byte count of a counted-data line; one that is missing or negative counts as 0.
+std::int64_t CountedBytes(std::string_view line) {
+  const std::string number(line.substr(line.find(':') + 1));
+  return std::max<std::int64_t>(0, std::strtoll(number.c_str(), nullptr, 10));
+}
+
+/// Whether a line is exactly a feature line and a one-byte terminator.
+bool NamesJobType(std::string_view line) {
+  const std::string_view text = line.substr(0, line.size() - 1);
+  const unsigned char hash = GetHashForString(text.data(), static_cast<int>(text.size()));
+  return std::any_of(kFeatureLines.begin(), kFeatureLines.end(), [&](std::string_view feature) {
+    return text.size() == feature.size() &&
+           hash == GetHashForString(feature.data(), static_cast<int>(feature.size())) &&
+           text == feature;
+  });
+}
+
+}  // namespace
+
+CopyRules::CopyRules(const JobSettings& settings, const Dictionary& ticket, JobOutput& output)
+    : settings_(settings), ticket_(ticket), output_(output) {
+  if (settings.pageHooks) page_hooks_.emplace(settings, output);
+  // Without memory for the table the job goes out, only without name and password.
+  if (settings.zarvoJobPassword) job_type_match_ = InitializeHashTables() != 0;
+}
+
+CopyRules::~CopyRules() { DiscardHashTables(); }
+
+Landmark CopyRules::Classify(std::string_view line) const {
+  const auto starts = [line](std::string_view text) { return line.starts_with(text); };
+  if (Contains(line, "%!PS-Adobe")) return Landmark::kDocumentHeader;
+  if (starts("@PJL COMMENT ZRVbegin")) return Landmark::kPjlHeader;
+  if (!begin_setup_found_ && starts("%%BeginSetup")) return Landmark::kBeginSetup;
+  if (WatchesEveryLine() && Contains(line, "/HWResolution")) return Landmark::kFaxResolution;
+  if (added_pjl_ && !found_eps_ && starts("%%EOF")) return Landmark::kJobEnd;
+  if (found_eps_ && starts("%%EOF")) return Landmark::kEmbeddedEnd;
+  if (page_hooks_) {
+    if (page_hooks_->IsLandmark(line)) return Landmark::kPageHook;
+  } else {
+    if (settings_.watermark && starts("%%EndProlog")) return Landmark::kEndProlog;
+    if (starts("ep\n") || starts("endp\n")) return Landmark::kPageEnd;
+    if (starts("%%BeginPageSetup")) return Landmark::kPageStart;
+  }
+  if (BeginsCountedData(line)) return Landmark::kCountedData;
+  if (job_type_match_ && line.size() >= kShortestFeatureLine) return Landmark::kFeatureLine;
+  if (settings_.watermark && !page_hooks_ && starts("%%EndSetup")) return Landmark::kEndSetup;
+  return Landmark::kNone;
+}
+
+std::int64_t CopyRules::Apply(Landmark landmark, std::string_view line) {
+  switch (landmark) {
+    case Landmark::kDocumentHeader:
+      CopyDocumentHeader(line);
+      return 0;
+    case Landmark::kPjlHeader:
+      CopyPjlHeader(line);
+      return 0;
+    case Landmark::kBeginSetup:
+      begin_setup_found_ = true;
+      break;
+    case Landmark::kFaxResolution:
+      ReplaceFaxResolution(line);
+      return 0;
+    case Landmark::kPageHook:
+      page_hooks_->Copy(line);
+      return 0;
+    case Landmark::kJobEnd:
+      if (page_hooks_) page_hooks_->LogIfUnused();
+      output_.Write(line);
+      output_.Write(kUniversalExit);
+      output_.Write("@PJL EOJ\n");
+      output_.Write(kUniversalExit);
+      output_.Write("\n");
+      return 0;
+    case Landmark::kEmbeddedEnd:
+      found_eps_ = false;
+      break;
+    case Landmark::kEndProlog:
+      CopyEndProlog(line);
+      return 0;
+    case Landmark::kPageEnd:
+      CopyPageEnd(line);
+      return 0;
+    case Landmark::kPageStart:
+      CopyPageStart(line);
+      return 0;
+    case Landmark::kCountedData:
+      output_.Write(line);
+      return CountedBytes(line);
+    case Landmark::kFeatureLine:
+      CopyFeatureLine(line);
+      return 0;
+    case Landmark::kEndSetup:
+      CopyEndSetup(line);
+      return 0;
+    case Landmark::kNone:
+      break;
+  }
+  output_.Write(line);
+  return 0;
+}
+
+bool CopyRules::WatchesEveryLine() const {
+  return begin_setup_found_ && job_type_ == kJobTypeFax && !fax_resolution_overridden_;
+}
+
+void CopyRules::WriteEnvelope() {
+  FILE* stream = output_.stream();
+  output_.Write(kUniversalExit);
+  output_.Write("@PJL JOB\n@PJL COMMENT ZRVbegin\n");
+  WriteAccounting(stream, ticket_);
+  WriteJobType(stream, ticket_);
+  WriteCovers(stream, ticket_);
+  WriteSeparators(stream, ticket_);
+  WriteBannerPage(stream, ticket_);
+  WriteRequestOffset(stream, ticket_);
+  output_.Write("@PJL COMMENT ZRVend\n@PJL ENTER LANGUAGE = POSTSCRIPT\n");
+}
+
+void CopyRules::CopyDocumentHeader(std::string_view line) {
+  if (Contains(line, "EPS")) {
+    found_eps_ = true;
+  } else {
+    if (!found_pjl_) {
+      added_pjl_ = true;
+      WriteEnvelope();
+    }
+    if (const int error = WriteFaxCover(output_.stream(), ticket_, &fax_cover_))
+      output_.Fail(error);
+  }
+  output_.Write(line);
+}
+
+void CopyRules::CopyPjlHeader(std::string_view line) {
+  LogLine("DEBUG: found PJL header");
+  found_pjl_ = true;
+  output_.Write(line);
+  // Banner, offset, end comment and language switch come with the input's own header.
+  WriteAccounting(output_.stream(), ticket_);
+  job_type_ = WriteJobType(output_.stream(), ticket_);
+  WriteCovers(output_.stream(), ticket_);
+  WriteSeparators(output_.stream(), ticket_);
+}
+
+void CopyRules::ReplaceFaxResolution(std::string_view line) {
+  const Dictionary* fax = DictionaryGetDictionary(ticket_, "com.zarvo.print.FaxOptions");
+  if (fax == nullptr) return;  // the line is left out, and so are all later ones like it
+
+  // Resolution codes of the printer's page device: 2 is 600 dpi, 5 is 200 dpi.
+  constexpr std::int32_t k600 = 2;
+  constexpr std::int32_t k200 = 5;
+  std::int32_t resolution = 0;
+  if (!CFDictionaryGetNumber(*fax, "NewJobResolution", &resolution)) {
+    std::int32_t fax_resolution = 0;
+    CFDictionaryGetNumber(*fax, "Resolution", &fax_resolution);
+    if (fax_resolution == 1 || fax_resolution == 2) resolution = k200;
+    if (fax_resolution == 3) resolution = k600;
+  }
+  if (resolution == k600 || resolution == k200) {
+    const int dpi = resolution == k600 ? 600 : 200;
+    std::fprintf(
+        output_.stream(),
+        "(<<) cvx exec /DeviceRenderingInfo (<<) cvx exec /Type 4 /ValuesPerColorComponent "
+        "2(>>) cvx exec /HWResolution [%d %d] (>>) cvx exec setpagedevice\n",
+        dpi, dpi);
+  } else {
+    output_.Write(line);
+  }
+  fax_resolution_overridden_ = true;
+}
+
+void CopyRules::CopyEndProlog(std::string_view line) {
+  const WatermarkChoice& watermark = *settings_.watermark;
+  output_.Write(WatermarkProlog);
+  output_.Write(line);
+  if (watermark.watermark_option == kWatermarkOverlay && watermark.IsText())
+    WriteOverlayDefinitions(output_.stream(), watermark.watermarkData, settings_.booklet);
+}
+
+void CopyRules::WritePageTransform() {
+  // The axis that mirrors left and right on the sheet depends on how the page lies on it.
+  const bool sideways = PageOrientation() % 2 == 1;
+  const bool mirror_x = settings_.flipHorizontal && !sideways;
+  const bool mirror_y = settings_.flipHorizontal && sideways;
+  std::fprintf(output_.stream(), "%d.0 %d.0 translate %d %d scale\n",
+               mirror_x ? settings_.mediaWidth : 0, mirror_y ? settings_.mediaLength : 0,
+               mirror_x ? -1 : 1, mirror_y ? -1 : 1);
+}
+
+bool CopyRules::OnThisPage(int first_page) const {
+  return !settings_.watermark->watermarkFirstPageOnly || page_count_ == first_page;
+}
+
+void CopyRules::CopyPageStart(std::string_view line) {
+  output_.Write(line);
+  if (settings_.invertImage)
+    output_.Write("[{1 exch sub}/exec load dup currenttransfer exch]cvx bind settransfer\n");
+  WritePageTransform();
+  if (!settings_.watermark || settings_.watermark->watermark_option != kWatermarkBackground) return;
+
+  const WatermarkChoice& watermark = *settings_.watermark;
+  if (!OnThisPage(0)) {
+    LogLine("DEBUG: Adding Watermark in background");
+  } else if (watermark.IsText()) {
+    LogLines({"DEBUG: Adding Watermark in background", "DEBUG: Adding text Watermark"});
+    WriteBackgroundText(output_.stream(), watermark.watermarkData);
+  } else {
+    LogLines({"DEBUG: Adding Watermark in background", "DEBUG: Adding image Watermark"});
+    insertWatermarkCall(watermark.watermarkData.scale, 0, output_.stream());
+  }
+}
+
+void CopyRules::CopyPageEnd(std::string_view line) {
+  ++page_count_;
+  if (settings_.watermark) {
+    const WatermarkChoice& watermark = *settings_.watermark;
+    if (watermark.watermark_option == kWatermarkForeground) {
+      if (!OnThisPage(1)) {
+        LogLine("DEBUG: Adding Watermark in foreground");
+      } else if (watermark.IsText()) {
+        LogLines({"DEBUG: Adding Watermark in foreground", "DEBUG: Adding text watermark"});
+        WriteForegroundText(output_.stream(), watermark.watermarkData, line.starts_with("endp"));
+      } else {
+        LogLines({"DEBUG: Adding Watermark in foreground", "DEBUG: Adding image watermark"});
+        insertWatermarkCall(watermark.watermarkData.scale, 0, output_.stream());
+      }
+    } else if (watermark.watermark_option == kWatermarkOverlay && !watermark.IsText() &&
+               OnThisPage(0)) {
+      // The count has been raised already, so "first page only" draws on no page at all; drivers
+      // rely on it.
+      insertWatermarkCall(watermark.watermarkData.scale, 1, output_.stream());
+    }
+  }
+  output_.Write(line);
+}
+
+void CopyRules::CopyFeatureLine(std::string_view line) {
+  output_.Write(line);
+  if (!NamesJobType(line)) return;
+  job_type_match_ = false;
+  // No line feed at the end: the next line of the job begins with its own white space or operator.
+  const auto put = [this](const char* name, const std::optional<std::string>& value) {
+    if (value)
+      std::fprintf(output_.stream(), "\n   userdict /%s (%s) put", name,
+                   PostScriptText(*value).c_str());
+  };
+  put("zarvo$pdejobname", settings_.zarvoJobName);
+  put("zarvo$pdejobpassword", settings_.zarvoJobPassword);
+}
+
+void CopyRules::CopyEndSetup(std::string_view line) {
+  const WatermarkChoice& watermark = *settings_.watermark;
+  if (watermark.IsText()) {
+    if (!font_) {
+      font_.emplace();
+      loadFontData(kWatermarkCollection, watermark.watermarkData.fontName, &*font_);
+    }
+    WriteWatermarkFont(output_.stream(), *font_);
+  } else {
+    WriteImage(watermark.watermarkData);
+  }
+  output_.Write(line);
+}
+
+void CopyRules::WriteImage(const _WatermarkData& watermark) {
+  if (!std::exchange(image_written_, true)) {
+    outputImageWatermark(&watermark, output_.stream());
+    output_.error();  // while the reason of a failed write is known
+    return;
+  }
+  // Only odd jobs have another set-up section. They may have a million; the image is decoded once
+  // more and kept.
+  if (image_ == nullptr) {
+    image_ = SpoolFile::Create();
+    if (image_ == nullptr) {
+      output_.Fail(errno);
+      return;
+    }
+    outputImageWatermark(&watermark, image_->stream());
+  }
+  if (const int error = image_->CopyTo(output_.stream())) output_.Fail(error);
+}
+
+}  // namespace zarvo

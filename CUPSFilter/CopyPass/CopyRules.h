@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: Apache-2.0
+// The landmarks of a PostScript job and what is written at each. This is the one place that knows
+// the exact line rules; how the lines are found is CopyPass's business.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string_view>
+
+#include "CUPSFilter/FaxCover/FaxCoverOutput.h"
+#include "CUPSFilter/JobOutput.h"
+#include "CUPSFilter/JobSettings.h"
+#include "CUPSFilter/SpoolFile.h"
+#include "CUPSFilter/Watermark/PageHooks.h"
+#include "Platform/Value.h"
+
+namespace zarvo {
+
+/// A line is tested by at most this many of its first bytes; what follows is copied unseen.
+constexpr std::size_t kLongestTestedLine = 8191;
+
+/// What a line means. A line that is no landmark is copied as it is.
+enum class Landmark {
+  kNone,
+  kDocumentHeader,  // contains "%!PS-Adobe"
+  kPjlHeader,       // the input carries the envelope already
+  kBeginSetup,
+  kFaxResolution,
+  kJobEnd,       // "%%EOF" of a job whose envelope the filter wrote
+  kEmbeddedEnd,  // "%%EOF" of an embedded EPS document
+  kEndProlog,
+  kPageEnd,  // "ep" or "endp"
+  kPageStart,
+  kCountedData,
+  kFeatureLine,  // may name the job type; the hash and an exact comparison decide
+  kEndSetup,
+  kPageHook,  // instead of prolog, page start and end, and setup
+};
+
+/// The state of one pass over one job. `settings`, `ticket` and `output` must outlive it.
+class CopyRules {
+ public:
+  CopyRules(const JobSettings& settings, const Dictionary& ticket, JobOutput& output);
+  ~CopyRules();
+  CopyRules(const CopyRules&) = delete;
+  CopyRules& operator=(const CopyRules&) = delete;
+
+  /// The first rule that applies to a line. `line` holds its first bytes, terminator included, up
+  /// to kLongestTestedLine. Without state of its own in the answer: asking changes nothing.
+  Landmark Classify(std::string_view line) const;
+
+  /// Writes the line and what belongs to it. Returns how many bytes of counted data follow the
+  /// line; they are to be copied unseen.
+  std::int64_t Apply(Landmark landmark, std::string_view line);
+
+  /// True while any line, not only one that begins with a landmark's first byte, may have to be
+  /// replaced.
+  bool WatchesEveryLine() const;
+
+ private:
+  void WriteEnvelope();
+  void CopyDocumentHeader(std::string_view line);
+  void CopyPjlHeader(std::string_view line);
+  void ReplaceFaxResolution(std::string_view line);
+  void CopyEndProlog(std::string_view line);
+  void CopyPageStart(std::string_view line);
+  void CopyPageEnd(std::string_view line);
+  void CopyFeatureLine(std::string_view line);
+  void CopyEndSetup(std::string_view line);
+  void WriteImage(const _WatermarkData& watermark);
+  void WritePageTransform();
+  bool OnThisPage(int first_page) const;
+
+  const JobSettings& settings_;
+  const Dictionary& ticket_;
+  JobOutput& output_;
+  std::optional<PageHooks> page_hooks_;
+
+  bool found_eps_ = false;
+  bool found_pjl_ = false;
+  bool added_pjl_ = false;
+  bool begin_setup_found_ = false;
+  bool fax_resolution_overridden_ = false;
+  bool job_type_match_ = false;
+  int job_type_ = 1;
+  int page_count_ = 0;  // pages ended so far
+
+  // What is made once and written as often as the job asks for it.
+  FaxCoverDocument fax_cover_;
+  std::optional<Data> font_;
+  bool image_written_ = false;
+  std::unique_ptr<SpoolFile> image_;
+};
+
+}  // namespace zarvo

@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "CUPSFilter/FaxCover/FaxCoverOutput.h"
+
+#include <sys/wait.h>
+
+#include <cerrno>
+#include <cstring>
+#include <memory>
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "Platform/Log.h"
+#include "Platform/Process.h"
+#include "Platform/PropertyList.h"
+#include "Source/DrawHelper.h"
+#include "Source/FaxCover.h"
+
+namespace zarvo {
+namespace {
+
+constexpr std::size_t kMaxPdfBytes = 256u << 20;
+constexpr int kHelperFailed = 1;  // and has logged why
+
+void LogLeftOut(const std::string& why) {
+  LogLine("ERROR: The fax cover sheet was left out: %s", why.c_str());
+}
+
+/// Copies what is left of `input`. False when it is longer than `max_bytes` or either side fails.
+bool CopyStream(FILE* input, FILE* output, std::size_t max_bytes) {
+  char block[1 << 16];
+  std::size_t total = 0;
+  while (const std::size_t got = std::fread(block, 1, sizeof block, input)) {
+    total += got;
+    if (total > max_bytes || std::fwrite(block, 1, got, output) != got) return false;
+  }
+  return std::ferror(input) == 0;
+}
+
+/// Lets the helper draw the cover into the file. False, with one log line written, on failure.
+bool DrawPdf(const FaxCover& cover, SpoolFile& pdf) {
+  const std::optional<std::string> description = SerializePropertyList(FaxCoverToDictionary(cover));
+  if (!description) {
+    LogLeftOut("the watermark holds characters that no text may hold; type its text again");
+    return false;
+  }
+  const UniqueFd input = OpenMemoryFile(*description);
+  std::optional<Process> helper = input ? StartDrawHelper({"faxcover"}, input.get()) : std::nullopt;
+  if (!helper) {
+    LogLeftOut(DrawHelperPath() + " cannot be started: " + std::strerror(errno) +
+               "; install the package zarvo again");
+    return false;
+  }
+  FILE* drawn = helper->output();
+  const bool copied = drawn != nullptr && CopyStream(drawn, pdf.stream(), kMaxPdfBytes) &&
+                      std::fflush(pdf.stream()) == 0;
+  const int status = helper->Wait();
+  if (copied && status == 0) return true;
+  if (!WIFEXITED(status) || WEXITSTATUS(status) != kHelperFailed)
+    LogLeftOut("drawing it did not finish; make room in TMPDIR or send the job again");
+  return false;
+}
+
+/// The cover sheet as a document of its own, or null when there is none. The whole document is
+/// there before the first byte goes into the job: half a cover would stop the printer.
+std::unique_ptr<SpoolFile> DrawPostScript(const Dictionary& ticket,
+                                          const PdfConverters& converters) {
+  const std::optional<FaxCover> cover = FaxCoverFromTicket(ticket);
+  if (!cover) return nullptr;
+  const std::unique_ptr<SpoolFile> pdf = SpoolFile::Create();
+  std::unique_ptr<SpoolFile> document = pdf != nullptr ? SpoolFile::Create() : nullptr;
+  if (document == nullptr) {
+    LogLeftOut(std::string("TMPDIR takes no file: ") + std::strerror(errno) +
+               "; let TMPDIR name a folder that the spooler may write");
+    return nullptr;
+  }
+  if (!DrawPdf(*cover, *pdf)) return nullptr;
+
+  std::string failure =
+      ConvertPdfToPostScript(::fileno(pdf->stream()), converters, document->stream());
+  if (failure.empty() &&
+      (std::fflush(document->stream()) != 0 || std::ferror(document->stream()) != 0))
+    failure = std::string("no room for it: ") + std::strerror(errno) + "; make room in TMPDIR";
+  if (failure.empty()) return document;
+  LogLeftOut(failure);
+  return nullptr;
+}
+
+}  // namespace
+
+int WriteFaxCover(FILE* output, const Dictionary& ticket, FaxCoverDocument* kept,
+                  const PdfConverters& converters) {
+  if (!std::exchange(kept->drawn, true)) kept->postscript = DrawPostScript(ticket, converters);
+  return kept->postscript != nullptr ? kept->postscript->CopyTo(output) : 0;
+}
+
+}  // namespace zarvo

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: Apache-2.0
+// Puts the fax cover sheet into the job.
+#pragma once
+
+#include <cstdio>
+#include <memory>
+
+#include "CUPSFilter/FaxCover/PdfToPostScript.h"
+#include "CUPSFilter/SpoolFile.h"
+#include "Platform/Value.h"
+
+namespace zarvo {
+
+/// A job's cover sheet once it is drawn. A job may have any number of document headers, and each
+/// gets the cover; drawing it takes two programs and a second.
+struct FaxCoverDocument {
+  bool drawn = false;  ///< or tried, or not asked for
+  std::unique_ptr<SpoolFile> postscript;
+};
+
+/// Writes the cover sheet that the ticket asks for as a PostScript document of its own; draws it
+/// at the first call for `kept` and writes the same bytes from then on. Writes nothing when none is
+/// asked for; when drawing or conversion fails, writes nothing of the cover and, the first time,
+/// one log line, so that the job goes out whole. Returns 0, or an error number when a cover that
+/// had been drawn could not be read back whole.
+int WriteFaxCover(FILE* output, const Dictionary& ticket, FaxCoverDocument* kept,
+                  const PdfConverters& converters = PdfConverters());
+
+}  // namespace zarvo

@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: Apache-2.0
+// The spooler's library calls its PPD functions deprecated; it still ships them, and the PPD is
+// what every queue of these printers has.
+#include "CUPSFilter/Options/Ppd.h"
+
+#include <cups/ppd.h>
+#include <sys/stat.h>
+
+#include <charconv>
+
+#include "Platform/Log.h"
+
+#pragma GCC diagnostic ignored "-Wdeprecated-declarations"
+
+#ifdef __SANITIZE_ADDRESS__
+// The library never frees some names it makes when it maps job options to PPD choices.
+extern "C" const char* __lsan_default_suppressions() { return "leak:_ppdCacheCreateWithPPD\n"; }
+#endif
+
+namespace zarvo {
+namespace {
+
+/// Real ones have a tenth of it; the library's time grows with the square of the options.
+constexpr off_t kMaxPpdBytes = 4 << 20;
+
+/// Without exponent; 64 characters hold the largest.
+std::string Decimal(float number) {
+  char text[64];
+  return {text, std::to_chars(text, text + sizeof text, number, std::chars_format::fixed).ptr};
+}
+
+std::optional<std::string> CustomValue(const ppd_cparam_t& parameter) {
+  switch (parameter.type) {
+    case PPD_CUSTOM_CURVE:
+      return Decimal(parameter.current.custom_curve);
+    case PPD_CUSTOM_INVCURVE:
+      return Decimal(parameter.current.custom_invcurve);
+    case PPD_CUSTOM_POINTS:
+      return Decimal(parameter.current.custom_points);
+    case PPD_CUSTOM_REAL:
+      return Decimal(parameter.current.custom_real);
+    case PPD_CUSTOM_INT:
+      return std::to_string(parameter.current.custom_int);
+    case PPD_CUSTOM_PASSCODE:
+    case PPD_CUSTOM_PASSWORD:
+    case PPD_CUSTOM_STRING:
+      // The library keeps all three kinds of text in one member.
+      if (parameter.current.custom_string != nullptr) return parameter.current.custom_string;
+      break;
+    default:
+      break;
+  }
+  return std::nullopt;
+}
+
+}  // namespace
+
+void Ppd::Closer::operator()(ppd_file_s* file) const { ppdClose(file); }
+
+Ppd Ppd::Open(const char* file) {
+  Ppd ppd;
+  if (file == nullptr) return ppd;
+  struct stat about {};
+  if (stat(file, &about) == 0 && about.st_size > kMaxPpdBytes) {
+    LogLine(
+        "DEBUG: PPD \"%s\" not used, it has more than %lld bytes; printing with Letter page "
+        "defaults",
+        file, static_cast<long long>(kMaxPpdBytes));
+    return ppd;
+  }
+  ppd.file_.reset(ppdOpenFile(file));
+  if (!ppd) {
+    int line = 0;
+    const ppd_status_t status = ppdLastError(&line);
+    LogLine("DEBUG: PPD \"%s\" not used, line %d: %s; printing with Letter page defaults", file,
+            line, ppdErrorString(status));
+  }
+  return ppd;
+}
+
+void Ppd::Mark(int num_options, cups_option_t* options) {
+  if (file_ == nullptr) return;
+  ppdMarkDefaults(file_.get());
+  cupsMarkOptions(file_.get(), num_options, options);
+}
+
+std::optional<PpdPageSize> Ppd::MarkedPageSize() const {
+  const ppd_size_t* size = file_ != nullptr ? ppdPageSize(file_.get(), nullptr) : nullptr;
+  if (size == nullptr) return std::nullopt;
+  return PpdPageSize{size->width, size->length, size->left, size->bottom, size->right, size->top};
+}
+
+bool Ppd::IsMarked(const char* option, const char* choice) const {
+  return file_ != nullptr && ppdIsMarked(file_.get(), option, choice) != 0;
+}
+
+bool Ppd::HasChoice(const char* option, const char* choice) const {
+  ppd_option_t* found = file_ != nullptr ? ppdFindOption(file_.get(), option) : nullptr;
+  return found != nullptr && ppdFindChoice(found, choice) != nullptr;
+}
+
+std::vector<std::optional<std::string>> Ppd::CustomValues(const char* option) const {
+  std::vector<std::optional<std::string>> values;
+  ppd_coption_t* custom = file_ != nullptr ? ppdFindCustomOption(file_.get(), option) : nullptr;
+  if (custom == nullptr || !IsMarked(option, "Custom")) return values;
+  for (const ppd_cparam_t* parameter = ppdFirstCustomParam(custom); parameter != nullptr;
+       parameter = ppdNextCustomParam(custom))
+    values.push_back(CustomValue(*parameter));
+  return values;
+}
+
+std::vector<PpdAttribute> Ppd::Attributes(const char* keyword) const {
+  std::vector<PpdAttribute> attributes;
+  if (file_ == nullptr) return attributes;
+  for (const ppd_attr_t* found = ppdFindAttr(file_.get(), keyword, nullptr); found != nullptr;
+       found = ppdFindNextAttr(file_.get(), keyword, nullptr))
+    attributes.push_back({found->spec, found->value != nullptr ? found->value : ""});
+  return attributes;
+}
+
+int Ppd::ColorDevice() const { return file_ != nullptr ? file_->color_device : 0; }
+
+int Ppd::LanguageLevel() const { return file_ != nullptr ? file_->language_level : 0; }
+
+}  // namespace zarvo

@@ -1,0 +1,157 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "CUPSFilter/Options/PpdTicket.h"
+
+#include <algorithm>
+#include <cctype>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "CUPSFilter/Options/ParseOptions.h"
+#include "Platform/Log.h"
+
+namespace zarvo {
+namespace {
+
+using CustomValues = std::vector<std::optional<std::string>>;
+
+bool IsBlank(char c) { return std::isspace(static_cast<unsigned char>(c)) != 0; }
+
+/// Reads the items of one attribute. What goes wrong is a constant text, null while all is well.
+class ItemReader {
+ public:
+  ItemReader(std::string_view text, const CustomValues& custom) : rest_(text), custom_(custom) {}
+
+  /// Reads the next name and value. Returns false at the end or when there is an error.
+  bool Next(std::string* name, std::string* value) {
+    while (!rest_.empty() && IsBlank(rest_.front())) rest_.remove_prefix(1);
+    if (rest_.empty() && !any_) error_ = "it is empty";
+    if (rest_.empty()) return false;
+    any_ = true;
+    return ReadName(name) && ReadValue(value);
+  }
+
+  const char* error() const { return error_; }
+
+ private:
+  bool ReadName(std::string* name) {
+    const std::size_t length = rest_.find_first_of("= \t\r\n'\\");
+    if (length == 0 || length == rest_.npos || rest_[length] != '=')
+      return Fail("an item is not of the form name=value");
+    *name = rest_.substr(0, length);
+    rest_.remove_prefix(length + 1);
+    return true;
+  }
+
+  bool ReadValue(std::string* value) {
+    value->clear();
+    bool quoted = false;
+    while (!rest_.empty() && (quoted || !IsBlank(rest_.front()))) {
+      const char c = Take();
+      if (c == '\'') {
+        quoted = !quoted;
+      } else if (c == '\\') {
+        if (rest_.empty()) return Fail("it ends in a backslash");
+        *value += Take();
+      } else if (c == '%' && !rest_.empty() && (rest_.front() == '%' || rest_.front() == 's')) {
+        if (Take() == '%') {
+          *value += '%';
+        } else if (!AppendCustom(value)) {
+          return false;
+        }
+      } else {
+        *value += c;
+      }
+    }
+    return !quoted || Fail("a quote is not closed");
+  }
+
+  bool AppendCustom(std::string* value) {
+    if (custom_.empty()) return Fail("it has %s, but the choice has no parameter");
+    const std::optional<std::string>& text = custom_[std::min(used_++, custom_.size() - 1)];
+    if (!text) return Fail("the job gives no value for the custom choice");
+    *value += *text;
+    return true;
+  }
+
+  char Take() {
+    const char c = rest_.front();
+    rest_.remove_prefix(1);
+    return c;
+  }
+
+  bool Fail(const char* error) {
+    error_ = error;
+    return false;
+  }
+
+  std::string_view rest_;
+  const CustomValues& custom_;
+  std::size_t used_ = 0;  // parameters that have been filled in
+  bool any_ = false;
+  const char* error_ = nullptr;
+};
+
+/// Adds the options of one attribute, all or none. Returns what is wrong with it, or null.
+const char* AddAttribute(const Ppd& ppd, const PpdAttribute& attribute, OptionList* options) {
+  const std::size_t dot = attribute.selector.find('.');
+  if (dot == attribute.selector.npos) return "its name is not of the form Option.Choice";
+  const std::string option(attribute.selector.substr(0, dot));
+  const std::string choice(attribute.selector.substr(dot + 1));
+  if (!ppd.HasChoice(option.c_str(), choice.c_str())) return "the PPD has no such choice";
+  if (!ppd.IsMarked(option.c_str(), choice.c_str())) return nullptr;
+
+  const CustomValues custom = ppd.CustomValues(option.c_str());
+  ItemReader reader(attribute.value, custom);
+  std::vector<std::pair<std::string, std::string>> items;
+  std::string name, value;
+  while (reader.Next(&name, &value)) items.emplace_back(name, value);
+  if (reader.error() != nullptr) return reader.error();
+  for (const auto& item : items) options->Add(item.first.c_str(), item.second.c_str());
+  return nullptr;
+}
+
+}  // namespace
+
+OptionList::OptionList(OptionList&& other) noexcept
+    : size_(std::exchange(other.size_, 0)), options_(std::exchange(other.options_, nullptr)) {}
+
+OptionList::~OptionList() { cupsFreeOptions(size_, options_); }
+
+OptionList OptionList::Parse(const char* text) {
+  OptionList list;
+  list.size_ = cupsParseOptions(text, 0, &list.options_);
+  return list;
+}
+
+void OptionList::Add(const char* name, const char* value) {
+  size_ = cupsAddOption(name, value, size_, &options_);
+}
+
+void OptionList::AddMissing(const OptionList& other) {
+  for (int i = 0; i < other.size_; ++i) {
+    const cups_option_t& option = other.options_[i];
+    if (cupsGetOption(option.name, size_, options_) == nullptr) Add(option.name, option.value);
+  }
+}
+
+OptionList PpdTicketOptions(const Ppd& ppd) {
+  OptionList options;
+  for (const PpdAttribute& attribute : ppd.Attributes("ZRVTicket")) {
+    if (const char* error = AddAttribute(ppd, attribute, &options))
+      LogLine(
+          "ERROR: PPD attribute *ZRVTicket %.*s is not used: %s; correct the PPD or the job's "
+          "option",
+          static_cast<int>(attribute.selector.size()), attribute.selector.data(), error);
+  }
+  return options;
+}
+
+std::vector<cups_option_t> TicketOrder(const OptionList& chosen, const OptionList& own) {
+  std::vector<cups_option_t> ordered = NaturalOrder(chosen.size(), chosen.data());
+  const std::vector<cups_option_t> own_ordered = NaturalOrder(own.size(), own.data());
+  ordered.insert(ordered.end(), own_ordered.begin(), own_ordered.end());
+  return ordered;
+}
+
+}  // namespace zarvo

@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "CUPSFilter/Watermark/PageHooks.h"
+
+#include <cstdio>
+
+#include "CUPSFilter/Options/common.h"
+#include "CUPSFilter/Watermark/WatermarkText.h"
+#include "CUPSFilter/Watermark/outputPICT.h"
+#include "Platform/Log.h"
+
+namespace zarvo {
+
+extern const std::string_view PageHookProcedures;
+
+namespace {
+
+constexpr std::string_view kLandmarks[] = {"%%EndSetup", "%%Page:", "%%BeginPageSetup",
+                                           "%%BeginDocument", "%%EndDocument"};
+
+void WriteFlag(FILE* output, const char* name, bool value) {
+  std::fprintf(output, "/%s %s def\n", name, value ? "true" : "false");
+}
+
+void WriteImageCall(FILE* output, const WatermarkChoice& watermark) {
+  // An image that could not be read has left nothing to draw.
+  std::fputs("ZRVhooks /picstr known {\n", output);
+  insertWatermarkCall(watermark.watermarkData.scale,
+                      watermark.watermark_option == kWatermarkOverlay ? 1 : 0, output);
+  std::fputs("} if\n", output);
+}
+
+void WriteDrawing(FILE* output, const WatermarkChoice& watermark) {
+  const _WatermarkData& data = watermark.watermarkData;
+  if (!watermark.IsText()) {
+    WriteImageCall(output, watermark);
+  } else if (watermark.watermark_option == kWatermarkBackground) {
+    WriteBackgroundText(output, data);
+  } else if (watermark.watermark_option == kWatermarkForeground) {
+    std::fputs("gsave\n", output);
+    WriteForegroundDrawing(output, data);
+  } else {
+    std::fputs("OverlayForm execform\n", output);
+  }
+}
+
+}  // namespace
+
+bool PageHooksWanted(const Ppd& ppd) {
+  for (const PpdAttribute& attribute : ppd.Attributes("ZRVPageHooks")) {
+    if (attribute.value == "True") return true;
+  }
+  return false;
+}
+
+PageHooks::PageHooks(const JobSettings& settings, JobOutput& output)
+    : settings_(settings),
+      output_(output),
+      needed_(settings.watermark || settings.invertImage || settings.flipHorizontal) {}
+
+bool PageHooks::IsLandmark(std::string_view line) const {
+  if (!needed_) return false;
+  for (const std::string_view landmark : kLandmarks) {
+    if (line.starts_with(landmark)) return true;
+  }
+  return false;
+}
+
+void PageHooks::Copy(std::string_view line) {
+  if (line.starts_with("%%BeginDocument")) ++nesting_;
+  if (line.starts_with("%%EndDocument") && nesting_ > 0) --nesting_;
+  const bool own = nesting_ == 0;
+  const bool page = own && line.starts_with("%%Page:");
+  if (page || (own && line.starts_with("%%EndSetup"))) Insert();
+  output_.Write(line);
+  if (page) {
+    ++pages_;
+    page_set_up_ = false;
+  }
+  if (own && line.starts_with("%%BeginPageSetup") && inserted_ && !page_set_up_) {
+    page_set_up_ = true;
+    if (settings_.booklet)
+      std::fprintf(output_.stream(), "%d ZRVhooks /bookletpage get exec\n", pages_ - 1);
+  }
+}
+
+void PageHooks::Insert() {
+  if (inserted_) return;
+  inserted_ = true;
+  FILE* output = output_.stream();
+  const std::optional<WatermarkChoice>& watermark = settings_.watermark;
+  if (watermark && watermark->IsText()) {
+    Data font;
+    loadFontData(kWatermarkCollection, watermark->watermarkData.fontName, &font);
+    WriteWatermarkFont(output, font);
+  }
+  output_.Write(PageHookProcedures);
+
+  // Mirrored is what a sheet's left and right are, and that depends on how the page lies on it.
+  const bool sideways = PageOrientation() % 2 == 1;
+  WriteFlag(output, "flipx", settings_.flipHorizontal && !sideways);
+  WriteFlag(output, "flipy", settings_.flipHorizontal && sideways);
+  WriteFlag(output, "negative", settings_.invertImage);
+  WriteFlag(output, "firstonly", watermark && watermark->watermarkFirstPageOnly);
+  std::fprintf(output, "/width %d def\n/height %d def\n", WholePoints(PageWidth),
+               WholePoints(PageLength));
+  if (watermark) {
+    if (!watermark->IsText())
+      outputImageWatermark(&watermark->watermarkData, output);
+    else if (watermark->watermark_option == kWatermarkOverlay)
+      WriteOverlayForm(output, watermark->watermarkData);
+  }
+  const bool below = watermark && watermark->watermark_option == kWatermarkBackground;
+  std::fputs("/back {\n", output);
+  if (below) WriteDrawing(output, *watermark);
+  std::fputs("} def\n/front {\n", output);
+  if (watermark && !below) WriteDrawing(output, *watermark);
+  std::fputs("} def\nZRVinstall\nend end setglobal\n", output);
+}
+
+void PageHooks::LogIfUnused() const {
+  if (needed_ && !inserted_)
+    LogLine(
+        "ERROR: the job has no page comments, so it was printed without its watermark, negative "
+        "or mirror image. Print it as PDF");
+}
+
+}  // namespace zarvo

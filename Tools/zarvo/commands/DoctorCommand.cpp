@@ -1,0 +1,256 @@
+// SPDX-License-Identifier: Apache-2.0
+// zarvo doctor: is everything there that jobs need, and as the spooler wants it?
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <filesystem>
+#include <memory>
+#include <nlohmann/json.hpp>
+
+#include "CUPSFilter/FaxCover/PdfToPostScript.h"
+#include "Platform/Log.h"
+#include "Source/CFAdditions.h"
+#include "Source/DrawHelper.h"
+#include "Source/FaxCover.h"
+#include "Source/Preferences.h"
+#include "Source/WatermarkSupport.h"
+#include "Tools/zarvo/Command.h"
+#include "Tools/zarvo/Terminal.h"
+#include "Tools/zarvo/system/Queues.h"
+#include "Tools/zarvo/system/Run.h"
+
+namespace zarvo::tool {
+namespace {
+
+namespace fs = std::filesystem;
+
+enum class State { kGood, kNote, kWrong };
+
+struct Check {
+  State state;
+  std::string what;
+  std::string place;
+  std::string text;    ///< what is wrong; empty when nothing is
+  std::string remedy;  ///< a command or what else to do
+};
+
+class Examination {
+ public:
+  void Run() {
+    CheckFilter();
+    CheckHelper();
+    CheckConverters();
+    CheckQueues();
+    CheckStores();
+  }
+
+  const std::vector<Check>& checks() const { return checks_; }
+
+ private:
+  void Good(std::string what, std::string place) {
+    checks_.push_back({State::kGood, std::move(what), std::move(place), "", ""});
+  }
+  void Note(std::string what, std::string place, std::string text, std::string remedy) {
+    checks_.push_back(
+        {State::kNote, std::move(what), std::move(place), std::move(text), std::move(remedy)});
+  }
+  void Wrong(std::string what, std::string place, std::string text, std::string remedy) {
+    checks_.push_back(
+        {State::kWrong, std::move(what), std::move(place), std::move(text), std::move(remedy)});
+  }
+
+  /// What the spooler insists on before it runs a program or looks into its folder.
+  bool SafeForSpooler(const char* what, const std::string& path) {
+    struct stat status {};
+    if (stat(path.c_str(), &status) != 0) {
+      Wrong(what, path, std::strerror(errno), "Install the package zarvo-filter");
+      return false;
+    }
+    if (status.st_uid != 0) {
+      Wrong(what, path, "does not belong to root; the spooler refuses it", "chown root " + path);
+      return false;
+    }
+    if ((status.st_mode & (S_IWGRP | S_IWOTH | S_ISUID)) != 0) {
+      Wrong(what, path, "others may write it, or it changes its user; the spooler refuses it",
+            S_ISDIR(status.st_mode) ? "chmod 755 " + path : "chmod 555 " + path);
+      return false;
+    }
+    if ((status.st_mode & S_IXOTH) == 0) {
+      Wrong(what, path, "the spooler's user may not run or enter it", "chmod a+rx " + path);
+      return false;
+    }
+    return true;
+  }
+
+  /// A program that is run without arguments tells its usage, if it can be run at all.
+  void CheckRuns(const char* what, const std::string& path, const char* usage) {
+    ChildRun child;
+    child.arguments = {path};
+    child.limit = std::chrono::seconds(10);
+    std::string log;
+    RunChild(child, &log);
+    if (log.find(usage) != std::string::npos) return Good(what, path);
+    Wrong(what, path, "does not run: " + ErrorLines(log), "Install the package zarvo-filter again");
+  }
+
+  void CheckFilter() {
+    const fs::path filter = PdfConverters::DefaultFilterFolder() + "/zarvofilter";
+    if (SafeForSpooler("filter folder", filter.parent_path()) && SafeForSpooler("filter", filter))
+      CheckRuns("filter", filter, "job-id user title copies options");
+  }
+
+  void CheckHelper() {
+    std::string helper = PdfConverters::DefaultFilterFolder() + "/zarvodraw";
+    if (access(helper.c_str(), F_OK) != 0) helper = DrawHelperPath();
+    if (access(helper.c_str(), X_OK) != 0)
+      return Wrong("drawing helper", helper,
+                   std::string(std::strerror(errno)) + "; no image watermarks, no fax covers",
+                   "Install the package zarvo-filter again");
+    CheckRuns("drawing helper", helper, "started by the print filter");
+  }
+
+  void CheckConverters() {
+    for (const char* name : {"pdftopdf", "pdftops", "pstops"}) {
+      const std::string path = PdfConverters::DefaultFilterFolder() + "/" + name;
+      if (access(path.c_str(), X_OK) == 0) {
+        Good("converter", path);
+      } else {
+        Wrong("converter", path, "is missing; PDF jobs cannot be printed",
+              "apt install cups cups-filters");
+      }
+    }
+    const std::string gs = FindProgram("gs");
+    if (!gs.empty()) return Good("converter", gs);
+    Wrong("converter", "gs", "is missing; PDF jobs and previews need it",
+          "apt install ghostscript");
+  }
+
+  void CheckQueues() {
+    std::vector<std::string> names;
+    std::string error;
+    if (!ListQueues(&names, &error))
+      return Wrong("spooler", "cupsd", "does not answer", "systemctl start cups");
+    bool used = false;
+    for (const std::string& name : names) {
+      const QueuePpd ppd(name, &error);
+      if (ppd.path().empty() || !UsesOurFilter(ppd.path())) continue;
+      used = true;
+      const std::string fault = PpdFault(ppd.path());
+      if (fault.empty()) {
+        Good("queue", name);
+      } else {
+        Wrong("queue", name, "its PPD file is damaged, " + fault,
+              "lpadmin -p " + name + " -P zarvo.ppd");
+      }
+    }
+    if (!used)
+      Note(
+          "queue", "(all)", "no queue uses the filter",
+          "lpadmin -p NAME -E -v socket://PRINTER -m PPD; \"lpinfo -m | grep -i zarvo\" tells PPD");
+  }
+
+  void CheckStores() {
+    for (const char* collection : {kWatermarkCollection, kFaxImageCollection}) {
+      const std::optional<std::string> path = CopyPreferenceFileURL(collection);
+      if (!path)
+        return Wrong("store", "the folder Zarvo of the machine-wide data",
+                     "is missing and cannot be made", "Install the package zarvo-filter again");
+      CheckStore(collection, *path);
+    }
+  }
+
+  void CheckStore(const char* collection, const std::string& path) {
+    struct stat status {};
+    if (stat(path.c_str(), &status) != 0)
+      return Note("store", path, "is not there yet",
+                  std::string("\"zarvo watermark add-text") +
+                      (std::string_view(collection) == kFaxImageCollection ? " --fax" : "") +
+                      "\" makes it");
+    if ((status.st_mode & S_IROTH) == 0)
+      return Wrong("store", path, "the spooler's user cannot read it", "chmod a+r " + path);
+    if ((status.st_mode & (S_IWGRP | S_IWOTH)) != 0)
+      Note("store", path, "others than its owner may change it", "chmod go-w " + path);
+    const std::optional<Value> content = CopyXMLData(collection);
+    if (!content || content->AsDictionary() == nullptr)
+      return Wrong("store", path, "is damaged", "Restore it from a backup, or remove it");
+    Array names;
+    loadWatermarkList(collection, nullptr, &names);
+    bool good = true;
+    for (std::size_t i = 1; i < names.size(); ++i)  // the first one stands for none
+      good = CheckWatermark(collection, path, names[i]) && good;
+    if (good) Good("store", path);
+  }
+
+  bool CheckWatermark(const char* collection, const std::string& path, const Value& entry) {
+    const std::string* name = entry.AsString();
+    _WatermarkData data{};
+    if (name == nullptr || loadWatermarkData(collection, name, &data) != 1) {
+      Wrong("watermark", name != nullptr ? *name : "(no text)",
+            "is in the list of " + path + ", but not in the store",
+            "zarvo watermark remove NAME, then add it again");
+      return false;
+    }
+    struct stat status {};
+    if (data.textString[0] != '\0' ||
+        (stat(data.filePath, &status) == 0 && (status.st_mode & S_IROTH) != 0))
+      return true;
+    Wrong("watermark", *name, std::string("its image cannot be read by jobs: ") + data.filePath,
+          "Put the file back, readable for all, or remove the watermark");
+    return false;
+  }
+
+  std::vector<Check> checks_;
+};
+
+const char* StateWord(State state) {
+  return state == State::kGood ? "ok" : state == State::kNote ? "note" : "WRONG";
+}
+
+int Doctor(bool json) {
+  Examination examination;
+  {
+    Progress progress;
+    progress.Stage("Looking at the installation");
+    examination.Run();
+  }
+  const Palette palette(ColorWanted(STDOUT_FILENO));
+  nlohmann::ordered_json list = nlohmann::ordered_json::array();
+  bool wrong = false;
+  for (const Check& check : examination.checks()) {
+    wrong = wrong || check.state == State::kWrong;
+    if (json) {
+      list.push_back({{"state", StateWord(check.state)},
+                      {"what", check.what},
+                      {"place", check.place},
+                      {"text", check.text},
+                      {"remedy", check.remedy}});
+      continue;
+    }
+    const char* color = check.state == State::kWrong  ? palette.bad
+                        : check.state == State::kGood ? palette.good
+                                                      : "";
+    std::printf("%s%-5s%s  %s\n", color, StateWord(check.state),
+                *color != '\0' ? palette.plain : "",
+                PrintableText(check.what + ": " + check.place +
+                              (check.text.empty() ? "" : ": " + check.text))
+                    .c_str());
+    if (!check.remedy.empty()) std::printf("       -> %s\n", PrintableText(check.remedy).c_str());
+  }
+  if (json)
+    std::printf("%s\n", list.dump(2, ' ', false, nlohmann::json::error_handler_t::replace).c_str());
+  return wrong ? kExitFindings : kExitOk;
+}
+
+}  // namespace
+
+void SetUpDoctor(CLI::App& app, Action* action) {
+  const auto json = std::make_shared<bool>(false);
+  app.add_flag("--json", *json, "for programs");
+  app.callback([=] { *action = [=] { return Doctor(*json); }; });
+}
+
+}  // namespace zarvo::tool

@@ -1,0 +1,218 @@
+// SPDX-License-Identifier: Apache-2.0
+// zarvo recipient: the fax recipients in the user's address book.
+#include <algorithm>
+#include <cstdio>
+#include <memory>
+#include <set>
+
+#include "Platform/AddressBook.h"
+#include "Platform/Log.h"
+#include "Platform/Text.h"
+#include "Source/CFAdditions.h"
+#include "Source/Fax.h"
+#include "Source/FaxKeys.h"
+#include "Tools/zarvo/Command.h"
+#include "Tools/zarvo/ticket/TicketText.h"
+
+namespace zarvo::tool {
+namespace {
+
+struct Options {
+  std::string first, last, fax, mailbox, organization, phone, email;
+  std::string group;
+  std::vector<std::string> who;
+  bool json = false;
+};
+
+std::string NameOf(const AddressBookRecord& record) {
+  return VCardFindText(record.card, "FN").value_or("");
+}
+
+/// The records that `who` means: a UID, the beginning of one, or a name.
+std::vector<const AddressBookRecord*> Matches(const std::vector<AddressBookRecord>& records,
+                                              const std::string& who) {
+  std::vector<const AddressBookRecord*> matches;
+  for (const AddressBookRecord& record : records) {
+    if (record.uid() == who) return {&record};
+    if (record.uid().starts_with(who) || NameOf(record) == who) matches.push_back(&record);
+  }
+  return matches;
+}
+
+const AddressBookRecord* TheOne(const std::vector<AddressBookRecord>& records,
+                                const std::string& who) {
+  const std::vector<const AddressBookRecord*> matches = Matches(records, who);
+  if (matches.size() == 1 && !who.empty()) return matches[0];
+  Fail(who, matches.empty() ? "no such recipient" : "fits more than one recipient",
+       "\"zarvo recipient list\" shows them; take the beginning of the UID");
+  return nullptr;
+}
+
+int CannotWrite() {
+  return Fail(AddressBookFolder(), "the address book cannot be written",
+              "Check the folder's owner and the room on its disk");
+}
+
+/// One card in another encoding makes other programs give up on the whole folder.
+bool AreUtf8(std::initializer_list<std::string> texts) {
+  for (const std::string& text : texts) {
+    if (MakeString(text)) continue;
+    Fail("recipient", "has a text that is not UTF-8", "Give it in a terminal with a UTF-8 locale");
+    return false;
+  }
+  return true;
+}
+
+void PrintPerson(const AddressBookRecord& record) {
+  const FaxRecipient person = FaxRecipientFromCard(record.card);
+  const auto text = [](const std::string* value) { return value != nullptr ? *value : "-"; };
+  std::printf("%s\n",
+              PrintableText(record.uid() + "  " + NameOf(record) + "  fax " +
+                            text(person.faxNumber()) + "  mailbox " + text(person.mailbox()))
+                  .c_str());
+}
+
+int List(const Options& options) {
+  const std::vector<AddressBookRecord> records = AddressBookRecords();
+  std::vector<const AddressBookRecord*> people;
+  for (const AddressBookRecord& record : records) {
+    if (!IsGroupCard(record.card)) people.push_back(&record);
+  }
+  if (!options.group.empty()) {
+    const AddressBookRecord* group = TheOne(records, options.group);
+    if (group == nullptr) return kExitFailure;
+    const std::vector<std::string> members = GroupMembers(group->card);
+    std::erase_if(people, [&members](const AddressBookRecord* person) {
+      return std::find(members.begin(), members.end(), person->uid()) == members.end();
+    });
+  }
+  if (options.json) {
+    // The form in which a ticket holds them, so that it can be put into one as it is.
+    Array list;
+    for (const AddressBookRecord* person : people)
+      list.emplace_back(FaxRecipientFromCard(person->card).toTicket());
+    Dictionary ticket;
+    ticket.emplace(kFaxRecipientListTicketKey, std::move(list));
+    std::printf("%s", TicketToJson(ticket).c_str());
+    return kExitOk;
+  }
+  for (const AddressBookRecord* person : people) PrintPerson(*person);
+  if (!options.group.empty()) return kExitOk;
+  for (const AddressBookRecord& record : records) {
+    if (!IsGroupCard(record.card)) continue;
+    const std::string members = std::to_string(GroupMembers(record.card).size());
+    std::printf(
+        "%s\n",
+        PrintableText(record.uid() + "  group " + NameOf(record) + "  members " + members).c_str());
+  }
+  return kExitOk;
+}
+
+/// The address book keeps a recipient without the last name; people look for it.
+bool StoreLastName(const FaxRecipient& recipient, const Options& options) {
+  std::optional<AddressBookRecord> record = recipient.abRecord();
+  if (!record) return false;
+  for (VCardProperty& property : record->card.properties) {
+    if (property.Is("N"))
+      property.value = VCardValue(options.last) + ";" + VCardValue(options.first) + ";;;";
+    if (property.Is("FN")) property.value = VCardValue(DisplayNameFromRecipient(recipient));
+  }
+  return AddressBookSave(*record);
+}
+
+int Add(const Options& options) {
+  if (options.fax.empty() && options.mailbox.empty())
+    return Fail("recipient", "has neither a fax number nor a mailbox", "Give --fax or --mailbox");
+  if (!options.fax.empty() && CopyDialingStringFromFaxNumber(options.fax).empty())
+    return Fail(options.fax, "holds nothing that can be dialled",
+                "Digits and " + std::string(kFaxDialingCharacters.substr(10)) + " can");
+  if (!AreUtf8({options.first, options.last, options.fax, options.mailbox, options.organization,
+                options.phone, options.email}))
+    return kExitFailure;
+  FaxRecipient recipient;
+  const auto set = [&recipient](void (FaxRecipient::*setter)(const std::string*),
+                                const std::string& text) {
+    if (!text.empty()) (recipient.*setter)(&text);
+  };
+  set(&FaxRecipient::setFirstName, options.first);
+  set(&FaxRecipient::setLastName, options.last);
+  set(&FaxRecipient::setFaxNumber, options.fax);
+  set(&FaxRecipient::setMailbox, options.mailbox);
+  set(&FaxRecipient::setOrganization, options.organization);
+  set(&FaxRecipient::setPhoneNumber, options.phone);
+  set(&FaxRecipient::setEmailAddress, options.email);
+  if (!recipient.commitToAddressBook()) return CannotWrite();
+  if (!options.last.empty() && !StoreLastName(recipient, options)) return CannotWrite();
+  std::printf("%s\n", recipient.uid()->c_str());
+  return kExitOk;
+}
+
+int Remove(const Options& options) {
+  std::vector<AddressBookRecord> records = AddressBookRecords();
+  for (const std::string& who : options.who) {
+    const AddressBookRecord* record = TheOne(records, who);
+    if (record == nullptr) return kExitFailure;
+    if (!AddressBookRemove(*record)) return CannotWrite();
+    const std::string uid = record->uid();
+    for (AddressBookRecord& group : records) {
+      if (IsGroupCard(group.card) && group.uid() != uid && RemoveGroupMember(&group.card, uid) &&
+          !AddressBookSave(group))
+        return CannotWrite();
+    }
+    std::erase_if(records, [&uid](const AddressBookRecord& gone) { return gone.uid() == uid; });
+  }
+  return kExitOk;
+}
+
+int Group(const Options& options) {
+  if (!AreUtf8({options.group})) return kExitFailure;
+  const std::vector<AddressBookRecord> records = AddressBookRecords();
+  FaxRecipientList list;
+  std::set<std::string> uids;
+  for (const std::string& who : options.who) {
+    const AddressBookRecord* record = TheOne(records, who);
+    if (record == nullptr) return kExitFailure;
+    if (IsGroupCard(record->card)) return Fail(who, "is a group itself");
+    if (!uids.insert(record->uid()).second) continue;  // named twice
+    list.append(FaxRecipientOwner(new FaxRecipient(FaxRecipientFromCard(record->card))).get());
+  }
+  return list.saveAsABGroupWithName(options.group) ? kExitOk : CannotWrite();
+}
+
+CLI::App* AddCommand(CLI::App& app, const char* name, const char* summary, Action* action,
+                     const std::shared_ptr<Options>& options, int (*run)(const Options&)) {
+  CLI::App* command = app.add_subcommand(name, summary);
+  command->callback([=] { *action = [=] { return run(*options); }; });
+  return command;
+}
+
+}  // namespace
+
+void SetUpRecipient(CLI::App& app, Action* action) {
+  app.require_subcommand(1);
+  const auto options = std::make_shared<Options>();
+  CLI::App* list = AddCommand(app, "list", "Lists recipients and groups", action, options, &List);
+  list->add_flag("--json", options->json, "as a part of a ticket");
+  list->add_option("--group", options->group, "only the members of this group");
+  CLI::App* add =
+      AddCommand(app, "add", "Adds a recipient and prints its UID", action, options, &Add);
+  add->add_option("--first", options->first, "given name");
+  add->add_option("--last", options->last, "family name");
+  add->add_option("--fax", options->fax, "fax number");
+  add->add_option("--mailbox", options->mailbox, "mailbox on the printer");
+  add->add_option("--organization", options->organization, "company");
+  add->add_option("--phone", options->phone, "phone number");
+  add->add_option("--email", options->email, "e-mail address");
+  const char* who = "UID, the beginning of one, or a name";
+  CLI::App* remove = AddCommand(app, "remove",
+                                "Removes recipients or groups, and them from all "
+                                "groups",
+                                action, options, &Remove);
+  remove->add_option("who", options->who, who)->required();
+  CLI::App* group =
+      AddCommand(app, "group", "Makes a group of recipients", action, options, &Group);
+  group->add_option("name", options->group, "the group's name")->required();
+  group->add_option("who", options->who, who)->required();
+}
+
+}  // namespace zarvo::tool

@@ -1,0 +1,363 @@
+// SPDX-License-Identifier: Apache-2.0
+// zarvo watermark: the machine-wide store of watermarks.
+#include <algorithm>
+#include <cerrno>
+#include <cmath>
+#include <cstdio>
+#include <cstring>
+#include <filesystem>
+#include <memory>
+#include <nlohmann/json.hpp>
+#include <numbers>
+
+#include "Platform/AtomicFile.h"
+#include "Platform/Log.h"
+#include "Platform/Text.h"
+#include "Source/CFAdditions.h"
+#include "Source/DrawHelper.h"
+#include "Source/FaxCover.h"
+#include "Source/Preferences.h"
+#include "Source/WatermarkSupport.h"
+#include "Tools/zarvo/Command.h"
+#include "Tools/zarvo/system/Run.h"
+#include "Tools/zarvo/system/WatermarkFont.h"
+#include "Tools/zarvo/ticket/TicketText.h"
+
+namespace zarvo {
+extern const std::string_view SamplePage;  // SamplePage.ps
+}
+
+namespace zarvo::tool {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Jobs count from 2 and never reach the first entry; it stands for no watermark.
+constexpr const char* kFirstEntry = "None";
+/// The store's own entry, which holds the list.
+constexpr const char* kListEntry = "WatermarkListEntries";
+
+struct Options {
+  std::string name;
+  std::string file;
+  bool fax = false;
+  bool json = false;
+  bool in_place = false;
+  std::string font = "Helvetica-Bold";
+  std::string color = "#b0b0b0";
+  int size = 72;
+  int angle = 45;
+  int scale = 100;
+  int density = 30;
+  std::optional<double> x;
+  std::optional<double> y;
+  std::string place = "background";
+  std::string output;
+
+  const char* collection() const { return fax ? kFaxImageCollection : kWatermarkCollection; }
+};
+
+std::string StorePath(const Options& options) {
+  return CopyPreferenceFileURL(options.collection()).value_or(options.collection());
+}
+
+int CannotWrite(const Options& options) {
+  return Fail(StorePath(options), "the store cannot be written",
+              "Run the command as root, for example with sudo");
+}
+
+std::vector<std::string> Names(const Options& options) {
+  Array list;
+  loadWatermarkList(options.collection(), nullptr, &list);
+  std::vector<std::string> names;
+  for (const Value& entry : list)
+    names.push_back(entry.AsString() != nullptr ? *entry.AsString() : "");
+  return names;
+}
+
+/// Puts the name at the end of the list, unless it is there.
+bool AddToList(const Options& options, const std::string& name) {
+  std::vector<std::string> names = Names(options);
+  if (names.empty()) names.emplace_back(kFirstEntry);
+  if (std::find(names.begin(), names.end(), name) == names.end()) names.push_back(name);
+  const Array list(names.begin(), names.end());
+  return saveWatermarkList(options.collection(), &list);
+}
+
+std::string Describe(const _WatermarkData& data) {
+  char text[200];
+  if (data.textString[0] != '\0') {
+    std::snprintf(text, sizeof text, "text, %.80s %d pt, %d degrees, at %.0f %.0f", data.fontName,
+                  data.fontSize, data.angle, data.xPos, data.yPos);
+    return text;
+  }
+  return "image, " + std::to_string(data.scale) + " %, " + data.filePath;
+}
+
+/// Whether a watermark or a font may have the name; tells why not.
+bool MayBeNamed(const Options& options, const std::string& name) {
+  const std::vector<std::string> names = Names(options);
+  if (name != (names.empty() ? kFirstEntry : names[0]) && name != kListEntry) return true;
+  Fail(name, "is a name that the store itself needs", "Take another one");
+  return false;
+}
+
+int List(const Options& options) {
+  const std::vector<std::string> names = Names(options);
+  std::error_code error;
+  if (names.empty() && fs::exists(StorePath(options), error))
+    return Fail(StorePath(options), "cannot be read, or is damaged", "See \"zarvo doctor\"");
+  nlohmann::ordered_json json = nlohmann::ordered_json::array();
+  for (std::size_t i = 0; i < names.size(); ++i) {
+    _WatermarkData data{};
+    const bool found = loadWatermarkData(options.collection(), &names[i], &data) == 1;
+    const std::string what = found ? Describe(data) : i == 0 ? "no watermark" : "missing";
+    if (options.json) {
+      json.push_back({{"index", i + 1}, {"name", names[i]}, {"what", what}});
+    } else {
+      std::printf("%3zu  %s  (%s)\n", i + 1, PrintableText(names[i]).c_str(),
+                  PrintableText(what).c_str());
+    }
+  }
+  if (options.json)
+    std::printf("%s\n", json.dump(2, ' ', false, nlohmann::json::error_handler_t::replace).c_str());
+  return kExitOk;
+}
+
+bool ParseColor(const std::string& text, float* red, float* green, float* blue) {
+  unsigned r = 0, g = 0, b = 0;
+  int length = 0;
+  if (std::sscanf(text.c_str(), "#%2x%2x%2x%n", &r, &g, &b, &length) != 3 || length != 7 ||
+      text.size() != 7)
+    return false;
+  *red = static_cast<float>(r) / 255;
+  *green = static_cast<float>(g) / 255;
+  *blue = static_cast<float>(b) / 255;
+  return true;
+}
+
+bool CopyText(const std::string& text, char* field, std::size_t size) {
+  if (text.size() >= size) return false;
+  std::memcpy(field, text.c_str(), text.size() + 1);
+  return true;
+}
+
+/// Where a text begins so that its middle is that of a Letter page, which is near that of A4.
+void Center(const Options& options, std::size_t characters, _WatermarkData* data) {
+  constexpr double kMiddleX = 306, kMiddleY = 396;
+  constexpr double kCharacterWidth = 0.7;  // of the size; a capital of a bold font
+  constexpr double kCapitalHeight = 0.7;
+  const double angle = options.angle * std::numbers::pi / 180;
+  const double half_width = kCharacterWidth * options.size * static_cast<double>(characters) / 2;
+  const double half_height = kCapitalHeight * options.size / 2;
+  data->xPos =
+      options.x.value_or(kMiddleX - std::cos(angle) * half_width + std::sin(angle) * half_height);
+  data->yPos =
+      options.y.value_or(kMiddleY - std::sin(angle) * half_width - std::cos(angle) * half_height);
+}
+
+int Store(const Options& options, const _WatermarkData& data, const std::string& name) {
+  Data font;
+  loadFontData(options.collection(), name, &font);
+  if (!font.empty()) return Fail(name, "names a font of the store", "Take another name");
+  if (!saveWatermarkData(options.collection(), data) || !AddToList(options, name))
+    return CannotWrite(options);
+  return kExitOk;
+}
+
+int AddText(const Options& options) {
+  _WatermarkData data{};
+  const std::optional<std::string> text = MakeString(options.name);
+  if (!text || text->empty() || !CopyText(*text, data.textString, sizeof data.textString))
+    return Fail(options.name, "is no text of 1 to 511 bytes");
+  if (!MayBeNamed(options, *text)) return kExitFailure;
+  if (!CopyText(options.font, data.fontName, sizeof data.fontName) || options.font.empty() ||
+      options.font.find_first_of(" /()<>[]{}%\t\r\n") != std::string::npos)
+    return Fail(options.font, "is no PostScript font name", "Names look like Helvetica-Bold");
+  if (!ParseColor(options.color, &data.fontColorRed, &data.fontColorGreen, &data.fontColorBlue))
+    return Fail(options.color, "is no colour", "Colours look like #cc0000");
+  data.fontColorAlpha = data.wellColorAlpha = 1;
+  data.wellColorRed = data.fontColorRed;
+  data.wellColorGreen = data.fontColorGreen;
+  data.wellColorBlue = data.fontColorBlue;
+  data.isTextWatermark = 1;
+  data.fontSize = options.size;
+  data.angle = options.angle;
+  data.density = options.density;
+  data.scale = 100;
+  const auto is_character = [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; };
+  const auto characters = std::count_if(text->begin(), text->end(), is_character);
+  Center(options, static_cast<std::size_t>(characters), &data);
+  return Store(options, data, *text);
+}
+
+int AddImage(const Options& options) {
+  std::error_code error;
+  const fs::path source = fs::canonical(options.file, error);
+  if (error) return Fail(options.file, error.message());
+  const std::string name = options.name.empty() ? source.filename().string() : options.name;
+  if (!MayBeNamed(options, name)) return kExitFailure;
+  ChildRun decoding;
+  decoding.arguments = {DrawHelperPath(), "image", source};
+  decoding.output = "/dev/null";
+  std::string log;
+  if (!RunChild(decoding, &log)) {
+    const std::string told = Complaints(log);
+    return Fail(options.file, told.empty() ? ErrorLines(log) : told);
+  }
+  _WatermarkData data{};
+  fs::path image = source;
+  if (!options.in_place) {
+    // Jobs run as another user, who cannot look into people's folders.
+    if (name.empty() || name[0] == '.' || name.find('/') != std::string::npos ||
+        name.ends_with(".plist"))
+      return Fail(name, "cannot name a file of the store", "Give another --name");
+    // Both stores are in one folder.
+    image = fs::path(StorePath(options)).parent_path() / ((options.fax ? "fax-" : "") + name);
+    constexpr std::size_t kMaxImage = 256 << 20;
+    const std::optional<std::string> bytes = ReadWholeFile(source, kMaxImage);
+    if (!bytes) return Fail(options.file, std::strerror(errno));
+    if (WriteFileAtomically(image, *bytes, 0644) != 0) return CannotWrite(options);
+  }
+  if (!CopyText(name, data.filename, sizeof data.filename) ||
+      !CopyText(image, data.filePath, sizeof data.filePath))
+    return Fail(options.file, "has too long a name");
+  data.scale = options.scale;
+  data.density = options.density;
+  return Store(options, data, name);
+}
+
+/// Loads a watermark, or says that there is none of that name.
+bool Load(const Options& options, _WatermarkData* data) {
+  if (loadWatermarkData(options.collection(), &options.name, data) == 1) return true;
+  Fail(options.name, "no such watermark", "\"zarvo watermark list\" shows them");
+  return false;
+}
+
+int Remove(const Options& options) {
+  _WatermarkData data{};
+  std::vector<std::string> names = Names(options);
+  if (!MayBeNamed(options, options.name)) return kExitFailure;
+  // A name whose entry is gone can still be taken off the list.
+  if (std::find(names.begin(), names.end(), options.name) == names.end() && !Load(options, &data))
+    return kExitFailure;
+  const bool stored = loadWatermarkData(options.collection(), &options.name, &data) == 1;
+  std::erase(names, options.name);
+  const Array list(names.begin(), names.end());
+  if ((stored && !removeWatermarkData(options.collection(), options.name)) ||
+      !saveWatermarkList(options.collection(), &list))
+    return CannotWrite(options);
+  const fs::path image = data.filePath;
+  std::error_code error;
+  if (data.filePath[0] != '\0' && image.parent_path() == fs::path(StorePath(options)).parent_path())
+    fs::remove(image, error);
+  return kExitOk;
+}
+
+int Font(const Options& options) {
+  std::string file;
+  if (!ReadInput(options.file, &file)) return kExitFailure;
+  std::string error;
+  const std::optional<Data> font = PrinterFont(file, &error);
+  if (!font) return Fail(options.file, error);
+  const std::string name = options.name.empty() ? FontName(*font) : options.name;
+  if (name.empty()) return Fail(options.file, "tells no name of the font", "Give --name");
+  _WatermarkData data{};
+  if (!MayBeNamed(options, name)) return kExitFailure;
+  if (loadWatermarkData(options.collection(), &name, &data) == 1)
+    return Fail(name, "names a watermark", "Give another --name");
+  // The store takes fonts only once it is there.
+  if (Names(options).empty() && !AddToList(options, kFirstEntry)) return CannotWrite(options);
+  if (!storeFontData(options.collection(), name, *font)) return CannotWrite(options);
+  std::printf("%s\n", PrintableText(name).c_str());
+  return kExitOk;
+}
+
+int Show(const Options& options) {
+  _WatermarkData data{};
+  if (!Load(options, &data)) return kExitFailure;
+  const ScratchFolder scratch;
+  if (!scratch) return Fail("TMPDIR", "no folder for temporary files can be made");
+  Dictionary ticket;
+  ticket.emplace("com.zarvo.print.watermark.Watermark", options.name);
+  const int place = options.place == "background" ? 1 : options.place == "overlay" ? 2 : 3;
+  ticket.emplace("com.zarvo.print.watermark.Option", Number(place));
+  std::string error;
+  const auto flat = FlattenTicket(ticket, &error);
+  if (!flat) return Fail(options.name, error);
+  if (WriteFileAtomically(scratch.File("page.ps"), SamplePage, 0600) != 0)
+    return Fail(scratch.File("page.ps"), std::strerror(errno));
+  unsetenv("PPD");
+  ChildRun filter;
+  filter.arguments = {FilterPath(),           "1", "zarvo", "watermark", "1", OptionText(*flat),
+                      scratch.File("page.ps")};
+  filter.output = scratch.File("job.prn");
+  std::string log;
+  if (!RunChild(filter, &log)) return Fail(filter.arguments[0], ErrorLines(log));
+  if (const std::string lost = Complaints(log); !lost.empty()) return Fail(options.name, lost);
+  JobFile job;
+  std::string failure = TakePostScript(scratch.File("job.prn"), scratch.File("job.ps"), &job);
+  if (failure.empty())
+    failure = Render(scratch.File("job.ps"), "png16m", 72, scratch.File("page-%d.png"));
+  if (!failure.empty()) return Fail(options.name, failure);
+  const std::string target = options.output.empty() ? options.name + ".png" : options.output;
+  return Deliver(scratch.File("page-1.png"), target);
+}
+
+CLI::App* AddCommand(CLI::App& app, const char* name, const char* summary, Action* action,
+                     const std::shared_ptr<Options>& options, int (*run)(const Options&)) {
+  CLI::App* command = app.add_subcommand(name, summary);
+  command->add_flag("--fax", options->fax, "those of fax cover sheets");
+  command->callback([=] { *action = [=] { return run(*options); }; });
+  return command;
+}
+
+}  // namespace
+
+void SetUpWatermark(CLI::App& app, Action* action) {
+  app.require_subcommand(1);
+  const auto options = std::make_shared<Options>();
+  AddCommand(app, "list", "Lists the watermarks", action, options, &List)
+      ->add_flag("--json", options->json, "for programs");
+  CLI::App* show = AddCommand(app, "show", "Draws a watermark on a page", action, options, &Show);
+  show->add_option("name", options->name, "which one")->required();
+  show->add_option("--place", options->place, "background, overlay or foreground")
+      ->check(CLI::IsMember({"background", "overlay", "foreground"}))
+      ->capture_default_str();
+  show->add_option("--output", options->output, "PNG file to write; - for standard output");
+  CLI::App* text =
+      AddCommand(app, "add-text", "Adds or replaces a text", action, options, &AddText);
+  text->add_option("text", options->name, "the text, which is its name too")->required();
+  text->add_option("--font", options->font, "PostScript name of the font")->capture_default_str();
+  text->add_option("--size", options->size, "points")
+      ->check(CLI::Range(1, 2000))
+      ->capture_default_str();
+  text->add_option("--angle", options->angle, "degrees counter-clockwise")
+      ->check(CLI::Range(-360, 360))
+      ->capture_default_str();
+  text->add_option("--color", options->color, "#rrggbb")->capture_default_str();
+  text->add_option("-x", options->x, "where it begins, points from the left; else it is centred");
+  text->add_option("-y", options->y, "where it begins, points from the bottom");
+  CLI::App* image =
+      AddCommand(app, "add-image", "Adds or replaces an image", action, options, &AddImage);
+  image->add_option("file", options->file, "PNG, JPEG, TIFF, GIF or BMP")->required();
+  image->add_option("--name", options->name, "name, when it is not to be the file's");
+  image->add_option("--scale", options->scale, "percent; at 100 a pixel is a point")
+      ->check(CLI::Range(1, 10000))
+      ->capture_default_str();
+  image->add_flag("--in-place", options->in_place,
+                  "leave the file where it is; jobs must be able to read it there");
+  for (CLI::App* command : {text, image})
+    command->add_option("--density", options->density, "percent, on fax cover sheets")
+        ->check(CLI::Range(0, 100))
+        ->capture_default_str();
+  AddCommand(app, "remove", "Removes a watermark", action, options, &Remove)
+      ->add_option("name", options->name, "which one")
+      ->required();
+  CLI::App* font =
+      AddCommand(app, "font", "Stores a font that the printers lack", action, options, &Font);
+  font->add_option("file", options->file, "PostScript font: PFA, PFB or Type 42")->required();
+  font->add_option("--name", options->name, "name, when the file's is not wanted");
+}
+
+}  // namespace zarvo::tool

@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: Apache-2.0
+// The spooler's library calls its PPD functions deprecated; it still ships them, and the PPD is
+// what every queue of these printers has.
+#include "Tools/zarvo/system/Queues.h"
+
+#include <cups/cups.h>
+#include <cups/ppd.h>
+
+#include <fstream>
+
+#pragma GCC diagnostic ignored "-Wdeprecated-declarations"
+
+namespace zarvo::tool {
+
+namespace {
+
+using Connection = std::unique_ptr<http_t, decltype(&httpClose)>;
+
+Connection Connect(std::string* error) {
+  constexpr int kMilliseconds = 10'000;
+  http_t* spooler = httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
+                                 kMilliseconds, nullptr);
+  if (spooler == nullptr)
+    *error =
+        "the spooler does not answer; start it, for example with "
+        "\"systemctl start cups\"";
+  return {spooler, &httpClose};
+}
+
+}  // namespace
+
+QueuePpd::QueuePpd(const std::string& queue, std::string* error) {
+  const Connection spooler = Connect(error);
+  if (!spooler) return;
+  if (const char* path = cupsGetPPD2(spooler.get(), queue.c_str())) {
+    path_ = path;
+  } else {
+    *error = cupsLastErrorString();
+  }
+}
+
+QueuePpd::~QueuePpd() {
+  std::error_code error;
+  if (!path_.empty()) std::filesystem::remove(path_, error);
+}
+
+bool ListQueues(std::vector<std::string>* names, std::string* error) {
+  const Connection spooler = Connect(error);
+  if (!spooler) return false;
+  cups_dest_t* destinations = nullptr;
+  const int count = cupsGetDests2(spooler.get(), &destinations);
+  for (int i = 0; i < count; ++i) {
+    if (destinations[i].instance == nullptr) names->emplace_back(destinations[i].name);
+  }
+  cupsFreeDests(count, destinations);
+  return true;
+}
+
+std::string PpdFault(const std::string& path) {
+  const std::unique_ptr<ppd_file_t, decltype(&ppdClose)> ppd(ppdOpenFile(path.c_str()), &ppdClose);
+  if (ppd != nullptr) return "";
+  int line = 0;
+  const ppd_status_t status = ppdLastError(&line);
+  return "line " + std::to_string(line) + ": " + ppdErrorString(status);
+}
+
+bool UsesOurFilter(const std::string& path) {
+  std::ifstream file(path);
+  for (std::string line; std::getline(file, line);) {
+    if (line.starts_with("*cupsFilter") && line.find("zarvofilter") != std::string::npos)
+      return true;
+  }
+  return false;
+}
+
+}  // namespace zarvo::tool

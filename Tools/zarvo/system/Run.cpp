@@ -1,0 +1,203 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Tools/zarvo/system/Run.h"
+
+#include <fcntl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <memory>
+#include <sstream>
+
+#include "CUPSFilter/FaxCover/PdfToPostScript.h"
+#include "Platform/Process.h"
+#include "Platform/UniqueFd.h"
+#include "Tools/zarvo/Command.h"
+
+namespace zarvo::tool {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::size_t kMaxLog = 1 << 20;
+
+struct StreamCloser {
+  void operator()(std::FILE* stream) const { std::fclose(stream); }
+};
+using Stream = std::unique_ptr<std::FILE, StreamCloser>;
+
+/// Copies all of `input`. False when either side fails.
+bool CopyAll(std::FILE* input, std::FILE* output) {
+  char block[65536];
+  while (const std::size_t got = std::fread(block, 1, sizeof block, input)) {
+    if (std::fwrite(block, 1, got, output) != got) return false;
+  }
+  return std::ferror(input) == 0 && std::fflush(output) == 0;
+}
+
+std::string ReadLog(int file) {
+  std::string log(kMaxLog, '\0');
+  const ssize_t length = pread(file, log.data(), log.size(), 0);
+  log.resize(length > 0 ? static_cast<std::size_t>(length) : 0);
+  return log;
+}
+
+}  // namespace
+
+ScratchFolder::ScratchFolder() {
+  std::error_code error;
+  std::string name = fs::temp_directory_path(error) / "zarvo-XXXXXX";
+  NoteTermination();  // so that the folder goes when the user has had enough
+  if (!error && mkdtemp(name.data()) != nullptr) path_ = name;
+  // What a program leaves behind when it is ended goes with the folder.
+  if (!path_.empty()) setenv("TMPDIR", path_.c_str(), 1);
+}
+
+ScratchFolder::~ScratchFolder() {
+  std::error_code error;
+  if (path_.empty()) return;
+  setenv("TMPDIR", path_.parent_path().c_str(), 1);
+  fs::remove_all(path_, error);
+}
+
+bool RunChild(const ChildRun& run, std::string* log) {
+  if (NotedTermination() != 0) return false;
+  UniqueFd input;
+  if (!run.input.empty()) {
+    input = UniqueFd(open(run.input.c_str(), O_RDONLY | O_CLOEXEC));
+    if (!input) {
+      *log = run.input + ": " + std::strerror(errno);
+      return false;
+    }
+  }
+  const UniqueFd errors = OpenMemoryFile("");
+  ProcessOptions options;
+  options.arguments = run.arguments;
+  options.input_fd = input.get();
+  options.error_fd = errors.get();
+  options.wall_clock = run.limit;
+  std::optional<Process> process = Process::Start(options);
+  if (!process) {
+    *log = run.arguments[0] + ": cannot be started: " + std::strerror(errno);
+    return false;
+  }
+  const Stream output(std::fopen(run.output.empty() ? "/dev/null" : run.output.c_str(), "wbe"));
+  bool copied = false;
+  std::string said;
+  if (run.output.empty()) {
+    for (int c; (c = std::getc(process->output())) != EOF;) {
+      if (said.size() < kMaxLog) said += static_cast<char>(c);
+    }
+    copied = std::ferror(process->output()) == 0;
+  } else if (output) {
+    copied = CopyAll(process->output(), output.get());
+  }
+  const int error = errno;
+  const int status = process->Wait();
+  *log = ReadLog(errors.get()) + said;
+  if (!copied) *log += "\nERROR: " + run.output + ": " + std::strerror(error);
+  return copied && WIFEXITED(status) && WEXITSTATUS(status) == 0;
+}
+
+std::string FindProgram(const std::string& name) {
+  const char* path = std::getenv("PATH");
+  std::istringstream folders(path != nullptr ? path : "");
+  // The administrator's programs are not in everybody's path.
+  for (std::string folder; std::getline(folders, folder, ':');) {
+    const std::string program = folder + "/" + name;
+    if (access(program.c_str(), X_OK) == 0) return program;
+  }
+  const std::string program = "/usr/sbin/" + name;
+  return access(program.c_str(), X_OK) == 0 ? program : "";
+}
+
+std::string FilterPath() {
+  constexpr const char* kName = "zarvofilter";
+  std::error_code error;
+  const fs::path tool = fs::read_symlink("/proc/self/exe", error);
+  if (!error && access((tool.parent_path() / kName).c_str(), X_OK) == 0)
+    return tool.parent_path() / kName;
+  return PdfConverters::DefaultFilterFolder() + "/" + kName;
+}
+
+std::string ErrorLines(const std::string& log) {
+  std::string errors;
+  std::string last;
+  std::istringstream lines(log);
+  for (std::string line; std::getline(lines, line);) {
+    constexpr std::string_view kPrefix = "ERROR: ";
+    if (line.starts_with("DEBUG") || line.empty()) continue;
+    last = line;
+    if (line.starts_with(kPrefix))
+      errors += (errors.empty() ? "" : "; ") + line.substr(kPrefix.size());
+  }
+  return errors.empty() ? last : errors;
+}
+
+std::string Complaints(const std::string& log) {
+  std::string complaints;
+  std::istringstream lines(log);
+  for (std::string line; std::getline(lines, line);) {
+    for (const std::string_view prefix : {"ERROR: ", "INFO: "}) {
+      if (line.starts_with(prefix))
+        complaints += (complaints.empty() ? "" : "; ") + line.substr(prefix.size());
+    }
+  }
+  return complaints;
+}
+
+std::string Render(const std::string& input, const std::string& device, int resolution,
+                   const std::string& output) {
+  const std::string program = FindProgram("gs");
+  if (program.empty()) return "Ghostscript is not installed; install the package ghostscript";
+  ChildRun run;
+  run.arguments = {program,
+                   "-q",
+                   "-dBATCH",
+                   "-dNOPAUSE",
+                   "-dSAFER",
+                   "-dAutoRotatePages=/None",
+                   "-sDEVICE=" + device,
+                   "-sOutputFile=" + output};
+  if (device != "pdfwrite") {
+    // Drawn finer than asked for and averaged: a see-through watermark is a pattern of dots, which
+    // a coarse raster would lose.
+    const int finer = resolution <= 300 ? 3 : 1;
+    run.arguments.insert(run.arguments.end(), {"-r" + std::to_string(resolution * finer),
+                                               "-dDownScaleFactor=" + std::to_string(finer)});
+  }
+  run.arguments.push_back(input);
+  // What the document prints may hold anything; only what the interpreter says counts.
+  std::string log;
+  if (RunChild(run, &log)) return "";
+  const std::size_t error = log.find("Error: ");
+  const std::size_t end = log.find('\n', error);
+  return "Ghostscript cannot draw the job: " +
+         (error == std::string::npos ? ErrorLines(log) : log.substr(error, end - error));
+}
+
+std::string TakePostScript(const std::string& job, const std::string& postscript, JobFile* facts) {
+  const Stream input(std::fopen(job.c_str(), "rbe"));
+  const Stream output(std::fopen(postscript.c_str(), "wbe"));
+  if (!input || !output) return std::strerror(errno);
+  *facts = ReadJobFile(input.get(), output.get());
+  if (std::ferror(input.get()) != 0 || std::fflush(output.get()) != 0 ||
+      std::ferror(output.get()) != 0)
+    return std::strerror(errno);
+  return facts->postscript.bytes == 0 ? "the job holds no PostScript" : "";
+}
+
+int Deliver(const std::string& file, const std::string& target) {
+  const Stream input(std::fopen(file.c_str(), "rbe"));
+  if (!input) return Fail(file, std::strerror(errno));
+  if (target == "-")
+    return CopyAll(input.get(), stdout) ? kExitOk : Fail("(stdout)", std::strerror(errno));
+  const Stream output(std::fopen(target.c_str(), "wbe"));
+  if (!output || !CopyAll(input.get(), output.get())) return Fail(target, std::strerror(errno));
+  return kExitOk;
+}
+
+}  // namespace zarvo::tool

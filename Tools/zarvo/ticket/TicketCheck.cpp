@@ -1,0 +1,243 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Tools/zarvo/ticket/TicketCheck.h"
+
+#include <algorithm>
+#include <cctype>
+#include <numeric>
+
+#include "Source/CFAdditions.h"
+#include "Source/FaxKeys.h"
+#include "Source/Mappings.h"
+#include "Tools/zarvo/ticket/TicketKeys.h"
+
+namespace zarvo::tool {
+namespace {
+
+using Keys = std::span<const TicketKey>;
+
+constexpr std::string_view kOurKeys = "com.zarvo.";
+
+std::string Lower(std::string_view text) {
+  std::string lower(text);
+  std::transform(lower.begin(), lower.end(), lower.begin(),
+                 [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+  return lower;
+}
+
+/// Changed, added or left-out letters that turn one text into the other.
+std::size_t EditDistance(const std::string& left, const std::string& right) {
+  std::vector<std::size_t> row(right.size() + 1);
+  std::iota(row.begin(), row.end(), 0U);
+  for (std::size_t i = 0; i < left.size(); ++i) {
+    std::size_t diagonal = row[0]++;
+    for (std::size_t j = 0; j < right.size(); ++j) {
+      const std::size_t changed = diagonal + (left[i] == right[j] ? 0 : 1);
+      diagonal = row[j + 1];
+      row[j + 1] = std::min({changed, row[j] + 1, row[j + 1] + 1});
+    }
+  }
+  return row.back();
+}
+
+const char* TypeName(KeyType type) {
+  switch (type) {
+    case KeyType::kText:
+      return "a text";
+    case KeyType::kNumber:
+      return "a whole number";
+    case KeyType::kBoolean:
+      return "true or false";
+    case KeyType::kDate:
+      return "a date such as \"2026-12-31T18:30\"";
+    case KeyType::kDictionary:
+      return "a group of keys";
+    case KeyType::kList:
+      return "a list of groups";
+    case KeyType::kAny:
+      break;
+  }
+  return "anything";
+}
+
+bool HasType(const Value& value, KeyType type) {
+  switch (type) {
+    case KeyType::kText:
+      return value.AsString() != nullptr;
+    case KeyType::kNumber:
+    case KeyType::kDate:
+      return value.AsNumber() != nullptr;
+    case KeyType::kBoolean:
+      return value.AsBoolean() != nullptr;
+    case KeyType::kDictionary:
+      return value.AsDictionary() != nullptr;
+    case KeyType::kList:
+      return value.AsArray() != nullptr;
+    case KeyType::kAny:
+      break;
+  }
+  return true;
+}
+
+std::string WordList(const TicketKey& key) {
+  std::string list;
+  for (const CodeWord& word : key.words)
+    list += (list.empty() ? "" : ", ") + std::to_string(word.code) + " " + word.word;
+  return list;
+}
+
+/// The key without what can be left out at the top of a readable ticket.
+std::string ShortName(const TicketKey& key) {
+  constexpr std::string_view kPrefix = "com.zarvo.print.";
+  std::string_view name = key.name;
+  if (name.starts_with(kPrefix)) name.remove_prefix(kPrefix.size());
+  return std::string(name);
+}
+
+class Checker {
+ public:
+  void Group(const std::string& path, const Dictionary& group, Keys keys) {
+    for (const auto& [name, value] : group) {
+      const std::string place = path.empty() ? name : path + "/" + name;
+      if (const TicketKey* key = FindKey(keys, name)) {
+        Known(place, value, *key);
+      } else {
+        Unknown(place, name, value, keys, path.empty());
+      }
+    }
+  }
+
+  void Add(const std::string& place, const std::string& text) { findings.push_back({place, text}); }
+
+  std::vector<TicketFinding> findings;
+
+ private:
+  /// Whether a text under this name must have been meant for the key. The options of the PPD and
+  /// the spooler differ from all keys in more letters, or in letter case only.
+  static bool IsMisspelt(const std::string& name, const std::string& key) {
+    if (key.empty()) return false;
+    const std::size_t letters = EditDistance(Lower(name), Lower(key));
+    return letters == 1 || letters == 2;
+  }
+
+  void Unknown(const std::string& place, const std::string& name, const Value& value, Keys keys,
+               bool top) {
+    // Everything that is not ours is the spooler's or the driver's business; but those are texts.
+    const bool ours = !top || name.starts_with(kOurKeys);
+    std::vector<std::string> candidates;
+    for (const TicketKey& key : keys) candidates.push_back(ours ? key.name : ShortName(key));
+    const std::string nearest = NearestName(name, candidates);
+    if (!ours && value.AsString() != nullptr && !IsMisspelt(name, nearest)) return;
+    Add(place, nearest.empty() ? "unknown key" : "unknown key; did you mean " + nearest + "?");
+  }
+
+  void Known(const std::string& place, const Value& value, const TicketKey& key) {
+    if (!HasType(value, key.type)) return WrongType(place, value, key);
+    if (key.type == KeyType::kNumber) return Range(place, *value.AsNumber(), key);
+    if (const Dictionary* group = value.AsDictionary()) return Group(place, *group, key.members);
+    if (key.type != KeyType::kList) return;
+    std::size_t position = 0;
+    for (const Value& element : *value.AsArray()) {
+      const std::string inner = place + "/" + std::to_string(position++);
+      if (const Dictionary* group = element.AsDictionary()) {
+        Group(inner, *group, key.members);
+      } else {
+        Add(inner, "takes a group of keys");
+      }
+    }
+  }
+
+  void WrongType(const std::string& place, const Value& value, const TicketKey& key) {
+    std::string text = std::string("takes ") + TypeName(key.type);
+    const std::string* word = value.AsString();
+    if (word != nullptr && !key.words.empty()) {
+      std::vector<std::string> words;
+      for (const CodeWord& row : key.words) words.emplace_back(row.word);
+      const std::string nearest = NearestName(*word, words);
+      text += nearest.empty() ? ": " + WordList(key) : "; did you mean \"" + nearest + "\"?";
+    }
+    Add(place, text);
+  }
+
+  void Range(const std::string& place, const Number& number, const TicketKey& key) {
+    std::int64_t code = 0;
+    const bool whole = !number.IsReal() && number.Get(&code);
+    if (whole && code >= key.low && code <= key.high) return;
+    std::string text = whole ? std::to_string(code) + " is out of range" : "is no whole number";
+    text += "; it takes " + std::to_string(key.low) + " to " + std::to_string(key.high);
+    if (!key.words.empty()) text += " (" + WordList(key) + ")";
+    Add(place, text);
+  }
+};
+
+bool HasNumber(const Dictionary& group, std::string_view key, std::int64_t wanted) {
+  std::int64_t number = 0;
+  return CFDictionaryGetNumber(group, key, &number) && number == wanted;
+}
+
+/// Settings that do nothing by themselves.
+void CheckSense(const Dictionary& ticket, Checker* checker) {
+  constexpr const char* kSections = "com.zarvo.print.JTMLOptions";
+  const Dictionary* sections = DictionaryGetDictionary(ticket, kSections);
+  if (sections == nullptr && !HasNumber(ticket, "com.zarvo.print.EmitJTML", 0)) {
+    for (const TicketKey& key : TopLevelKeys()) {
+      if (key.xml_only && DictionaryContains(ticket, key.name))
+        checker->Add(key.name, std::string("has no effect without ") + kSections +
+                                   "; add {\"JTMLOptionAll\": true} there");
+    }
+  }
+  constexpr const char* kJob = "com.zarvo.print.JobType";
+  constexpr int kFax = 5;
+  constexpr int kSecure = 6;
+  constexpr int kDelayed = 7;
+  if (const Dictionary* job = DictionaryGetDictionary(ticket, kJob)) {
+    const std::string place = kJob;
+    if (HasNumber(*job, "JobType", kSecure) &&
+        DictionaryGetString(*job, "SecurePrintPassword") == nullptr)
+      checker->Add(place, "a secure job needs a SecurePrintPassword");
+    if (HasNumber(*job, "JobType", kDelayed) && !DictionaryContains(*job, "DelayedPrintTime"))
+      checker->Add(place, "a delayed job needs a DelayedPrintTime");
+    if (HasNumber(*job, "JobType", kFax) &&
+        (!DictionaryContains(ticket, kFaxOptionsTicketKey) ||
+         !DictionaryContains(ticket, kFaxRecipientListTicketKey)))
+      checker->Add(place,
+                   "a fax needs com.zarvo.print.FaxOptions and "
+                   "com.zarvo.print.FaxRecipientList");
+  }
+  const Dictionary* stock = DictionaryGetDictionary(ticket, "com.zarvo.print.JobLevelStock");
+  std::int32_t size = 0;
+  std::int32_t width = 0;
+  std::int32_t length = 0;
+  if (stock != nullptr && CFDictionaryGetNumber(*stock, "Size", &size) &&
+      !GetStockDimensionsForSize(size, &width, &length) && !DictionaryContains(*stock, "Width"))
+    checker->Add("com.zarvo.print.JobLevelStock/Size",
+                 "no stock has the code " + std::to_string(size) +
+                     "; take a known one, or give Width and Length");
+}
+
+}  // namespace
+
+std::string NearestName(const std::string& name, const std::vector<std::string>& candidates) {
+  constexpr std::size_t kLongestName = 200;  // the work grows with the square of the length
+  if (name.size() > kLongestName) return "";
+  const std::string wanted = Lower(name);
+  std::string nearest;
+  // The prefix that most keys share says nothing about which one was meant.
+  const std::size_t shared = wanted.rfind('.') == std::string::npos ? 0 : wanted.rfind('.');
+  std::size_t least = std::max<std::size_t>((wanted.size() - shared) / 3, 1) + 1;
+  for (const std::string& candidate : candidates) {
+    const std::size_t distance = EditDistance(wanted, Lower(candidate));
+    if (distance >= least) continue;
+    least = distance;
+    nearest = candidate;
+  }
+  return nearest;
+}
+
+std::vector<TicketFinding> CheckTicket(const Dictionary& ticket) {
+  Checker checker;
+  checker.Group("", ticket, TopLevelKeys());
+  CheckSense(ticket, &checker);
+  return std::move(checker.findings);
+}
+
+}  // namespace zarvo::tool
