@@ -3,11 +3,11 @@
 
 #include <algorithm>
 #include <cctype>
-#include <numeric>
 
 #include "Source/CFAdditions.h"
 #include "Source/FaxKeys.h"
 #include "Source/Mappings.h"
+#include "Source/NearestName.h"
 #include "Tools/zarvo/ticket/TicketKeys.h"
 
 namespace zarvo::tool {
@@ -22,21 +22,6 @@ std::string Lower(std::string_view text) {
   std::transform(lower.begin(), lower.end(), lower.begin(),
                  [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
   return lower;
-}
-
-/// Changed, added or left-out letters that turn one text into the other.
-std::size_t EditDistance(const std::string& left, const std::string& right) {
-  std::vector<std::size_t> row(right.size() + 1);
-  std::iota(row.begin(), row.end(), 0U);
-  for (std::size_t i = 0; i < left.size(); ++i) {
-    std::size_t diagonal = row[0]++;
-    for (std::size_t j = 0; j < right.size(); ++j) {
-      const std::size_t changed = diagonal + (left[i] == right[j] ? 0 : 1);
-      diagonal = row[j + 1];
-      row[j + 1] = std::min({changed, row[j] + 1, row[j + 1] + 1});
-    }
-  }
-  return row.back();
 }
 
 const char* TypeName(KeyType type) {
@@ -215,23 +200,6 @@ void CheckSense(const Dictionary& ticket, Checker* checker) {
 }
 
 }  // namespace
-
-std::string NearestName(const std::string& name, const std::vector<std::string>& candidates) {
-  constexpr std::size_t kLongestName = 200;  // the work grows with the square of the length
-  if (name.size() > kLongestName) return "";
-  const std::string wanted = Lower(name);
-  std::string nearest;
-  // The prefix that most keys share says nothing about which one was meant.
-  const std::size_t shared = wanted.rfind('.') == std::string::npos ? 0 : wanted.rfind('.');
-  std::size_t least = std::max<std::size_t>((wanted.size() - shared) / 3, 1) + 1;
-  for (const std::string& candidate : candidates) {
-    const std::size_t distance = EditDistance(wanted, Lower(candidate));
-    if (distance >= least) continue;
-    least = distance;
-    nearest = candidate;
-  }
-  return nearest;
-}
 
 std::vector<TicketFinding> CheckTicket(const Dictionary& ticket) {
   Checker checker;

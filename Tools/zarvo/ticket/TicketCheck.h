@@ -18,8 +18,4 @@ struct TicketFinding {
 /// effect without another one. No text of a secret is in the findings.
 std::vector<TicketFinding> CheckTicket(const Dictionary& ticket);
 
-/// The candidate most like `name`, or an empty text when none is near (case aside, a third of its
-/// letters may differ).
-std::string NearestName(const std::string& name, const std::vector<std::string>& candidates);
-
 }  // namespace zarvo::tool
