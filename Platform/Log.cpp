@@ -2,10 +2,13 @@
 #include "Platform/Log.h"
 
 #include <unistd.h>
+#include <utf8proc.h>
 
 #include <cerrno>
 #include <cstdarg>
 #include <cstdio>
+
+#include "Platform/Text.h"
 
 namespace zarvo {
 
@@ -21,17 +24,42 @@ void WriteOut(std::string_view text) {
   }
 }
 
+/// What moves the cursor, ends a line, or makes the rest of it read in another order.
+bool IsControl(utf8proc_int32_t character) {
+  return character < 0x20 || (character >= 0x7F && character < 0xA0) ||        // C0, DEL, C1
+         character == 0x061C || character == 0x200E || character == 0x200F ||  // marks
+         (character >= 0x2028 && character <= 0x202E) ||  // line ends; embeddings, overrides
+         (character >= 0x2066 && character <= 0x2069);    // isolates
+}
+
+std::string OneLine(std::string_view text) {
+  std::string line = PrintableText(text);
+  if (line.size() > kLongestLogLine) {
+    constexpr std::string_view kCut = "...";
+    line.resize(Utf8Prefix(line, kLongestLogLine - kCut.size()).size());
+    line += kCut;
+  }
+  return line + '\n';
+}
+
 }  // namespace
 
 std::string PrintableText(std::string_view text) {
-  std::string result(text);
-  char* before = nullptr;
-  for (char& c : result) {
-    const auto byte = static_cast<unsigned char>(c);
-    if (byte < 32 || byte == 127) c = '?';
-    // U+0080 to U+009F in UTF-8; U+009B steers a terminal as ESC and "[" do.
-    if (byte >= 0x80 && byte < 0xA0 && before != nullptr && *before == '\xC2') *before = c = '?';
-    before = &c;
+  std::string result;
+  result.reserve(text.size());
+  while (!text.empty()) {
+    utf8proc_int32_t character = 0;
+    const auto length = utf8proc_iterate(reinterpret_cast<const utf8proc_uint8_t*>(text.data()),
+                                         static_cast<utf8proc_ssize_t>(text.size()), &character);
+    // A byte that is no UTF-8 is taken for a character of its own, as many terminals do.
+    const auto bytes = static_cast<std::size_t>(length > 0 ? length : 1);
+    if (length <= 0) character = static_cast<unsigned char>(text.front());
+    if (IsControl(character)) {
+      result.append(bytes, '?');
+    } else {
+      result += text.substr(0, bytes);
+    }
+    text.remove_prefix(bytes);
   }
   return result;
 }
@@ -47,12 +75,12 @@ void LogLine(const char* format, ...) {
   if (length > 0) std::vsnprintf(text.data(), text.size() + 1, format, again);
   va_end(again);
 
-  WriteOut(PrintableText(text) + '\n');
+  WriteOut(OneLine(text));
 }
 
 void LogLines(std::initializer_list<std::string_view> lines) {
   std::string text;
-  for (const std::string_view line : lines) text += PrintableText(line) + '\n';
+  for (const std::string_view line : lines) text += OneLine(line);
   WriteOut(text);
 }
 

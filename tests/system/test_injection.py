@@ -95,6 +95,7 @@ def hostile_texts():
         "overlong": b"\xc0\x8a\xe0\x80\x8a",
         "surrogate": b"\xed\xa0\x80",
         "long": b"x" * 500,
+        "direction": b"a\xe2\x80\xaeb\xd8\x9cc\xe2\x81\xa6d",
     }.items()
 
 
@@ -212,7 +213,10 @@ class Injection(unittest.TestCase):
                 self.assertEqual(split(self.run_filter(text, options, COVER_TEXTS)), plain)
 
     def test_names_and_file_names_start_no_log_line(self):
-        for what, text in hostile_texts():
+        # The spooler's buffer holds 2047 bytes; what is beyond them begins a line of its own.
+        beyond = [(f"beyond {size}", b"\xc3\xa9" * ((size - 30) // 2) + b"PPD: DefaultPageSize=A5 " * 90)
+                  for size in (1000, 1001, 2000, 2001)]  # fmt: skip
+        for what, text in [*hostile_texts(), *beyond]:
             name = re.sub(rb"[\s=]", b".", text)
             options = b"com.zarvo.print." + name + b"..n=-1 com.zarvo.print.Gutter..n=-5"
             options += b" com.zarvo.print.BookletLayout..b=true"
@@ -225,6 +229,10 @@ class Injection(unittest.TestCase):
                 self.assertEqual(done.returncode, 1)
                 for line in done.stderr.splitlines():
                     self.assertRegex(line, b"^(ERROR|DEBUG): ")
+                    self.assertLess(len(line), 1024)
+                    self.assertNotRegex(line, b"\xc2[\x80-\x9f]|\xe2\x80[\xa8-\xae]|\xe2\x81\xa6|\xd8\x9c")
+                    if what.startswith("beyond"):
+                        line.decode()
 
 
 if __name__ == "__main__":
