@@ -5,17 +5,10 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <cstdlib>
+
+#include "Platform/ScratchFolder.h"
 
 namespace zarvo {
-namespace {
-
-std::string TemporaryFolder() {
-  const char* folder = std::getenv("TMPDIR");
-  return folder != nullptr && *folder != '\0' ? folder : "/tmp";
-}
-
-}  // namespace
 
 std::unique_ptr<SpoolFile> SpoolFile::Create() {
   const std::string folder = TemporaryFolder();

@@ -13,10 +13,12 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <atomic>
 #include <cerrno>
 #include <charconv>
 #include <cstdlib>
+#include <new>
 #include <thread>
 
 namespace zarvo {
@@ -27,23 +29,30 @@ using Clock = std::chrono::steady_clock;
 // The signals by which a program is asked to end.
 constexpr int kTerminating[] = {SIGTERM, SIGINT, SIGHUP};
 
-/// The groups of the running children, for the signal handler; 0 in free places. A job never has
-/// more than two children at a time.
-std::atomic<pid_t> running_groups[8];
+using RunningGroups = std::array<std::atomic<pid_t>, 8>;
 static_assert(std::atomic<pid_t>::is_always_lock_free);
 
-void ReplaceGroup(pid_t old_group, pid_t group) {
-  for (std::atomic<pid_t>& place : running_groups)
-    if (place.compare_exchange_strong(old_group, group)) return;
+/// The groups of the running children, for signal handlers and forked keepers; 0 in free places. A
+/// job never has more than a few children at a time.
+RunningGroups& Groups() {
+  static RunningGroups own;
+  static RunningGroups* const groups = [] {
+    void* shared = ::mmap(nullptr, sizeof(RunningGroups), PROT_READ | PROT_WRITE,
+                          MAP_SHARED | MAP_ANONYMOUS, -1, 0);
+    return shared != MAP_FAILED ? new (shared) RunningGroups() : &own;
+  }();
+  return *groups;
 }
 
-void KillGroups() {
-  for (const std::atomic<pid_t>& place : running_groups)
-    if (const pid_t group = place.load(); group != 0) ::kill(-group, SIGKILL);
+void ReplaceGroup(pid_t old_group, pid_t group) {
+  for (std::atomic<pid_t>& place : Groups()) {
+    pid_t expected = old_group;
+    if (place.compare_exchange_strong(expected, group)) return;
+  }
 }
 
 void KillGroupsAndDie(int signal) {
-  KillGroups();
+  KillRunningChildren();
   ::raise(signal);  // its disposition is the default again
 }
 
@@ -51,10 +60,11 @@ std::atomic<int> noted_signal;
 
 void KillGroupsAndNote(int signal) {
   noted_signal = signal;
-  KillGroups();
+  KillRunningChildren();
 }
 
 void HandleTermination(void (*handler)(int)) {
+  Groups();  // makes them: no handler may be the first to
   struct sigaction action {};
   action.sa_handler = handler;
   action.sa_flags = static_cast<int>(SA_RESETHAND);
@@ -93,8 +103,8 @@ void ApplyLimits(const ProcessOptions& options) {
 }
 
 /// The child's side between fork and exec. Writes the error number to `report` when it fails.
-[[noreturn]] void RunChild(const ProcessOptions& options, char* const* argv, int input, int output,
-                           int report, pid_t parent) {
+[[noreturn]] void RunChild(const ProcessOptions& options, char* const* argv, char* const* envp,
+                           int input, int output, int report, pid_t parent) {
   ::prctl(PR_SET_PDEATHSIG, SIGKILL);
   if (::getppid() != parent) ::_exit(127);  // it died before the line above
   ::setpgid(0, 0);
@@ -106,11 +116,19 @@ void ApplyLimits(const ProcessOptions& options) {
   if (::dup2(input, STDIN_FILENO) >= 0 && ::dup2(output, STDOUT_FILENO) >= 0 &&
       (options.error_fd < 0 || ::dup2(options.error_fd, STDERR_FILENO) >= 0)) {
     ::close_range(STDERR_FILENO + 1, ~0U, CLOSE_RANGE_CLOEXEC);
-    ::execv(argv[0], argv);
+    ::execve(argv[0], argv, envp);
   }
   const int error = errno;
   [[maybe_unused]] const ssize_t written = ::write(report, &error, sizeof error);
   ::_exit(127);
+}
+
+/// The texts as exec takes them; they stay the caller's.
+std::vector<char*> Pointers(const std::vector<std::string>& texts) {
+  std::vector<char*> pointers;
+  for (const std::string& text : texts) pointers.push_back(const_cast<char*>(text.c_str()));
+  pointers.push_back(nullptr);
+  return pointers;
 }
 
 /// A duplicate that is none of the three standard descriptors, which the child overwrites.
@@ -209,10 +227,9 @@ void Process::Reaper::operator()(Child* child) const {
 }
 
 std::optional<Process> Process::Start(const ProcessOptions& options) {
-  std::vector<char*> argv;
-  for (const std::string& argument : options.arguments)
-    argv.push_back(const_cast<char*>(argument.c_str()));
-  argv.push_back(nullptr);
+  const std::vector<char*> argv = Pointers(options.arguments);
+  const std::vector<char*> envp =
+      options.environment ? Pointers(*options.environment) : std::vector<char*>();
 
   UniqueFd nothing;
   if (options.input_fd < 0) nothing.reset(::open("/dev/null", O_RDONLY | O_CLOEXEC));
@@ -229,7 +246,8 @@ std::optional<Process> Process::Start(const ProcessOptions& options) {
   const pid_t pid = ::fork();
   if (pid < 0) return std::nullopt;
   if (pid == 0)
-    RunChild(options, argv.data(), input.get(), output_writing.get(), report_writing.get(), parent);
+    RunChild(options, argv.data(), options.environment ? envp.data() : environ, input.get(),
+             output_writing.get(), report_writing.get(), parent);
 
   ::setpgid(pid, pid);  // the child does the same; whoever comes first
   ReplaceGroup(0, pid);
@@ -292,6 +310,11 @@ std::chrono::milliseconds ProcessTimeLimit(std::chrono::seconds usual) {
 void EndChildrenOnTermination() { HandleTermination(&KillGroupsAndDie); }
 
 void NoteTermination() { HandleTermination(&KillGroupsAndNote); }
+
+void KillRunningChildren() {
+  for (const std::atomic<pid_t>& place : Groups())
+    if (const pid_t group = place.load(); group != 0) ::kill(-group, SIGKILL);
+}
 
 int NotedTermination() { return noted_signal; }
 

@@ -18,6 +18,8 @@ namespace zarvo {
 struct ProcessOptions {
   /// The program's path (no search takes place) and its arguments.
   std::vector<std::string> arguments;
+  /// The child's environment, each entry NAME=VALUE; nothing gives it this program's.
+  std::optional<std::vector<std::string>> environment;
   /// What the child reads as its standard input; -1 gives it nothing to read. The descriptor
   /// stays the caller's, who may close it once the child is started. To feed a text, pass
   /// OpenMemoryFile's; to chain two children, the first one's TakeOutput.
@@ -77,6 +79,10 @@ void EndChildrenOnTermination();
 /// From now on such a signal ends the running children and is noted; this program goes on, to clear
 /// away what it has made. A second one ends it.
 void NoteTermination();
+
+/// Kills this program's running children with all that they have started. A process that was forked
+/// from this program kills the same ones, those too that were started since.
+void KillRunningChildren();
 
 /// The signal that has been noted, or 0.
 int NotedTermination();

@@ -8,12 +8,14 @@
 #include <csignal>
 #include <cstdlib>
 #include <cstring>
+#include <memory>
 #include <optional>
 #include <string_view>
 #include <utility>
 #include <vector>
 
 #include "CUPSFilter/CopyPass/psgets.h"
+#include "Platform/ScratchFolder.h"
 
 namespace zarvo {
 namespace {
@@ -115,11 +117,16 @@ std::string ConvertPdfToPostScript(int pdf, const PdfConverters& converters, FIL
     return "there is no PDF converter in " + converters.filter_folder +
            "; install the package cups-filters or poppler-utils";
 
+  const std::unique_ptr<ScratchFolder> scratch = ScratchFolder::Create();
+  if (scratch == nullptr)
+    return std::string("no folder for the converters' files: ") + std::strerror(errno) +
+           "; let TMPDIR name a folder that the spooler may write";
   std::vector<Process> running;
   for (const Command& command : commands) {
     const UniqueFd between = running.empty() ? UniqueFd() : running.back().TakeOutput();
     ProcessOptions options;
     options.arguments = command;
+    options.environment = scratch->Environment();
     options.input_fd = running.empty() ? pdf : between.get();
     options.wall_clock = converters.limit;
     std::optional<Process> process = Process::Start(options);

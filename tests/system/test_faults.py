@@ -292,6 +292,24 @@ class Ending(Faults):
             with self.subTest(phase=phase):
                 self.check(process, signal.SIGKILL, 1)
 
+    def test_real_converters_leave_no_file(self):
+        """They are stopped while they have temporary files with the page's content."""
+        for number in (signal.SIGTERM, signal.SIGKILL):
+            for delay in (0, 0.01, 0.02, 0.04):
+                with self.subTest(signal=number, delay=delay):
+                    process = self.start("cover")
+                    while process.poll() is None and not any(f for *_, f in os.walk(self.spool)):
+                        time.sleep(0.001)
+                    self.assertIsNone(process.poll(), "no temporary file was seen")
+                    time.sleep(delay)
+                    process.send_signal(number)
+                    self.assertEqual(self.finish(process)[1], [])
+
+    def test_a_folder_whose_keeper_was_killed_goes_with_the_next_job(self):
+        (self.spool / "zarvo-scratch-abcdef/deep").mkdir(parents=True)
+        (self.spool / "zarvo-scratch-abcdef/deep/page").write_text("secret")
+        self.assertEqual(self.run_to_end("cover")[1:], ([], 0))
+
 
 class Helpers(Faults):
     SCRIPTS = {
