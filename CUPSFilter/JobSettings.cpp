@@ -6,6 +6,7 @@
 #include "CUPSFilter/Options/MediaSize.h"
 #include "CUPSFilter/Options/common.h"
 #include "Source/CFAdditions.h"
+#include "Source/TicketNames.h"
 
 namespace zarvo {
 namespace {
@@ -20,11 +21,9 @@ int HundredthsToPoints(std::uint32_t hundredths) {
 }
 
 void ReadBooklet(const Dictionary& ticket, JobSettings* settings) {
-  settings->booklet = DictionaryGetBoolean(ticket, "com.zarvo.print.BookletLayout") == true;
-  if (!settings->booklet ||
-      DictionaryGetBoolean(ticket, "com.zarvo.print.BookletForceNewSize") != true)
-    return;
-  if (const Dictionary* stock = DictionaryGetDictionary(ticket, "com.zarvo.print.JobLevelStock")) {
+  settings->booklet = DictionaryGetBoolean(ticket, key::kBookletLayout) == true;
+  if (!settings->booklet || DictionaryGetBoolean(ticket, key::kBookletForceNewSize) != true) return;
+  if (const Dictionary* stock = DictionaryGetDictionary(ticket, key::kJobLevelStock)) {
     _MEDIADATA media;
     FillMediaSize(&media, *stock);
     settings->mediaWidth = HundredthsToPoints(media.MediaSize.cx);
@@ -46,22 +45,20 @@ std::optional<WatermarkChoice> ReadWatermark(const Dictionary& ticket) {
   WatermarkChoice choice;
   std::optional<std::string> name;
   std::int32_t first_page_only = 0;
-  if (DictionaryContains(ticket, "com.zarvo.print.watermark.Watermark")) {
-    if (const std::string* chosen =
-            DictionaryGetString(ticket, "com.zarvo.print.watermark.Watermark"))
-      name = *chosen;
-    CFDictionaryGetNumber(ticket, "com.zarvo.print.watermark.Option", &choice.watermark_option);
-    CFDictionaryGetNumber(ticket, "com.zarvo.print.watermark.FirstPageOnly", &first_page_only);
+  if (DictionaryContains(ticket, key::kWatermark)) {
+    if (const std::string* chosen = DictionaryGetString(ticket, key::kWatermark)) name = *chosen;
+    CFDictionaryGetNumber(ticket, key::kWatermarkPlace, &choice.watermark_option);
+    CFDictionaryGetNumber(ticket, key::kWatermarkFirstPageOnly, &first_page_only);
   } else {
     std::int32_t index = 1;  // the list's first entry stands for "none"
-    CFDictionaryGetNumber(ticket, "com.zarvo.WMS.ZRVWM", &index);
+    CFDictionaryGetNumber(ticket, key::kListedWatermark, &index);
     if (index < 2) return std::nullopt;
-    if (DictionaryContains(ticket, "com.zarvo.WMS.ZRVWMFg")) {
+    if (DictionaryContains(ticket, key::kListedWatermarkForeground)) {
       std::int32_t foreground = 0;
-      CFDictionaryGetNumber(ticket, "com.zarvo.WMS.ZRVWMFg", &foreground);
+      CFDictionaryGetNumber(ticket, key::kListedWatermarkForeground, &foreground);
       choice.watermark_option = foreground != 0 ? kWatermarkForeground : kWatermarkBackground;
     }
-    CFDictionaryGetNumber(ticket, "com.zarvo.WMS.ZRVWMFPage", &first_page_only);
+    CFDictionaryGetNumber(ticket, key::kListedWatermarkFirstPage, &first_page_only);
     name = WatermarkAtIndex(index);
   }
   if (!name) return std::nullopt;
@@ -81,13 +78,12 @@ JobSettings ReadJobSettings(const Dictionary& ticket, int num_options, cups_opti
   JobSettings settings;
   settings.mediaWidth = WholePoints(PageWidth);
   settings.mediaLength = WholePoints(PageLength);
-  CFDictionaryGetNumber(ticket, "com.zarvo.print.EmitJTML", &settings.emitJTML);
+  CFDictionaryGetNumber(ticket, key::kEmitJTML, &settings.emitJTML);
   ReadBooklet(ticket, &settings);
   settings.watermark = ReadWatermark(ticket);
-  if (const Dictionary* image =
-          DictionaryGetDictionary(ticket, "com.zarvo.print.InvertImageOptions")) {
-    settings.invertImage = IsOne(*image, "NegativeImage");
-    settings.flipHorizontal = IsOne(*image, "MirrorImage");
+  if (const Dictionary* image = DictionaryGetDictionary(ticket, key::kInvertImageOptions)) {
+    settings.invertImage = IsOne(*image, key::invert::kNegativeImage);
+    settings.flipHorizontal = IsOne(*image, key::invert::kMirrorImage);
   }
   const auto option = [&](const char* name) -> std::optional<std::string> {
     const char* value = cupsGetOption(name, num_options, options);

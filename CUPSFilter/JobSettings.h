@@ -10,16 +10,10 @@
 #include <string>
 
 #include "Platform/Value.h"
+#include "Source/TicketNames.h"
 #include "Source/WatermarkSupport.h"
 
 namespace zarvo {
-
-/// Where on the page a watermark goes, the values of the ticket's "Option".
-enum WatermarkPlacement : std::int32_t {
-  kWatermarkBackground = 1,
-  kWatermarkOverlay = 2,  // drawn last, but so that the page shows through
-  kWatermarkForeground = 3,
-};
 
 /// The job's watermark. It is a text watermark when `data.textString` is not empty.
 struct WatermarkChoice {

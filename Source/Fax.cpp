@@ -6,7 +6,7 @@
 #include <iterator>
 
 #include "Source/CFAdditions.h"
-#include "Source/FaxKeys.h"
+#include "Source/TicketNames.h"
 
 namespace zarvo {
 namespace {

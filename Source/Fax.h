@@ -57,7 +57,7 @@ class FaxRecipient {
   std::int32_t retain() { return ++_retainCount; }
   std::int32_t release() { return --_retainCount; }
 
-  /// One string under each key of FaxKeys.h whose text is present.
+  /// One string under each key of TicketNames.h whose text is present.
   Dictionary toTicket() const;
   /// Takes every text from the dictionary; an absent key, or one that holds no string, clears its
   /// text. A null dictionary changes nothing.

@@ -4,18 +4,13 @@
 #include "Platform/Text.h"
 #include "Source/CFAdditions.h"
 #include "Source/Fax.h"
-#include "Source/FaxKeys.h"
+#include "Source/TicketNames.h"
 
 namespace zarvo {
 namespace {
 
 /// About twice what a sheet full of the narrowest letters holds. Laying text out takes time.
 constexpr std::size_t kMaxTextBytes = 32 * 1024;
-
-constexpr std::int32_t kNoRecipients = 1;
-constexpr std::int32_t kRecipientNames = 2;
-constexpr std::int32_t kCustomRecipients = 3;
-constexpr std::int32_t kLetter = 1;
 
 struct BlockKeys {
   const char* label;
@@ -83,8 +78,8 @@ FaxCoverBlock Block(const Dictionary& options, std::string_view label_key, std::
 }  // namespace
 
 std::optional<FaxCover> FaxCoverFromTicket(const Dictionary& ticket) {
-  const Dictionary* options = DictionaryGetDictionary(ticket, kFaxOptionsTicketKey);
-  const Array* recipients = DictionaryGetArray(ticket, kFaxRecipientListTicketKey);
+  const Dictionary* options = DictionaryGetDictionary(ticket, key::kFaxOptions);
+  const Array* recipients = DictionaryGetArray(ticket, key::kFaxRecipientList);
   if (options == nullptr || recipients == nullptr || !IsTrue(*options, kFaxPrintCoverSheetProperty))
     return std::nullopt;
 
@@ -107,9 +102,9 @@ std::optional<FaxCover> FaxCoverFromTicket(const Dictionary& ticket) {
     if (const std::string* name = DictionaryGetString(*options, kFaxCoverWatermarkNameProperty))
       loadWatermarkData(kFaxImageCollection, name, &cover.watermark);
   }
-  std::int32_t size = kLetter;
+  std::int32_t size = kFaxCoverLetter;
   CFDictionaryGetNumber(*options, kFaxCoverSizeProperty, &size);
-  if (size != kLetter) {
+  if (size != kFaxCoverLetter) {
     cover.width = 595;
     cover.height = 842;
   }

@@ -9,6 +9,7 @@
 #include "CUPSFilter/Booklet/q7bbook32.h"
 #include "Platform/Log.h"
 #include "Source/CFAdditions.h"
+#include "Source/TicketNames.h"
 
 namespace zarvo {
 namespace {
@@ -69,14 +70,12 @@ void ImposeJob(const Dictionary& ticket, const JobSettings& settings, const Spoo
   bv.hPrinter = output.stream();
   bv.pwstrPSFileIn = spool.path().c_str();
   bv.dmDuplex = DuplexCode(settings.sides);
-  bv.bRotBooklet180 =
-      DictionaryGetBoolean(ticket, "com.zarvo.print.RotateBooklet180Degrees") == true;
+  bv.bRotBooklet180 = DictionaryGetBoolean(ticket, key::kRotateBooklet180Degrees) == true;
   std::int32_t outlines = 0;
-  CFDictionaryGetNumber(ticket, "com.zarvo.print.BookletDrawOutlines", &outlines);
+  CFDictionaryGetNumber(ticket, key::kBookletDrawOutlines, &outlines);
   bv.iOutlineStyle = outlines != 0 ? 2 : 0;
   std::int32_t order = 0;
-  constexpr std::int32_t kLeftToRight = 2;
-  if (CFDictionaryGetNumber(ticket, "com.zarvo.print.AdvancedBookletLayoutOrderStr", &order))
+  if (CFDictionaryGetNumber(ticket, key::kBookletReadingOrder, &order))
     bv.bRightToLeft = order != kLeftToRight;
   bv.bForceCollateOn = 1;
   bv.iDestXPoints = settings.mediaWidth;
@@ -85,8 +84,8 @@ void ImposeJob(const Dictionary& ticket, const JobSettings& settings, const Spoo
   bv.iDestYMargPoints = kBookletMargin;
   bv.iPageletsPerPage = 2;
   bv.iMode = 1;
-  bv.iGutterPoints = BookletDistance(ticket, "com.zarvo.print.Gutter", 2 * kBookletMargin);
-  bv.iCreep10thPoints = BookletDistance(ticket, "com.zarvo.print.Creep", 0);
+  bv.iGutterPoints = BookletDistance(ticket, key::kGutter, 2 * kBookletMargin);
+  bv.iCreep10thPoints = BookletDistance(ticket, key::kCreep, 0);
 
   const int pages = xPostProcessAndRespoolJob(&bv);
   // A failed write is told by whoever owns the output, and once is enough.

@@ -17,6 +17,7 @@
 #include "CUPSFilter/Watermark/outputPICT.h"
 #include "Platform/Log.h"
 #include "Source/CFAdditions.h"
+#include "Source/TicketNames.h"
 
 namespace zarvo {
 namespace {
@@ -185,21 +186,18 @@ void CopyRules::CopyPjlHeader(std::string_view line) {
 }
 
 void CopyRules::ReplaceFaxResolution(std::string_view line) {
-  const Dictionary* fax = DictionaryGetDictionary(ticket_, "com.zarvo.print.FaxOptions");
+  const Dictionary* fax = DictionaryGetDictionary(ticket_, key::kFaxOptions);
   if (fax == nullptr) return;  // the line is left out, and so are all later ones like it
 
-  // Resolution codes of the printer's page device: 2 is 600 dpi, 5 is 200 dpi.
-  constexpr std::int32_t k600 = 2;
-  constexpr std::int32_t k200 = 5;
   std::int32_t resolution = 0;
-  if (!CFDictionaryGetNumber(*fax, "NewJobResolution", &resolution)) {
+  if (!CFDictionaryGetNumber(*fax, kFaxNewJobResolutionProperty, &resolution)) {
     std::int32_t fax_resolution = 0;
-    CFDictionaryGetNumber(*fax, "Resolution", &fax_resolution);
-    if (fax_resolution == 1 || fax_resolution == 2) resolution = k200;
-    if (fax_resolution == 3) resolution = k600;
+    CFDictionaryGetNumber(*fax, kFaxResolutionProperty, &fax_resolution);
+    if (fax_resolution == kFaxStandard || fax_resolution == kFaxFine) resolution = kNewJob200Dpi;
+    if (fax_resolution == kFaxSuperfine) resolution = kNewJob600Dpi;
   }
-  if (resolution == k600 || resolution == k200) {
-    const int dpi = resolution == k600 ? 600 : 200;
+  if (resolution == kNewJob600Dpi || resolution == kNewJob200Dpi) {
+    const int dpi = resolution == kNewJob600Dpi ? 600 : 200;
     std::fprintf(
         output_.stream(),
         "(<<) cvx exec /DeviceRenderingInfo (<<) cvx exec /Type 4 /ValuesPerColorComponent "

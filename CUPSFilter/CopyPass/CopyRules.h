@@ -14,6 +14,7 @@
 #include "CUPSFilter/SpoolFile.h"
 #include "CUPSFilter/Watermark/PageHooks.h"
 #include "Platform/Value.h"
+#include "Source/TicketNames.h"
 
 namespace zarvo {
 
@@ -83,7 +84,7 @@ class CopyRules {
   bool begin_setup_found_ = false;
   bool fax_resolution_overridden_ = false;
   bool job_type_match_ = false;
-  int job_type_ = 1;
+  int job_type_ = kJobTypeNormal;
   int page_count_ = 0;  // pages ended so far
 
   // What is made once and written as often as the job asks for it.

@@ -7,21 +7,10 @@
 #include "CUPSFilter/Header/PjlText.h"
 #include "Source/CFAdditions.h"
 #include "Source/Mappings.h"
+#include "Source/TicketNames.h"
 
 namespace zarvo {
 namespace {
-
-// Accounting modes, the values of "com.zarvo.Act.On"; 1 is off.
-constexpr std::int32_t kUserAndOptionalAccount = 2;
-constexpr std::int32_t kUserAndAccount = 3;
-// Account types of the first mode, the values of "com.zarvo.Act.AT"; 1 is none.
-constexpr std::int32_t kGeneralAccount = 2;
-constexpr std::int32_t kGroupAccount = 3;
-
-constexpr std::int32_t kTransparency = 2;  // stock type, the value of a stock's "Type"
-// Values of "com.zarvo.print.SeparatorOption"; anything else is none.
-constexpr std::int32_t kBlankSeparators = 2;
-constexpr std::int32_t kImagedSeparators = 3;
 
 void WriteAccountingValue(FILE* output, const char* tag, const Dictionary& ticket,
                           const char* key) {
@@ -34,56 +23,55 @@ void WriteAccountingValue(FILE* output, const char* tag, const Dictionary& ticke
 
 void WriteAccounting(FILE* output, const Dictionary& ticket) {
   std::int32_t mode = 0;
-  CFDictionaryGetNumber(ticket, "com.zarvo.Act.On", &mode);
+  CFDictionaryGetNumber(ticket, key::kAccounting, &mode);
   if (mode != kUserAndOptionalAccount && mode != kUserAndAccount) return;
-  WriteAccountingValue(output, "ZRV_USERID", ticket, "com.zarvo.Act.UID");
+  WriteAccountingValue(output, "ZRV_USERID", ticket, key::kAccountUser);
   if (mode == kUserAndAccount) {
-    WriteAccountingValue(output, "ZRV_ACCTID", ticket, "com.zarvo.Act.AID");
+    WriteAccountingValue(output, "ZRV_ACCTID", ticket, key::kAccount);
     return;
   }
-  std::int32_t account_type = 1;
-  CFDictionaryGetNumber(ticket, "com.zarvo.Act.AT", &account_type);
+  std::int32_t account_type = kNoAccount;
+  CFDictionaryGetNumber(ticket, key::kAccountType, &account_type);
   if (account_type == kGeneralAccount)
-    WriteAccountingValue(output, "ZRV_GENERALACCT", ticket, "com.zarvo.Act.AID");
+    WriteAccountingValue(output, "ZRV_GENERALACCT", ticket, key::kAccount);
   if (account_type == kGroupAccount)
-    WriteAccountingValue(output, "ZRV_GROUPACCT", ticket, "com.zarvo.Act.AID");
+    WriteAccountingValue(output, "ZRV_GROUPACCT", ticket, key::kAccount);
 }
 
 void WriteCovers(FILE* output, const Dictionary& ticket) {
-  const Dictionary* jtml = DictionaryGetDictionary(ticket, "com.zarvo.print.JTMLOptions");
-  if (jtml != nullptr &&
-      (DictionaryContains(*jtml, "JTMLOptionAll") || DictionaryContains(*jtml, "JTMLOptionCovers")))
+  const Dictionary* jtml = DictionaryGetDictionary(ticket, key::kJTMLOptions);
+  if (jtml != nullptr && (DictionaryContains(*jtml, key::sections::kAll) ||
+                          DictionaryContains(*jtml, key::sections::kCovers)))
     return;
-  const Dictionary* cover =
-      DictionaryGetDictionary(ticket, "com.zarvo.print.SpecialPages.FrontCover");
+  const Dictionary* cover = DictionaryGetDictionary(ticket, key::kFrontCover);
   if (cover == nullptr) return;
-  std::int32_t sides_imaged = 1;
-  CFDictionaryGetNumber(*cover, "SidesImaged", &sides_imaged);
-  if (sides_imaged != 1) return;
+  std::int32_t sides_imaged = kCoverBlank;
+  CFDictionaryGetNumber(*cover, key::special_page::kSidesImaged, &sides_imaged);
+  if (sides_imaged != kCoverBlank) return;
   std::int32_t size = kNotSet;
-  if (const Dictionary* stock = DictionaryGetDictionary(*cover, "Stock"))
-    CFDictionaryGetNumber(*stock, "Size", &size);
+  if (const Dictionary* stock = DictionaryGetDictionary(*cover, key::special_page::kStock))
+    CFDictionaryGetNumber(*stock, key::stock::kSize, &size);
   if (size == kNotSet) return;
 
   std::int32_t width = 0;
   std::int32_t height = 0;
   GetStockDimensionsForSize(size, &width, &height);
-  const bool front_and_back = DictionaryContains(ticket, "com.zarvo.print.SpecialPages.BackCover");
+  const bool front_and_back = DictionaryContains(ticket, key::kBackCover);
   std::fprintf(output, "@PJL COMMENT OID_ATT_%s_PAGE_MEDIA_SIZE \"%ld %ld\";\n",
                front_and_back ? "FIRSTLAST" : "FIRST", width / 100L, height / 100L);
 }
 
 int WriteSeparators(FILE* output, const Dictionary& ticket) {
-  std::int32_t option = 1;
-  std::int32_t color = 1;
+  std::int32_t option = kNoSeparators;
+  std::int32_t color = kWhite;
   std::int32_t type = 0;
-  const Dictionary* stock = DictionaryGetDictionary(ticket, "com.zarvo.print.JobLevelStock");
-  if (!DictionaryContains(ticket, "com.zarvo.print.SeparatorOption") || stock == nullptr) return 0;
-  CFDictionaryGetNumber(*stock, "Type", &type);
-  if (type != kTransparency) return 0;
+  const Dictionary* stock = DictionaryGetDictionary(ticket, key::kJobLevelStock);
+  if (!DictionaryContains(ticket, key::kSeparatorOption) || stock == nullptr) return 0;
+  CFDictionaryGetNumber(*stock, key::stock::kType, &type);
+  if (type != kTransparencyStock) return 0;
 
-  CFDictionaryGetNumber(ticket, "com.zarvo.print.SeparatorOption", &option);
-  CFDictionaryGetNumber(ticket, "com.zarvo.print.SeparatorColor", &color);
+  CFDictionaryGetNumber(ticket, key::kSeparatorOption, &option);
+  CFDictionaryGetNumber(ticket, key::kSeparatorColor, &color);
   if (option != kBlankSeparators && option != kImagedSeparators) {
     std::fputs("@PJL COMMENT OID_ATT_INTERLEAVE OID_VAL_INTERLEAVE_NONE;\n", output);
     return 0;

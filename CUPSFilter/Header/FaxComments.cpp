@@ -9,7 +9,7 @@
 #include "Platform/Text.h"
 #include "Source/CFAdditions.h"
 #include "Source/Fax.h"
-#include "Source/FaxKeys.h"
+#include "Source/TicketNames.h"
 
 namespace zarvo {
 namespace {
@@ -21,13 +21,13 @@ constexpr std::size_t kMaxDialingPrefixBytes = 4;
 int ResolutionCode(const Dictionary& options) {
   std::int32_t resolution = -1;
   CFDictionaryGetNumber(options, kFaxResolutionProperty, &resolution);
-  return resolution == 1 ? 0 : resolution == 3 ? 2 : 1;
+  return resolution == kFaxStandard ? 0 : resolution == kFaxSuperfine ? 2 : 1;
 }
 
 const char* SpeedName(const Dictionary& options) {
   std::int32_t speed = -1;
   CFDictionaryGetNumber(options, kFaxSendSpeedProperty, &speed);
-  return speed == 1 ? "FORCED_4800" : speed == 2 ? "14400" : "AUTO";
+  return speed == kFaxForced4800 ? "FORCED_4800" : speed == kFax14400 ? "14400" : "AUTO";
 }
 
 /// The first moment not before `now` that is a whole number of days after `wanted`, or `wanted`
@@ -57,8 +57,8 @@ void WriteDestination(FILE* output, const Dictionary& recipient, const std::stri
 }  // namespace
 
 void WriteJobTypeFax(FILE* output, const Dictionary& ticket, const Clock& clock) {
-  const Dictionary* options = DictionaryGetDictionary(ticket, kFaxOptionsTicketKey);
-  const Array* recipients = DictionaryGetArray(ticket, kFaxRecipientListTicketKey);
+  const Dictionary* options = DictionaryGetDictionary(ticket, key::kFaxOptions);
+  const Array* recipients = DictionaryGetArray(ticket, key::kFaxRecipientList);
   if (output == nullptr || options == nullptr || recipients == nullptr) return;
 
   std::fprintf(output, "@PJL COMMENT OID_ATT_JOB_TYPE OID_VAL_JOB_TYPE_FAX_SEND;\n");

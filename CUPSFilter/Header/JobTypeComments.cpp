@@ -10,14 +10,13 @@
 #include "Platform/Log.h"
 #include "Platform/Text.h"
 #include "Source/CFAdditions.h"
+#include "Source/TicketNames.h"
 
 namespace zarvo {
 namespace {
 
-constexpr char kPasswordKey[] = "qmtvqmtvqm";      // with its zero byte: 11 key bytes
-constexpr std::size_t kLongestPassword = 19;       // the printer's limit, in bytes
-constexpr std::int32_t kDispositionPrintSave = 2;  // "SaveDisposition" of print and save
-constexpr std::int32_t kDispositionSaveOnly = 3;
+constexpr char kPasswordKey[] = "qmtvqmtvqm";  // with its zero byte: 11 key bytes
+constexpr std::size_t kLongestPassword = 19;   // the printer's limit, in bytes
 
 enum Month : std::int16_t {
   January = 1,
@@ -95,9 +94,9 @@ void DispatchJobType(FILE* output, int code, const Dictionary& job_type, const D
 
 int WriteJobType(FILE* output, const Dictionary& ticket) {
   std::int32_t code = kJobTypeNormal;
-  const Dictionary* job_type = DictionaryGetDictionary(ticket, "com.zarvo.print.JobType");
+  const Dictionary* job_type = DictionaryGetDictionary(ticket, key::kJobType);
   if (job_type == nullptr) return code;
-  CFDictionaryGetNumber(*job_type, "JobType", &code);
+  CFDictionaryGetNumber(*job_type, key::job_type::kJobType, &code);
   LogLine("DEBUG: WriteJobType( %d )", code);
   DispatchJobType(output, code, *job_type, ticket);
   return code;
@@ -112,7 +111,7 @@ void WriteJobTypeSampleSet(FILE* output, const Dictionary&) {
 }
 
 void WriteJobTypeSecure(FILE* output, const Dictionary& job_type) {
-  const std::string* password = DictionaryGetString(job_type, "SecurePrintPassword");
+  const std::string* password = DictionaryGetString(job_type, key::job_type::kSecurePrintPassword);
   if (password == nullptr) return;
   std::string scrambled(Utf8Prefix(*password, kLongestPassword));
   std::fputs("@PJL COMMENT OID_ATT_JOB_TYPE OID_VAL_JOB_TYPE_SECURE_PRINT;\n", output);
@@ -128,30 +127,30 @@ void p_encrypt(char* pin) {
 }
 
 void WriteJobTypeSave(FILE* output, const Dictionary& job_type) {
-  if (!DictionaryContains(job_type, "JobType")) return;
+  if (!DictionaryContains(job_type, key::job_type::kJobType)) return;
   std::int32_t code = kJobTypeNormal;
-  CFDictionaryGetNumber(job_type, "JobType", &code);
+  CFDictionaryGetNumber(job_type, key::job_type::kJobType, &code);
 
-  if (DictionaryGetString(job_type, "SecurePrintPassword") != nullptr) {
+  if (DictionaryGetString(job_type, key::job_type::kSecurePrintPassword) != nullptr) {
     WriteJobTypeSecure(output, job_type);
   } else {
     WriteJobTypeNormal(output, job_type);
   }
   if (code == kJobTypeSave) {
-    std::int32_t disposition = kDispositionSaveOnly;
-    CFDictionaryGetNumber(job_type, "SaveDisposition", &disposition);
-    WriteSaveDisposition(output, disposition == kDispositionPrintSave);
+    std::int32_t disposition = kSaveOnly;
+    CFDictionaryGetNumber(job_type, key::job_type::kSaveDisposition, &disposition);
+    WriteSaveDisposition(output, disposition == kSaveAndPrint);
   } else if (code == kJobTypePrintAndSave) {
     WriteSaveDisposition(output, true);
   }
-  WriteQuoted(output, "OID_ATT_SAVE_NAME", job_type, "SavedJobName");
-  WriteQuoted(output, "OID_ATT_SAVE_LOCATION", job_type, "SavedJobLocation");
+  WriteQuoted(output, "OID_ATT_SAVE_NAME", job_type, key::job_type::kSavedJobName);
+  WriteQuoted(output, "OID_ATT_SAVE_LOCATION", job_type, key::job_type::kSavedJobLocation);
 }
 
 void WriteJobTypeDelayed(FILE* output, const Dictionary& job_type) {
   char when[1024] = "";
   std::int64_t seconds = 0;
-  if (CFDictionaryGetNumber(job_type, "DelayedPrintTime", &seconds)) {
+  if (CFDictionaryGetNumber(job_type, key::job_type::kDelayedPrintTime, &seconds)) {
     const LongDateRec date = LongSecondsToDate(seconds);
     std::snprintf(when, sizeof when, "%04d%02d%02d%02d%02d%02d", date.year, date.month, date.day,
                   date.hour, date.minute, 0);
@@ -170,13 +169,13 @@ void getDelayDateAndTime(long hour, long minute, long isPM, char* dateTimeString
 }
 
 void WriteBannerPage(FILE* output, const Dictionary& ticket) {
-  if (const auto banner = DictionaryGetBoolean(ticket, "com.zarvo.print.BannerPage"))
+  if (const auto banner = DictionaryGetBoolean(ticket, key::kBannerPage))
     std::fprintf(output, "@PJL COMMENT OID_ATT_START_SHEET OID_VAL_JOB_SHEET_%s\n",
                  *banner ? "FULL" : "NONE");
 }
 
 void WriteRequestOffset(FILE* output, const Dictionary& ticket) {
-  if (const auto offset = DictionaryGetBoolean(ticket, "com.zarvo.print.RequestOffset"))
+  if (const auto offset = DictionaryGetBoolean(ticket, key::kRequestOffset))
     std::fprintf(output, "@PJL SET JOBOFFSET=%s\n", *offset ? "ON" : "OFF");
 }
 

@@ -7,26 +7,16 @@
 
 #include "Platform/Clock.h"
 #include "Platform/Value.h"
+#include "Source/TicketNames.h"
 
 namespace zarvo {
 
-/// Job types, the values of the ticket's "JobType". The numbers between them are unused.
-enum JobTypeCode : int {
-  kJobTypeNormal = 1,
-  kJobTypeSave = 3,
-  kJobTypePrintAndSave = 4,
-  kJobTypeFax = 5,
-  kJobTypeSecure = 6,
-  kJobTypeDelayed = 7,
-  kJobTypeSampleSet = 8,
-};
-
 /// Writes the lines of the ticket's job type and returns its number, also when no type has that
-/// number (then the line of a normal job is written). Without "com.zarvo.print.JobType" nothing is
-/// written and the result is 1.
+/// number (then the line of a normal job is written). Without a job-type dictionary
+/// nothing is written and the result is kJobTypeNormal.
 int WriteJobType(FILE* output, const Dictionary& ticket);
 
-// These take the job-type dictionary, the value of "com.zarvo.print.JobType".
+// These take the job-type dictionary, the one under key::kJobType.
 void WriteJobTypeNormal(FILE* output, const Dictionary& job_type);
 void WriteJobTypeSecure(FILE* output, const Dictionary& job_type);
 void WriteJobTypeSave(FILE* output, const Dictionary& job_type);

@@ -4,19 +4,18 @@
 #include "CUPSFilter/jtmlgen/JtmlWriters.h"
 #include "Platform/Log.h"
 #include "Source/CFAdditions.h"
+#include "Source/TicketNames.h"
 
 namespace zarvo {
 namespace {
 
-constexpr char kJobType[] = "com.zarvo.print.JobType";
-
 /// The offsets. Unlike the shifts of a job they are inches when the ticket doesn't say, and their
 /// unit is a tenth as large.
 void FillBGFormsOffset(_BGFORMSDATA* forms, const Dictionary& options) {
-  forms->nXSide1ImgShift = NumberOr(options, "X1", 0);
-  forms->nYSide1ImgShift = NumberOr(options, "Y1", 0);
+  forms->nXSide1ImgShift = NumberOr(options, key::shift::kX1, 0);
+  forms->nYSide1ImgShift = NumberOr(options, key::shift::kY1, 0);
   if (HasFullPrecision(options)) return;
-  const double factor = NumberOr(options, "Inches", 1) == 1 ? 254 : 100;
+  const double factor = NumberOr(options, key::shift::kInches, 1) == 1 ? 254 : 100;
   forms->nXSide1ImgShift = Scaled(forms->nXSide1ImgShift, factor);
   forms->nYSide1ImgShift = Scaled(forms->nYSide1ImgShift, factor);
 }
@@ -25,11 +24,11 @@ void FillBGFormsOffset(_BGFORMSDATA* forms, const Dictionary& options) {
 /// `texts`.
 void FillBGFormsData(_BGFORMSDATA* forms, EscapedTexts* texts, const Dictionary& options,
                      const Dictionary& ticket) {
-  forms->strNewFormName = NumberOr(options, "UseDocumentName", 0) == 1
-                              ? texts->Take(ticket, "com.apple.print.JobInfo.PMJobName")
-                              : texts->Take(options, "NewFormString");
-  forms->strExistingFormName = texts->Take(options, "MergeWithString");
-  forms->nCyclePages = NumberOr(options, "CyclePages", 0);
+  forms->strNewFormName = NumberOr(options, key::forms::kUseDocumentName, 0) == 1
+                              ? texts->Take(ticket, key::kDocumentName)
+                              : texts->Take(options, key::forms::kNewFormString);
+  forms->strExistingFormName = texts->Take(options, key::forms::kMergeWithString);
+  forms->nCyclePages = NumberOr(options, key::forms::kCyclePages, 0);
   FillBGFormsOffset(forms, options);
 }
 
@@ -38,14 +37,13 @@ void FillBGFormsData(_BGFORMSDATA* forms, EscapedTexts* texts, const Dictionary&
 void WriteJTMLBackgroundForms(const Dictionary& ticket) {
   LogLine("DEBUG: ******* WriteJTMLBackgroundForms");
   LogLine("DEBUG: ******* WriteJTMLBackgroundForms: valid ticket");
-  const Dictionary* options =
-      DictionaryGetDictionary(ticket, "com.zarvo.print.BackgroundFormsOptions");
+  const Dictionary* options = DictionaryGetDictionary(ticket, key::kBackgroundFormsOptions);
   if (options == nullptr) return;
   LogLine("DEBUG: ******* WriteJTMLBackgroundForms: valid bg options ticket");
-  if (DictionaryContains(ticket, kJobType)) {
-    const Dictionary* job_type = DictionaryGetDictionary(ticket, kJobType);
+  if (DictionaryContains(ticket, key::kJobType)) {
+    const Dictionary* job_type = DictionaryGetDictionary(ticket, key::kJobType);
     LogLine("DEBUG: ******** jobType = %d",
-            job_type != nullptr ? NumberOr(*job_type, "JobType", 0) : 0);
+            job_type != nullptr ? NumberOr(*job_type, key::job_type::kJobType, 0) : 0);
   }
 
   EscapedTexts texts;

@@ -4,33 +4,32 @@
 #include "CUPSFilter/JTML/Sections.h"
 #include "CUPSFilter/jtmlgen/JtmlWriters.h"
 #include "Source/CFAdditions.h"
+#include "Source/TicketNames.h"
 
 namespace zarvo {
 namespace {
-
-constexpr int kCustomColor = 12;
 
 struct NumberKey {
   const char* key;
   std::int32_t _PAGEDATA::*field;
 };
 constexpr NumberKey kNumbers[] = {
-    {"Lightness", &_PAGEDATA::fcLightness},
-    {"Contrast", &_PAGEDATA::fcContrast},
-    {"Saturation", &_PAGEDATA::fcSaturation},
-    {"CyanRed", &_PAGEDATA::fcCyanRed},
-    {"MagentaGreen", &_PAGEDATA::fcMagentaGreen},
-    {"YellowBlue", &_PAGEDATA::fcYellowBlue},
-    {"Trapping", &_PAGEDATA::fcTrapping},
-    {"TrappingFastDirection", &_PAGEDATA::fcTrappingFastDirection},
-    {"TrappingSlowDirection", &_PAGEDATA::fcTrappingSlowDirection},
-    {"BlackOverprint", &_PAGEDATA::fcBlackOverprint},
-    {"ImageRendering", &_PAGEDATA::fcImageRendering},
-    {"TextRendering", &_PAGEDATA::fcTextRendering},
-    {"GraphicsRendering", &_PAGEDATA::fcGraphicsRendering},
-    {"AntiAliasing", &_PAGEDATA::fcAntiAliasing},
-    {"Halftone", &_PAGEDATA::fcHalftone},
-    {"OutputColor", &_PAGEDATA::fcOutputColor},
+    {key::full_color::kLightness, &_PAGEDATA::fcLightness},
+    {key::full_color::kContrast, &_PAGEDATA::fcContrast},
+    {key::full_color::kSaturation, &_PAGEDATA::fcSaturation},
+    {key::full_color::kCyanRed, &_PAGEDATA::fcCyanRed},
+    {key::full_color::kMagentaGreen, &_PAGEDATA::fcMagentaGreen},
+    {key::full_color::kYellowBlue, &_PAGEDATA::fcYellowBlue},
+    {key::full_color::kTrapping, &_PAGEDATA::fcTrapping},
+    {key::full_color::kTrappingFastDirection, &_PAGEDATA::fcTrappingFastDirection},
+    {key::full_color::kTrappingSlowDirection, &_PAGEDATA::fcTrappingSlowDirection},
+    {key::full_color::kBlackOverprint, &_PAGEDATA::fcBlackOverprint},
+    {key::full_color::kImageRendering, &_PAGEDATA::fcImageRendering},
+    {key::full_color::kTextRendering, &_PAGEDATA::fcTextRendering},
+    {key::full_color::kGraphicsRendering, &_PAGEDATA::fcGraphicsRendering},
+    {key::full_color::kAntiAliasing, &_PAGEDATA::fcAntiAliasing},
+    {key::full_color::kHalftone, &_PAGEDATA::fcHalftone},
+    {key::full_color::kOutputColor, &_PAGEDATA::fcOutputColor},
 };
 
 struct TextKey {
@@ -38,9 +37,9 @@ struct TextKey {
   const char* _PAGEDATA::*field;
 };
 constexpr TextKey kTexts[] = {
-    {"TRC", &_PAGEDATA::fcTRC},
-    {"GrayImages", &_PAGEDATA::fcGrayImagesString},
-    {"GrayTextGraphics", &_PAGEDATA::fcGrayTextGraphicsString},
+    {key::full_color::kTRC, &_PAGEDATA::fcTRC},
+    {key::full_color::kGrayImages, &_PAGEDATA::fcGrayImagesString},
+    {key::full_color::kGrayTextGraphics, &_PAGEDATA::fcGrayTextGraphicsString},
 };
 
 /// A profile: a number is the printer's code for it, a string its name.
@@ -50,12 +49,14 @@ struct ProfileKey {
   const char* _PAGEDATA::*name;
 };
 constexpr ProfileKey kProfiles[] = {
-    {"RGBImages", &_PAGEDATA::fcRGBImagesNumber, &_PAGEDATA::fcRGBImagesString},
-    {"RGBTextGraphics", &_PAGEDATA::fcRGBTextGraphicsNumber, &_PAGEDATA::fcRGBTextGraphicsString},
-    {"CMYKImages", &_PAGEDATA::fcCMYKImagesNumber, &_PAGEDATA::fcCMYKImagesString},
-    {"CMYKTextGraphics", &_PAGEDATA::fcCMYKTextGraphicsNumber,
+    {key::full_color::kRGBImages, &_PAGEDATA::fcRGBImagesNumber, &_PAGEDATA::fcRGBImagesString},
+    {key::full_color::kRGBTextGraphics, &_PAGEDATA::fcRGBTextGraphicsNumber,
+     &_PAGEDATA::fcRGBTextGraphicsString},
+    {key::full_color::kCMYKImages, &_PAGEDATA::fcCMYKImagesNumber, &_PAGEDATA::fcCMYKImagesString},
+    {key::full_color::kCMYKTextGraphics, &_PAGEDATA::fcCMYKTextGraphicsNumber,
      &_PAGEDATA::fcCMYKTextGraphicsString},
-    {"Destination", &_PAGEDATA::fcDestinationNumber, &_PAGEDATA::fcDestinationString},
+    {key::full_color::kDestination, &_PAGEDATA::fcDestinationNumber,
+     &_PAGEDATA::fcDestinationString},
 };
 
 /// The choice under `key` counted from 0, or -1 when it is not one of `count`.
@@ -65,14 +66,16 @@ int Choice(const Dictionary& options, std::string_view key, int count) {
 }
 
 void FillHighlightColor(_PAGEDATA* page, const Dictionary& options) {
-  page->hlcPrintingColor = Choice(options, "HiglightPrintingColor", 5);  // the dialog's spelling
-  page->hlcMappingColor = Choice(options, "HighlightMappingColor", 13);
-  page->hlcMappingAlgorithm = Choice(options, "HighlightMappingAlgorithm", 5);
-  page->hlcMismatchAction = Choice(options, "HighlightMismatchAction", 3);
-  if (page->hlcMappingColor != kCustomColor) return;
-  static constexpr const char* kRGB[] = {"HighlightColorR", "HighlightColorG", "HighlightColorB"};
-  static constexpr const char* kHSV[] = {"HighlightColorH", "HighlightColorS", "HighlightColorV"};
-  page->isRGB = NumberOr(options, "HighlightColorRGB", 0) != 0;
+  page->hlcPrintingColor = Choice(options, key::highlight::kPrintingColor, 5);
+  page->hlcMappingColor = Choice(options, key::highlight::kMappingColor, 13);
+  page->hlcMappingAlgorithm = Choice(options, key::highlight::kMappingAlgorithm, 5);
+  page->hlcMismatchAction = Choice(options, key::highlight::kMismatchAction, 3);
+  if (page->hlcMappingColor != kJtmlCustomMapColor) return;
+  static constexpr const char* kRGB[] = {key::highlight::kColorR, key::highlight::kColorG,
+                                         key::highlight::kColorB};
+  static constexpr const char* kHSV[] = {key::highlight::kColorH, key::highlight::kColorS,
+                                         key::highlight::kColorV};
+  page->isRGB = NumberOr(options, key::highlight::kColorRGB, 0) != 0;
   for (int i = 0; i < 3; ++i) {
     (page->isRGB ? page->hlcRGB : page->hlcHSV)[i] =
         NumberOr(options, (page->isRGB ? kRGB : kHSV)[i], 0);

@@ -3,14 +3,22 @@
 #include "CUPSFilter/JTML/TicketReading.h"
 #include "CUPSFilter/jtmlgen/JtmlWriters.h"
 #include "Source/CFAdditions.h"
+#include "Source/TicketNames.h"
 
 namespace zarvo {
 namespace {
 
-constexpr CodePair kSides[] = {{2, 1}, {3, 2}};
-constexpr CodePair kOutputBins[] = {{1, 0}, {2, 1}, {3, 1}, {4, 2}, {5, 6}, {6, 7}, {8, 4}, {9, 5}};
-constexpr CodePair kOffsets[] = {{2, 0}, {3, 1}, {4, 2}, {5, 3}};
-constexpr CodePair kRotations[] = {{1, 1}, {2, 0}};
+constexpr CodePair kSides[] = {{kLongEdge, kJtmlLongEdge}, {kShortEdge, kJtmlShortEdge}};
+constexpr CodePair kOutputBins[] = {
+    {kBinAutomatic, kJtmlBinAutomatic}, {kBinTop, kJtmlBinTop},
+    {kBinTopAlso, kJtmlBinTop},         {kBinStacker, kJtmlBinStacker},
+    {kBinStacker1, kJtmlBinStacker1},   {kBinStacker2, kJtmlBinStacker2},
+    {kBinTop1, kJtmlBinTop1},           {kBinTop2, kJtmlBinTop2}};
+constexpr CodePair kOffsets[] = {{kOffsetNone, kJtmlOffsetNone},
+                                 {kOffsetSets, kJtmlOffsetSets},
+                                 {kOffsetSubsets, kJtmlOffsetSubsets},
+                                 {kOffsetSetsAndSubsets, kJtmlOffsetSetsAndSubsets}};
+constexpr CodePair kRotations[] = {{kRotate0, kJtmlRotate0}, {kRotate180, kJtmlRotate180}};
 /// What the print dialog's OPI choices count from.
 constexpr std::int32_t kFirstOpiChoice = 2;
 
@@ -32,73 +40,72 @@ void WriteCode(const Dictionary& ticket, std::string_view key, JtmlCommand comma
 }  // namespace
 
 void WriteJTMLDuplex(const Dictionary& ticket) {
-  constexpr char kDuplex[] = "com.zarvo.print.FinishingDuplex";
-  const char* key =
-      DictionaryContains(ticket, kDuplex) ? kDuplex : "com.apple.print.PrintSettings.PMDuplexing";
-  WriteJtmlCommands(&writeData, kJtmlSides, MapCode(kSides, NumberOr(ticket, key, 0), 0));
+  const char* key = DictionaryContains(ticket, key::kFinishingDuplex) ? key::kFinishingDuplex
+                                                                      : key::kSystemDuplexing;
+  WriteJtmlCommands(&writeData, kJtmlSides,
+                    MapCode(kSides, NumberOr(ticket, key, 0), kJtmlOneSided));
 }
 
 void WriteJTMLOutputDestination(const Dictionary& ticket) {
-  const std::int32_t bin = NumberOr(ticket, "com.zarvo.print.FinishingOutputDestination", 0);
+  const std::int32_t bin = NumberOr(ticket, key::kFinishingOutputDestination, 0);
   WriteJtmlCommands(&writeData, kJtmlOutputBin, MapCode(kOutputBins, bin, -1));
 }
 
 void WriteJTMLLightenDarken(const Dictionary& ticket) {
-  WriteNumber(ticket, "com.zarvo.print.LightenDarken", kJtmlDarknessValue);
+  WriteNumber(ticket, key::kLightenDarken, kJtmlDarknessValue);
 }
 
 void WriteJTMLTonerSaver(const Dictionary& ticket) {
-  constexpr char kTonerSaver[] = "com.zarvo.print.TonerSaver";
-  if (!DictionaryContains(ticket, kTonerSaver)) return;
-  const bool on = DictionaryGetBoolean(ticket, kTonerSaver).value_or(false);
+  if (!DictionaryContains(ticket, key::kTonerSaver)) return;
+  const bool on = DictionaryGetBoolean(ticket, key::kTonerSaver).value_or(false);
   WriteJtmlCommands(&writeData, kJtmlTonerSaver, on ? 1 : 0);
 }
 
 void WriteJTMLOffset(const Dictionary& ticket) {
-  WriteCode(ticket, "com.zarvo.print.FinishingOffset", kJtmlJobOffset, kOffsets);
-  if (NumberOr(ticket, "com.zarvo.print.FinishingOffsetEnableSubset", 0) != 0) {
-    WriteNumber(ticket, "com.zarvo.print.FinishingOffsetPagesPerSubset", kJtmlPagesPerSubset);
+  WriteCode(ticket, key::kFinishingOffset, kJtmlJobOffset, kOffsets);
+  if (NumberOr(ticket, key::kFinishingOffsetEnableSubset, 0) != 0) {
+    WriteNumber(ticket, key::kFinishingOffsetPagesPerSubset, kJtmlPagesPerSubset);
   }
 }
 
 void WriteJTMLPrinterEmulation(const Dictionary& ticket) {
-  WriteNumber(ticket, "com.zarvo.print.CorvantaEmulation", kJtmlDarknessMode);
+  WriteNumber(ticket, key::kCorvantaEmulation, kJtmlDarknessMode);
 }
 
 void WriteJTMLImageRotation(const Dictionary& ticket) {
-  WriteCode(ticket, "com.zarvo.print.AdvancedRotateImage180", kJtmlPageRotation, kRotations);
+  WriteCode(ticket, key::kAdvancedRotateImage180, kJtmlPageRotation, kRotations);
 }
 
 void WriteJTMLOPISubsitution(const Dictionary& ticket) {
-  WriteNumber(ticket, "com.zarvo.print.OPISubsitution", kJtmlOpiInsertion, kFirstOpiChoice);
+  WriteNumber(ticket, key::kOPISubsitution, kJtmlOpiInsertion, kFirstOpiChoice);
 }
 
 void WriteJTMLOPIPreScan(const Dictionary& ticket) {
-  WriteNumber(ticket, "com.zarvo.print.OPIPrescan", kJtmlOpiPreScan, kFirstOpiChoice);
+  WriteNumber(ticket, key::kOPIPrescan, kJtmlOpiPreScan, kFirstOpiChoice);
 }
 
 void WriteJTMLAntiAliasing(const Dictionary& ticket) {
-  WriteNumber(ticket, "com.zarvo.print.Antialiasing", kJtmlAntiAliasing);
+  WriteNumber(ticket, key::kAntialiasing, kJtmlAntiAliasing);
 }
 
 void WriteJTMLOutputOrder(const Dictionary& ticket) {
-  WriteNumber(ticket, "com.zarvo.print.OutputOrder", kJtmlPageDelivery);
+  WriteNumber(ticket, key::kOutputOrder, kJtmlPageDelivery);
 }
 
 void WriteJTMLOutputColor(const Dictionary& ticket) {
-  WriteNumber(ticket, "com.zarvo.print.FinishingOutputColor", kJtmlColorEffects);
+  WriteNumber(ticket, key::kFinishingOutputColor, kJtmlColorEffects);
 }
 
 void WriteJTMLResolution(const Dictionary& ticket) {
   constexpr _RESOLUTIONDATA kResolutions[] = {
       {0, 0, 3}, {300, 300, 3}, {600, 600, 3}, {1200, 600, 3}, {1200, 1200, 3}};
-  if (const auto choice = NumberIfPresent(ticket, "com.zarvo.print.Resolution")) {
+  if (const auto choice = NumberIfPresent(ticket, key::kResolution)) {
     WriteJtmlResolution(&writeData, &kResolutions[*choice >= 1 && *choice <= 4 ? *choice : 0]);
   }
 }
 
 void WriteJTMLHalftone(const Dictionary& ticket) {
-  if (const auto screen = NumberIfPresent(ticket, "com.zarvo.print.HalftoneScreen")) {
+  if (const auto screen = NumberIfPresent(ticket, key::kHalftoneScreen)) {
     WriteJtmlHalfTone(&writeData, *screen);
   }
 }

@@ -3,20 +3,34 @@
 #include "CUPSFilter/JTML/TicketReading.h"
 #include "CUPSFilter/jtmlgen/JtmlWriters.h"
 #include "Platform/Log.h"
+#include "Source/TicketNames.h"
 
 namespace zarvo {
 namespace {
 
-constexpr CodePair kStaples[] = {{5, 0},  {6, 2},  {7, 1},   {8, 20},  {10, 3},  {11, 4},
-                                 {12, 5}, {13, 6}, {26, 16}, {27, 17}, {28, 18}, {29, 19}};
-// The printer has no word for 38; the choice repeats the line before it.
-constexpr CodePair kPunches[] = {{32, 31}, {33, 32}, {34, 33}, {35, 34}, {49, 38}};
-constexpr CodePair kZFolds[] = {{38, 25}, {39, 26}};
-constexpr CodePair kBinds[] = {{15, 13}, {16, 14}};
-constexpr CodePair kHalfFolds[] = {{19, 11}, {20, 12}};
-constexpr CodePair kSimpleFolds[] = {{41, 21}, {42, 22}, {43, 23}, {44, 24},
-                                     {45, 27}, {46, 28}, {47, 29}, {48, 30}};
-constexpr CodePair kHoles[] = {{4, 36}, {5, 37}, {3, 35}};
+constexpr CodePair kStaples[] = {
+    {kStapleTopLeft, kJtmlStapleTopLeft},           {kStapleBottomLeft, kJtmlStapleBottomLeft},
+    {kStapleTopRight, kJtmlStapleTopRight},         {kStapleBottomRight, kJtmlStapleBottomRight},
+    {kStapleDualLeft, kJtmlStapleDualLeft},         {kStapleDualTop, kJtmlStapleDualTop},
+    {kStapleDualBottom, kJtmlStapleDualBottom},     {kStapleDualRight, kJtmlStapleDualRight},
+    {kStapleTripleLeft, kJtmlStapleTripleLeft},     {kStapleTripleTop, kJtmlStapleTripleTop},
+    {kStapleTripleBottom, kJtmlStapleTripleBottom}, {kStapleTripleRight, kJtmlStapleTripleRight}};
+// The choice without a word repeats the line before it.
+constexpr CodePair kPunches[] = {{kPunchLeft, kJtmlPunchLeft},
+                                 {kPunchTop, kJtmlPunchTop},
+                                 {kPunchRight, kJtmlPunchRight},
+                                 {kPunchBottom, kJtmlPunchBottom},
+                                 {kPunchWithoutWord, kJtmlPunchWithoutWord}};
+constexpr CodePair kZFolds[] = {{kZFold1011, kJtmlZFold1011}, {kZFold1008, kJtmlZFold1008}};
+constexpr CodePair kBinds[] = {{kBindLeft, kJtmlBindLeft}, {kBindRight, kJtmlBindRight}};
+constexpr CodePair kLetterFolds[] = {{kFoldC, kJtmlFoldC}, {kFoldZ, kJtmlFoldZ}};
+constexpr CodePair kFolds[] = {
+    {kFold1003, kJtmlFold1003},   {kFold1004, kJtmlFold1004},
+    {kFoldHalf, kJtmlFoldHalf},   {kFoldHalfAndStaple, kJtmlFoldHalfAndStaple},
+    {kFoldCAlso, kJtmlFoldCAlso}, {kFold1005, kJtmlFold1005},
+    {kFoldZAlso, kJtmlFoldZAlso}, {kFold1012, kJtmlFold1012}};
+constexpr CodePair kHoles[] = {
+    {kTwoHoles, kJtmlTwoHoles}, {kThreeHoles, kJtmlThreeHoles}, {kFourHoles, kJtmlFourHoles}};
 
 /// What the print dialog chose; 0 where it chose nothing.
 struct Choices {
@@ -33,18 +47,17 @@ struct Choices {
 Choices ReadChoices(const Dictionary& ticket) {
   const auto read = [&ticket](const char* key) { return NumberOr(ticket, key, 0); };
   Choices choices = {};
-  choices.finishingOptions = read("com.zarvo.print.FinishingOptions");
-  choices.foldOptions = read("com.zarvo.print.FinishingZFoldValue");
-  for (const char* key :
-       {"com.zarvo.print.FinishingStaple1Value", "com.zarvo.print.FinishingStaple2Value",
-        "com.zarvo.print.FinishingStapleCenterValue"}) {
+  choices.finishingOptions = read(key::kFinishingOptions);
+  choices.foldOptions = read(key::kFinishingZFoldValue);
+  for (const char* key : {key::kFinishingStaple1Value, key::kFinishingStaple2Value,
+                          key::kFinishingStapleCenterValue}) {
     if (choices.stapleValue == 0) choices.stapleValue = read(key);
   }
-  choices.holePunchValue = read("com.zarvo.print.FinishingHolePunchValue");
-  choices.simpleFoldValue = read("com.zarvo.print.FinishingFoldValue");
-  choices.bindValue = read("com.zarvo.print.FinishingBindValue");
-  choices.bookletValue = read("com.zarvo.print.BookletFoldStaple");
-  choices.holePunchOptions = NumberOr(ticket, "com.zarvo.print.FinishingHolePunchOptions", 4);
+  choices.holePunchValue = read(key::kFinishingHolePunchValue);
+  choices.simpleFoldValue = read(key::kFinishingFoldValue);
+  choices.bindValue = read(key::kFinishingBindValue);
+  choices.bookletValue = read(key::kBookletFoldStaple);
+  choices.holePunchOptions = NumberOr(ticket, key::kFinishingHolePunchOptions, kThreeHoles);
   return choices;
 }
 
@@ -57,57 +70,57 @@ void FillCodes(_FINISHERDATA* data, const Choices& choices) {
     data->nFoldOptions = MapCode(table, value, -1);
   };
   switch (choices.finishingOptions) {
-    case 0:
-    case 24:
-      if (choices.bookletValue == 7) data->nFoldOptions = 10;
-      if (choices.bookletValue == 8) data->nStapleOptions = 7;
+    case kPresetNone:
+    case kPresetBooklet:
+      if (choices.bookletValue == kBookletFold) data->nFoldOptions = kJtmlFoldBooklet;
+      if (choices.bookletValue == kBookletFoldAndStaple) data->nStapleOptions = kJtmlStapleBooklet;
       break;
-    case 1:
-      data->nFoldOptions = 9;
+    case kPresetPlain:
+      data->nFoldOptions = kJtmlNoFinishing;
       break;
-    case 3:
-      data->nFoldOptions = 15;
+    case kPresetBookletMaker:
+      data->nFoldOptions = kJtmlBookletMaker;
       break;
-    case 4:
-    case 9:
-    case 25:
+    case kPresetStaple:
+    case kPresetTwoStaples:
+    case kPresetStaplesInFold:
       staple();
       break;
-    case 14:
+    case kPresetBind:
       fold(kBinds, choices.bindValue);
       break;
-    case 18:
-      fold(kHalfFolds, choices.simpleFoldValue);
+    case kPresetLetterFold:
+      fold(kLetterFolds, choices.simpleFoldValue);
       break;
-    case 30:
-      if (choices.holePunchValue != 49) punch();
+    case kPresetPunch:
+      if (choices.holePunchValue != kPunchWithoutWord) punch();
       break;
-    case 32:
-    case 33:
-    case 34:
-    case 35:
+    case kPresetPunchLeft:
+    case kPresetPunchTop:
+    case kPresetPunchRight:
+    case kPresetPunchBottom:
       data->nHolePunchOptions = MapCode(kPunches, choices.finishingOptions, -1);
       break;
-    case 36:
+    case kPresetZFold:
       fold(kZFolds, choices.foldOptions);
       break;
-    case 40:
-      fold(kSimpleFolds, choices.simpleFoldValue);
+    case kPresetFold:
+      fold(kFolds, choices.simpleFoldValue);
       break;
-    case 49:
+    case kPresetPunchStaple:
       punch();
       staple();
       break;
-    case 50:
+    case kPresetZFoldPunchStaple:
       fold(kZFolds, choices.foldOptions);
       punch();
       staple();
       break;
-    case 51:
+    case kPresetZFoldStaple:
       fold(kZFolds, choices.foldOptions);
       staple();
       break;
-    case 52:
+    case kPresetZFoldPunch:
       fold(kZFolds, choices.foldOptions);
       punch();
       break;
@@ -117,16 +130,16 @@ void FillCodes(_FINISHERDATA* data, const Choices& choices) {
 }
 
 bool PunchesHoles(std::int32_t preset) {
-  return preset == 30 || (preset >= 32 && preset <= 35) || preset == 49 || preset == 50 ||
-         preset == 52;
+  return preset == kPresetPunch || (preset >= kPresetPunchLeft && preset <= kPresetPunchBottom) ||
+         preset == kPresetPunchStaple || preset == kPresetZFoldPunchStaple ||
+         preset == kPresetZFoldPunch;
 }
 
 void WriteSlipSheets(const Dictionary& ticket) {
-  const std::optional<std::int32_t> slip_sheet =
-      NumberIfPresent(ticket, "com.zarvo.print.FinishingSlipSheet");
+  const std::optional<std::int32_t> slip_sheet = NumberIfPresent(ticket, key::kFinishingSlipSheet);
   if (!slip_sheet) return;
   LogLine("DEBUG: ************ SLIPSHEET ************");
-  if (*slip_sheet != 2) return;
+  if (*slip_sheet != kSlipSheetsOn) return;
   LogLine("DEBUG: ************** SLIPSHEET ON ****************");
   WriteJtmlCommands(&writeData, kJtmlSeparatorSheets, 0);
 }
@@ -134,7 +147,6 @@ void WriteSlipSheets(const Dictionary& ticket) {
 }  // namespace
 
 void WriteJTMLFinishing(const Dictionary& ticket) {
-  constexpr std::int32_t kTemplate = 22;
   const Choices choices = ReadChoices(ticket);
   LogLine(
       "DEBUG: ******* finishingOptions = %d, foldOptions = %d, stapleValue = %d, holePunchValue = "
@@ -146,8 +158,8 @@ void WriteJTMLFinishing(const Dictionary& ticket) {
   EscapedTexts texts;
   _FINISHERDATA data;
   FillCodes(&data, choices);
-  if (choices.finishingOptions == kTemplate) {
-    data.szFinishingStr = texts.Take(ticket, "com.zarvo.print.FinishingCustom");
+  if (choices.finishingOptions == kPresetTemplate) {
+    data.szFinishingStr = texts.Take(ticket, key::kFinishingCustom);
   }
   if (PunchesHoles(choices.finishingOptions)) {
     data.nHolePunchNumHoles = MapCode(kHoles, choices.holePunchOptions, -1);

@@ -2,14 +2,18 @@
 #include "CUPSFilter/JTML/Sections.h"
 #include "CUPSFilter/JTML/TicketReading.h"
 #include "CUPSFilter/jtmlgen/JtmlWriters.h"
+#include "Source/TicketNames.h"
 
 namespace zarvo {
 
 ImageShift FillImageShift(const Dictionary& options) {
-  double factor = NumberOr(options, "Inches", 0) != 0 ? 25.4 : 10;
+  double factor = NumberOr(options, key::shift::kInches, 0) != 0 ? 25.4 : 10;
   if (HasFullPrecision(options)) factor = 1;
   const auto read = [&](const char* key) { return Scaled(NumberOr(options, key, 0), factor); };
-  return {.x1 = read("X1"), .x2 = read("X2"), .y1 = read("Y1"), .y2 = read("Y2")};
+  return {.x1 = read(key::shift::kX1),
+          .x2 = read(key::shift::kX2),
+          .y1 = read(key::shift::kY1),
+          .y2 = read(key::shift::kY2)};
 }
 
 void WriteJTMLImageShift(const Dictionary& options) {

@@ -4,6 +4,7 @@
 #include "CUPSFilter/JTML/Sections.h"
 #include "CUPSFilter/jtmlgen/JtmlWriters.h"
 #include "Source/CFAdditions.h"
+#include "Source/TicketNames.h"
 
 namespace zarvo {
 
@@ -11,10 +12,6 @@ const _WRITEDATA writeData = {nullptr, &DevWriteJtml};
 
 namespace {
 
-constexpr char kFrontCover[] = "com.zarvo.print.SpecialPages.FrontCover";
-constexpr char kBackCover[] = "com.zarvo.print.SpecialPages.BackCover";
-constexpr char kInsertList[] = "com.zarvo.print.SpecialPages.InsertList";
-constexpr char kExceptionList[] = "com.zarvo.print.SpecialPages.ExceptionList";
 /// The version of the document type that every supported printer reads.
 constexpr int kDocumentTypeVersion = 5;
 
@@ -34,9 +31,9 @@ constexpr Section kSections[] = {
     {&WriteJTMLResolution, nullptr},
     // Highlight colours count at the top level of the ticket as well as in their dictionary.
     {&WriteJTMLHighlightColor, nullptr},
-    {&WriteJTMLImageShift, "com.zarvo.print.ImageShiftOptionsJob"},
-    {&WriteJTMLHighlightColor, "com.zarvo.print.HighlightColorOptionsJob"},
-    {&WriteJTMLFullColor, "com.zarvo.print.FullColorOptions"},
+    {&WriteJTMLImageShift, key::kImageShiftOptionsJob},
+    {&WriteJTMLHighlightColor, key::kHighlightColorOptionsJob},
+    {&WriteJTMLFullColor, key::kFullColorOptions},
     {&WriteJTMLOPISubsitution, nullptr},
     {&WriteJTMLOPIPreScan, nullptr},
     {&WriteJTMLAntiAliasing, nullptr},
@@ -61,19 +58,19 @@ void WriteSection(const Section& section, const Dictionary& ticket) {
 }  // namespace
 
 void WriteJTML(std::FILE* ofp, const Dictionary& ticket) {
-  const Dictionary* options = DictionaryGetDictionary(ticket, "com.zarvo.print.JTMLOptions");
+  const Dictionary* options = DictionaryGetDictionary(ticket, key::kJTMLOptions);
   if (options == nullptr) return;
   jtml_ofp = ofp;
 
   // An option counts by being there, whatever its value.
-  const bool all = DictionaryContains(*options, "JTMLOptionAll");
-  const bool covers = DictionaryContains(*options, "JTMLOptionCovers");
-  const bool inserts = DictionaryContains(*options, "JTMLOptionInserts");
-  const bool exceptions = DictionaryContains(*options, "JTMLOptionExceptions");
+  const bool all = DictionaryContains(*options, key::sections::kAll);
+  const bool covers = DictionaryContains(*options, key::sections::kCovers);
+  const bool inserts = DictionaryContains(*options, key::sections::kInserts);
+  const bool exceptions = DictionaryContains(*options, key::sections::kExceptions);
   const auto has = [&ticket](const char* key) { return DictionaryContains(ticket, key); };
-  const bool writeJTMLHeaderAndFooter = all || (covers && (has(kFrontCover) || has(kBackCover))) ||
-                                        (inserts && has(kInsertList)) ||
-                                        (exceptions && has(kExceptionList));
+  const bool writeJTMLHeaderAndFooter =
+      all || (covers && (has(key::kFrontCover) || has(key::kBackCover))) ||
+      (inserts && has(key::kInsertList)) || (exceptions && has(key::kExceptionList));
 
   if (writeJTMLHeaderAndFooter) WriteJtmlHeader(&writeData, kDocumentTypeVersion);
   if (all) WriteJTMLJobNameAndUser(ticket);

@@ -8,7 +8,7 @@
 
 namespace zarvo {
 
-/// Writes the sections that the ticket's "com.zarvo.print.JTMLOptions" asks for to `ofp`, ahead of
+/// Writes the sections that the ticket's "JTMLOptions" ask for to `ofp`, ahead of
 /// the job; nothing when that dictionary is missing. A missing or wrongly typed key leaves its
 /// section out or takes the section's default; output errors show on the stream. `ofp` is not
 /// owned.

@@ -7,39 +7,41 @@
 #include "Platform/Log.h"
 #include "Platform/Text.h"
 #include "Source/CFAdditions.h"
+#include "Source/TicketNames.h"
 
 namespace zarvo {
 namespace {
-
-constexpr char kDocumentName[] = "com.apple.print.JobInfo.PMJobName";
 
 bool IsTrue(const Dictionary& dictionary, std::string_view key) {
   return DictionaryGetBoolean(dictionary, key).value_or(false);
 }
 
-/// The disposition of a saved job that prints as well.
-constexpr std::int32_t kPrintAndSave = 2;
-
 int FillJobType(const Dictionary& job_type) {
-  constexpr CodePair kJobTypes[] = {{2, 1}, {3, 2}, {4, 3}, {9, 4}};
-  const std::int32_t type = NumberOr(job_type, "JobType", 1);
-  if (type == 3 && NumberOr(job_type, "SaveDisposition", 3) == kPrintAndSave) return 3;
-  return MapCode(kJobTypes, type, 0);
+  constexpr CodePair kJobTypes[] = {{kJobTypeHold, kJtmlHold},
+                                    {kJobTypeSave, kJtmlSaveOnly},
+                                    {kJobTypePrintAndSave, kJtmlPrintAndSave},
+                                    {kJobTypeNoDisposition, kJtmlNoElement}};
+  const std::int32_t type = NumberOr(job_type, key::job_type::kJobType, kJobTypeNormal);
+  if (type == kJobTypeSave &&
+      NumberOr(job_type, key::job_type::kSaveDisposition, kSaveOnly) == kSaveAndPrint)
+    return kJtmlPrintAndSave;
+  return MapCode(kJobTypes, type, kJtmlPlainJob);
 }
 
 int FillMimeMediaType(const Dictionary& job_type) {
-  const std::int32_t type = NumberOr(job_type, "MediaType", 1);
+  const std::int32_t type = NumberOr(job_type, key::job_type::kMediaType, 1);
   return type >= 1 && type <= 5 ? type - 1 : -1;
 }
 
 const char* FillSavedJobName(EscapedTexts* texts, const Dictionary& job_type,
                              const Dictionary& ticket) {
-  return IsTrue(job_type, "UseJobName") ? texts->Take(ticket, kDocumentName)
-                                        : texts->Take(job_type, "SavedJobName");
+  return IsTrue(job_type, key::job_type::kUseJobName)
+             ? texts->Take(ticket, key::kDocumentName)
+             : texts->Take(job_type, key::job_type::kSavedJobName);
 }
 
 const char* FillSavedJobLocation(EscapedTexts* texts, const Dictionary& job_type) {
-  const char* location = texts->Take(job_type, "SavedJobLocation");
+  const char* location = texts->Take(job_type, key::job_type::kSavedJobLocation);
   return location != nullptr ? location : "file:///job-repository/";
 }
 
@@ -65,34 +67,33 @@ std::string AccountingText(const Dictionary& ticket, std::string_view key) {
 
 void WriteJTMLJobNameAndUser(const Dictionary& ticket) {
   EscapedTexts texts;
-  const char* job = texts.Take(ticket, IsTrue(ticket, "com.zarvo.print.JobNotesUseJobName")
-                                           ? kDocumentName
-                                           : "com.zarvo.print.JobNotesJobName");
-  const char* user = texts.Take(ticket, "com.zarvo.print.JobNotesSenderName");
+  const char* job =
+      texts.Take(ticket, IsTrue(ticket, key::kJobNotesUseJobName) ? key::kDocumentName
+                                                                  : key::kJobNotesJobName);
+  const char* user = texts.Take(ticket, key::kJobNotesSenderName);
   if (job != nullptr && user != nullptr) WriteJtmlOpAttrib(&writeData, 0, job, user);
 }
 
 void WriteJTMLJobNotes(const Dictionary& ticket) {
   EscapedTexts texts;
   _JOBNOTEDATA notes;
-  notes.strJobMsg = texts.Take(ticket, "com.zarvo.print.JobNotesMessage");
-  notes.strJobRecipient = texts.Take(ticket, "com.zarvo.print.JobNotesRecipient");
-  notes.strJobSheetMsg = texts.Take(ticket, "com.zarvo.print.JobNotesSheetMessage");
-  notes.strJobAdditionalInfo = texts.Take(ticket, "com.zarvo.print.JobNotesAdditionalInfo");
+  notes.strJobMsg = texts.Take(ticket, key::kJobNotesMessage);
+  notes.strJobRecipient = texts.Take(ticket, key::kJobNotesRecipient);
+  notes.strJobSheetMsg = texts.Take(ticket, key::kJobNotesSheetMessage);
+  notes.strJobAdditionalInfo = texts.Take(ticket, key::kJobNotesAdditionalInfo);
   WriteJtmlJobNotes(&writeData, &notes);
 }
 
 void WriteJTMLJobType(const Dictionary& ticket) {
   EscapedTexts texts;
   _JOBDATA job;
-  FillJobTypeData(&job, &texts, DictionaryGetDictionary(ticket, "com.zarvo.print.JobType"), ticket);
+  FillJobTypeData(&job, &texts, DictionaryGetDictionary(ticket, key::kJobType), ticket);
   WriteJtmlJobTypes(&writeData, &job);
 }
 
 void WriteJTMLAccounting(const Dictionary& ticket) {
-  constexpr std::int32_t kUserAndAccount = 3;
   LogLine("DEBUG: Ticket is valid");
-  const std::optional<std::int32_t> on = NumberIfPresent(ticket, "com.zarvo.Act.jtml.On");
+  const std::optional<std::int32_t> on = NumberIfPresent(ticket, key::kXmlAccounting);
   if (!on) {
     LogLine("DEBUG: No accounting ticket present");
     return;
@@ -100,17 +101,17 @@ void WriteJTMLAccounting(const Dictionary& ticket) {
   LogLine("DEBUG: Found accounting key: %d", *on);
   if (*on != kUserAndAccount) return;
   LogLine("DEBUG: Accounting is enabled");
-  const std::string user = AccountingText(ticket, "com.zarvo.Act.jtml.UID");
-  const std::string account = AccountingText(ticket, "com.zarvo.Act.jtml.AID");
+  const std::string user = AccountingText(ticket, key::kXmlAccountUser);
+  const std::string account = AccountingText(ticket, key::kXmlAccount);
   LogLine("DEBUG: user id %s, acct id %s", user.c_str(), account.c_str());
   WriteJtmlAccounting(&writeData, XMLCreateStringByEscapingEntities(user).c_str(),
                       XMLCreateStringByEscapingEntities(account).c_str());
 }
 
 void WriteJTMLPagesToPrint(const Dictionary& ticket) {
-  if (NumberOr(ticket, "com.zarvo.print.PagesToPrintSelected", 0) != 1) return;
-  const std::int32_t from = NumberOr(ticket, "com.zarvo.print.PagesToPrintFrom", 0);
-  const std::int32_t to = NumberOr(ticket, "com.zarvo.print.PagesToPrintTo", 0);
+  if (NumberOr(ticket, key::kPagesToPrintSelected, 0) != 1) return;
+  const std::int32_t from = NumberOr(ticket, key::kPagesToPrintFrom, 0);
+  const std::int32_t to = NumberOr(ticket, key::kPagesToPrintTo, 0);
   if (from > 0 && to > 0) {
     WriteJtmlPageRanges(&writeData, std::min(from, to), std::max(from, to));
   }

@@ -6,24 +6,29 @@
 #include "CUPSFilter/JTML/StockSection.h"
 #include "CUPSFilter/jtmlgen/JtmlWriters.h"
 #include "Source/CFAdditions.h"
+#include "Source/TicketNames.h"
 
 namespace zarvo {
 namespace {
 
-/// The two lists of special pages, by their writers' codes.
-enum List { kExceptions = 0, kInserts = 1 };
+constexpr CodePair kCoverTypes[] = {{kCoverBlank, kJtmlCoverBlank},
+                                    {kCoverFront, kJtmlCoverFront},
+                                    {kCoverBack, kJtmlCoverBack},
+                                    {kCoverBothSides, kJtmlCoverBothSides}};
+constexpr CodePair kSides[] = {
+    {kOneSided, kJtmlOneSided}, {kLongEdge, kJtmlLongEdge}, {kShortEdge, kJtmlShortEdge}};
 
 /// The medium of a special page; without a stock it is the page's size that is known.
 _MEDIADATA MediaOf(const Dictionary& special, EscapedTexts* texts) {
-  const Dictionary* stock = DictionaryGetDictionary(special, "Stock");
+  const Dictionary* stock = DictionaryGetDictionary(special, key::special_page::kStock);
   return MediaFromStock(stock != nullptr ? *stock : Dictionary(), texts);
 }
 
 void WriteCover(const Dictionary& ticket, std::string_view key, int which) {
   const Dictionary* cover = DictionaryGetDictionary(ticket, key);
   if (cover == nullptr) return;
-  std::int32_t type = NumberOr(*cover, "SidesImaged", 1);
-  if (type < 1 || type > 4) type = 1;
+  const int type =
+      MapCode(kCoverTypes, NumberOr(*cover, key::special_page::kSidesImaged, 0), kJtmlCoverBlank);
   EscapedTexts texts;
   const _MEDIADATA media = MediaOf(*cover, &texts);
   WriteJtmlCovers(&writeData, which, type, &media);
@@ -32,13 +37,12 @@ void WriteCover(const Dictionary& ticket, std::string_view key, int which) {
 void WriteInsert(const Dictionary& insert) {
   EscapedTexts texts;
   const _MEDIADATA media = MediaOf(insert, &texts);
-  WriteJtmlInserts(&writeData, NumberOr(insert, "StartPage", 0), NumberOr(insert, "Quantity", 1),
-                   &media);
+  WriteJtmlInserts(&writeData, NumberOr(insert, key::special_page::kStartPage, 0),
+                   NumberOr(insert, key::special_page::kQuantity, 1), &media);
 }
 
 void FillShift(_PAGEDATA* page, const Dictionary& exception) {
-  const Dictionary* options =
-      DictionaryGetDictionary(exception, "com.zarvo.print.ImageShiftOptionsPage");
+  const Dictionary* options = DictionaryGetDictionary(exception, key::special_page::kImageShift);
   if (options == nullptr) return;
   const ImageShift shift = FillImageShift(*options);
   page->bImageShift = true;
@@ -49,28 +53,28 @@ void FillShift(_PAGEDATA* page, const Dictionary& exception) {
 }
 
 void WriteException(const Dictionary& exception) {
-  constexpr CodePair kSides[] = {{1, 0}, {2, 1}, {3, 2}};
   EscapedTexts texts;
   _PAGEDATA page;
   page.nInDocLB = page.nInDocUB = 1;
-  page.nPagesLB = NumberOr(exception, "StartPage", 1);
-  page.nPagesUB = NumberOr(exception, "EndPage", page.nPagesLB);
+  page.nPagesLB = NumberOr(exception, key::special_page::kStartPage, 1);
+  page.nPagesUB = NumberOr(exception, key::special_page::kEndPage, page.nPagesLB);
   if (page.nPagesUB < page.nPagesLB) std::swap(page.nPagesLB, page.nPagesUB);
-  page.nSides = MapCode(kSides, NumberOr(exception, "SidesImaged", 0), -1);
-  page.bIsLightenDark = CFDictionaryGetNumber(exception, "LightenDarken", &page.nAdjustLightness);
+  page.nSides = MapCode(kSides, NumberOr(exception, key::special_page::kSidesImaged, 0), -1);
+  page.bIsLightenDark =
+      CFDictionaryGetNumber(exception, key::special_page::kLightenDarken, &page.nAdjustLightness);
   FillShift(&page, exception);
-  if (const auto* color = DictionaryGetDictionary(exception, "FullColorOptionsPage")) {
+  if (const auto* color = DictionaryGetDictionary(exception, key::special_page::kFullColor)) {
     FillFullColor(&page, &texts, *color);
   }
   // The exception's own choices outrank those of its colour settings.
-  CFDictionaryGetNumber(exception, "Antialiasing", &page.fcAntiAliasing);
-  CFDictionaryGetNumber(exception, "HalftoneScreen", &page.fcHalftone);
-  CFDictionaryGetNumber(exception, "OutputColor", &page.fcOutputColor);
+  CFDictionaryGetNumber(exception, key::special_page::kAntialiasing, &page.fcAntiAliasing);
+  CFDictionaryGetNumber(exception, key::special_page::kHalftoneScreen, &page.fcHalftone);
+  CFDictionaryGetNumber(exception, key::special_page::kOutputColor, &page.fcOutputColor);
   const _MEDIADATA media = MediaOf(exception, &texts);
   WriteJtmlPageExceptions(&writeData, &page, &media);
 }
 
-void WriteList(const Dictionary& ticket, std::string_view key, List list,
+void WriteList(const Dictionary& ticket, std::string_view key, JtmlSpecialPages list,
                void (*write)(const Dictionary&)) {
   const Array* elements = DictionaryGetArray(ticket, key);
   if (elements == nullptr) return;
@@ -84,7 +88,7 @@ void WriteList(const Dictionary& ticket, std::string_view key, List list,
 }  // namespace
 
 void WriteJTMLJobLevelStock(const Dictionary& ticket) {
-  const Dictionary* stock = DictionaryGetDictionary(ticket, "com.zarvo.print.JobLevelStock");
+  const Dictionary* stock = DictionaryGetDictionary(ticket, key::kJobLevelStock);
   if (stock == nullptr) return;
   EscapedTexts texts;
   const _MEDIADATA media = MediaFromStock(*stock, &texts);
@@ -92,19 +96,19 @@ void WriteJTMLJobLevelStock(const Dictionary& ticket) {
 }
 
 void WriteJTMLFrontCover(const Dictionary& ticket) {
-  WriteCover(ticket, "com.zarvo.print.SpecialPages.FrontCover", 0);
+  WriteCover(ticket, key::kFrontCover, kJtmlFrontCover);
 }
 
 void WriteJTMLBackCover(const Dictionary& ticket) {
-  WriteCover(ticket, "com.zarvo.print.SpecialPages.BackCover", 1);
+  WriteCover(ticket, key::kBackCover, kJtmlBackCover);
 }
 
 void WriteJTMLInserts(const Dictionary& ticket) {
-  WriteList(ticket, "com.zarvo.print.SpecialPages.InsertList", kInserts, &WriteInsert);
+  WriteList(ticket, key::kInsertList, kJtmlInserts, &WriteInsert);
 }
 
 void WriteJTMLExceptions(const Dictionary& ticket) {
-  WriteList(ticket, "com.zarvo.print.SpecialPages.ExceptionList", kExceptions, &WriteException);
+  WriteList(ticket, key::kExceptionList, kJtmlExceptions, &WriteException);
 }
 
 }  // namespace zarvo

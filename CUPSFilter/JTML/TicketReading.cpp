@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "Source/CFAdditions.h"
+#include "Source/TicketNames.h"
 
 namespace zarvo {
 namespace {
@@ -78,8 +79,8 @@ std::int32_t Scaled(std::int32_t value, double factor) {
 
 bool HasFullPrecision(const Dictionary& dictionary) {
   // Any value but the boolean false turns it on.
-  return DictionaryContains(dictionary, "FullPrecision") &&
-         DictionaryGetBoolean(dictionary, "FullPrecision").value_or(true);
+  return DictionaryContains(dictionary, key::shift::kFullPrecision) &&
+         DictionaryGetBoolean(dictionary, key::shift::kFullPrecision).value_or(true);
 }
 
 int MapCode(std::span<const CodePair> table, std::int32_t code, int fallback) {

@@ -7,6 +7,7 @@
 #include "CUPSFilter/Options/common.h"
 #include "Source/CFAdditions.h"
 #include "Source/Mappings.h"
+#include "Source/TicketNames.h"
 
 namespace zarvo {
 namespace {
@@ -33,12 +34,12 @@ XSIZE SizeOfPage() {
 
 void FillMediaSize(_MEDIADATA* media, const Dictionary& stockTicket) {
   std::int32_t size = kNotSet;
-  CFDictionaryGetNumber(stockTicket, "Size", &size);
+  CFDictionaryGetNumber(stockTicket, key::stock::kSize, &size);
   std::int32_t width = 0;
   std::int32_t height = 0;
   if (!GetStockDimensionsForSize(size, &width, &height)) {
-    CFDictionaryGetNumber(stockTicket, "Width", &width);
-    CFDictionaryGetNumber(stockTicket, "Length", &height);
+    CFDictionaryGetNumber(stockTicket, key::stock::kWidth, &width);
+    CFDictionaryGetNumber(stockTicket, key::stock::kLength, &height);
   }
   const bool known = width != kNotSet && height != kNotSet;
   media->MediaSize = known ? Size(width, height) : XSIZE{};

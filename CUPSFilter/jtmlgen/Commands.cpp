@@ -5,16 +5,17 @@
 namespace zarvo {
 namespace {
 
-constexpr Keyword kSides[] = {
-    {0, "one-sided"}, {1, "two-sided-long-edge"}, {2, "two-sided-short-edge"}};
+constexpr Keyword kSides[] = {{kJtmlOneSided, "one-sided"},
+                              {kJtmlLongEdge, "two-sided-long-edge"},
+                              {kJtmlShortEdge, "two-sided-short-edge"}};
 constexpr Keyword kOrientations[] = {{0, "3"}, {1, "4"}, {2, "5"}, {3, "6"}};
-constexpr Keyword kOutputBins[] = {{0, "automatic"}, {1, "top"},      {2, "stacker"},
-                                   {3, "side"},      {4, "top-1"},    {5, "top-2"},
-                                   {6, "stacker-1"}, {7, "stacker-2"}};
+constexpr Keyword kOutputBins[] = {
+    {kJtmlBinAutomatic, "automatic"}, {kJtmlBinTop, "top"},           {kJtmlBinStacker, "stacker"},
+    {kJtmlBinSide, "side"},           {kJtmlBinTop1, "top-1"},        {kJtmlBinTop2, "top-2"},
+    {kJtmlBinStacker1, "stacker-1"},  {kJtmlBinStacker2, "stacker-2"}};
 constexpr Keyword kTonerSavers[] = {{0, "none"}, {1, "standard"}};
 constexpr Keyword kDarknessModes[] = {{2, "normal"}, {3, "corvanta180-adjustable"}};
-// 1 leaves the page as it is.
-constexpr Keyword kRotations[] = {{1, "rotate-0"}, {0, "rotate-180"}};
+constexpr Keyword kRotations[] = {{kJtmlRotate0, "rotate-0"}, {kJtmlRotate180, "rotate-180"}};
 constexpr Keyword kOpiInsertions[] = {{0, "insert"}, {1, "do-not-insert"}};
 constexpr Keyword kOpiPreScans[] = {
     {0, "no-pre-scan"}, {1, "pre-scan"}, {2, "pre-scan-and-gather"}};
@@ -75,10 +76,10 @@ std::string JobOffset(int value) {
   const auto add = [&text](const char* keyword) {
     text += Element(3, "value", Syntax::kKeyword, keyword);
   };
-  if (value == 0) add("none");
-  if (value == 1 || value == 3) add("offset-set");
-  if (value == 2 || value == 3) add("offset-subset");
-  if (value == 4) add("offset-job");
+  if (value == kJtmlOffsetNone) add("none");
+  if (value == kJtmlOffsetSets || value == kJtmlOffsetSetsAndSubsets) add("offset-set");
+  if (value == kJtmlOffsetSubsets || value == kJtmlOffsetSetsAndSubsets) add("offset-subset");
+  if (value == kJtmlOffsetJob) add("offset-job");
   return text + EndLine(2, "job-offset");
 }
 

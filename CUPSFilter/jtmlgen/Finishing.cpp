@@ -7,15 +7,25 @@ namespace zarvo {
 namespace {
 
 // The words are the enumeration values of the printer's `finishings` attribute.
-constexpr Keyword kStaples[] = {{0, "20"},  {1, "22"},  {2, "21"},  {3, "28"},  {4, "29"},
-                                {5, "31"},  {6, "30"},  {7, "110"}, {16, "32"}, {17, "33"},
-                                {18, "35"}, {19, "34"}, {20, "23"}};
-constexpr Keyword kFolds[] = {{9, "3"},     {10, "111"},  {11, "1000"}, {12, "1001"}, {13, "50"},
-                              {14, "52"},   {15, "13"},   {21, "1003"}, {22, "1004"}, {23, "111"},
-                              {24, "110"},  {25, "1011"}, {26, "1008"}, {27, "1000"}, {28, "1005"},
-                              {29, "1001"}, {30, "1012"}};
-constexpr Keyword kPunches[] = {{31, "93"}, {32, "94"}, {33, "95"}, {34, "96"}};
-constexpr Keyword kPunchHoles[] = {{35, "90"}, {36, "91"}, {37, "92"}};
+constexpr Keyword kStaples[] = {
+    {kJtmlStapleTopLeft, "20"},    {kJtmlStapleTopRight, "22"},     {kJtmlStapleBottomLeft, "21"},
+    {kJtmlStapleDualLeft, "28"},   {kJtmlStapleDualTop, "29"},      {kJtmlStapleDualBottom, "31"},
+    {kJtmlStapleDualRight, "30"},  {kJtmlStapleBooklet, "110"},     {kJtmlStapleTripleLeft, "32"},
+    {kJtmlStapleTripleTop, "33"},  {kJtmlStapleTripleBottom, "35"}, {kJtmlStapleTripleRight, "34"},
+    {kJtmlStapleBottomRight, "23"}};
+constexpr Keyword kFolds[] = {
+    {kJtmlNoFinishing, "3"},   {kJtmlFoldBooklet, "111"},       {kJtmlFoldC, "1000"},
+    {kJtmlFoldZ, "1001"},      {kJtmlBindLeft, "50"},           {kJtmlBindRight, "52"},
+    {kJtmlBookletMaker, "13"}, {kJtmlFold1003, "1003"},         {kJtmlFold1004, "1004"},
+    {kJtmlFoldHalf, "111"},    {kJtmlFoldHalfAndStaple, "110"}, {kJtmlZFold1011, "1011"},
+    {kJtmlZFold1008, "1008"},  {kJtmlFoldCAlso, "1000"},        {kJtmlFold1005, "1005"},
+    {kJtmlFoldZAlso, "1001"},  {kJtmlFold1012, "1012"}};
+constexpr Keyword kPunches[] = {{kJtmlPunchLeft, "93"},
+                                {kJtmlPunchTop, "94"},
+                                {kJtmlPunchRight, "95"},
+                                {kJtmlPunchBottom, "96"}};
+constexpr Keyword kPunchHoles[] = {
+    {kJtmlTwoHoles, "90"}, {kJtmlThreeHoles, "91"}, {kJtmlFourHoles, "92"}};
 
 }  // namespace
 

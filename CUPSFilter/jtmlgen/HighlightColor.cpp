@@ -5,8 +5,6 @@
 namespace zarvo {
 namespace {
 
-constexpr int kCustomColor = 12;
-
 constexpr Keyword kColorants[] = {
     {0, "red"}, {1, "green"}, {2, "blue"}, {3, "royal"}, {4, "use-ready"}};
 constexpr Keyword kMapColors[] = {{0, "red"},
@@ -21,7 +19,7 @@ constexpr Keyword kMapColors[] = {{0, "red"},
                                   {9, "ruby"},
                                   {10, "violet"},
                                   {11, "brown"},
-                                  {kCustomColor, "other"}};
+                                  {kJtmlCustomMapColor, "other"}};
 constexpr Keyword kMismatchActions[] = {{0, "use-ready"}, {1, "abort"}, {2, "hold"}};
 constexpr Keyword kMappings[] = {{0, "object-based"},
                                  {1, "pictorial"},
@@ -56,7 +54,7 @@ JtmlGenError WriteJtmlHLC(LPWRITEDATA lpWriteData, LPPAGEDATA lpPageData) {
     }
   };
   send("highlight-colorant", kColorants, lpPageData->hlcPrintingColor);
-  if (lpPageData->hlcMappingColor == kCustomColor) SendCustomColor(lpWriteData, *lpPageData);
+  if (lpPageData->hlcMappingColor == kJtmlCustomMapColor) SendCustomColor(lpWriteData, *lpPageData);
   send("highlight-map-color", kMapColors, lpPageData->hlcMappingColor);
   send("highlight-colorant-mismatch", kMismatchActions, lpPageData->hlcMismatchAction);
   send("highlight-map", kMappings, lpPageData->hlcMappingAlgorithm);

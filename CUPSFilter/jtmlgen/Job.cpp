@@ -5,10 +5,8 @@
 namespace zarvo {
 namespace {
 
-enum JobType { kNoDisposition = 0, kHold = 1, kSaveOnly = 2, kPrintAndSave = 3, kPlain = 4 };
-
 constexpr Keyword kSaveDispositions[] = {
-    {kNoDisposition, "none"}, {kSaveOnly, "save-only"}, {kPrintAndSave, "print-save"}};
+    {kJtmlPlainJob, "none"}, {kJtmlSaveOnly, "save-only"}, {kJtmlPrintAndSave, "print-save"}};
 constexpr Keyword kSaveFormats[] = {{0, "application/X-single-page-tiff"},
                                     {1, "application/X-multi-page-tiff"},
                                     {2, "application/pdf"},
@@ -38,16 +36,16 @@ JtmlGenError WriteJtmlJobNotes(LPWRITEDATA lpWriteData, LPJOBNOTEDATA lpJobNoteD
 
 JtmlGenError WriteJtmlJobTypes(LPWRITEDATA lpWriteData, LPJOBDATA lpJobData) {
   const int type = lpJobData->nJobType;
-  const bool collection = type != kHold && type != kPlain;
+  const bool collection = type != kJtmlHold && type != kJtmlNoElement;
   std::string text;
   if (collection) text = StartLine(2, "job-save-disposition", Syntax::kCollection);
-  if (type == kHold) text = Element(3, "job-hold-until", Syntax::kKeyword, "indefinite");
+  if (type == kJtmlHold) text = Element(3, "job-hold-until", Syntax::kKeyword, "indefinite");
   if (const char* disposition = FindKeyword(kSaveDispositions, type)) {
     text += Element(3, "save-disposition", Syntax::kKeyword, disposition);
   }
   if (!text.empty()) Send(lpWriteData, text);
 
-  if (type == kSaveOnly || type == kPrintAndSave) {
+  if (type == kJtmlSaveOnly || type == kJtmlPrintAndSave) {
     const char* format = FindKeyword(kSaveFormats, lpJobData->nMIMEMediaType);
     Send(lpWriteData,
          StartLine(3, "save-info", Syntax::kSetOf) + StartLine(4, "value", Syntax::kCollection) +

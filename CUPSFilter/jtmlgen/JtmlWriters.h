@@ -127,11 +127,10 @@ JtmlGenError WriteJtmlHLC(LPWRITEDATA lpWriteData, LPPAGEDATA lpPageData);
 
 // --- SpecialPages.cpp ---
 
-/// Start and end of a list of special pages: `nSPOption` 0 page exceptions, 1 inserts.
+/// Start and end of a list of special pages; `nSPOption` is a JtmlSpecialPages.
 JtmlGenError WriteJtmlSpecialPagesStart(LPWRITEDATA lpWriteData, int nSPOption);
 JtmlGenError WriteJtmlSpecialPagesEnd(LPWRITEDATA lpWriteData, int nSPOption);
-/// A cover: `nCovers` 0 front, 1 back; `nCoverType` 0 none, 1 blank, 2 printed on the front, 3 on
-/// the back, 4 on both.
+/// A cover; `nCovers` is a JtmlCover, `nCoverType` a JtmlCoverType.
 JtmlGenError WriteJtmlCovers(LPWRITEDATA lpWriteData, int nCovers, int nCoverType,
                              LPMEDIADATA lpMediaData);
 /// `nInsertCount` sheets behind page `nInsertAfter`.

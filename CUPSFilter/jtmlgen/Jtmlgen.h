@@ -14,6 +14,118 @@
 
 namespace zarvo {
 
+// Codes of the records that stand for a choice of the print dialog; -1 is none. Numbers without a
+// name here are handed on from the ticket as they are.
+enum JtmlFinishing : int {
+  kJtmlStapleTopLeft = 0,
+  kJtmlStapleTopRight = 1,
+  kJtmlStapleBottomLeft = 2,
+  kJtmlStapleDualLeft = 3,
+  kJtmlStapleDualTop = 4,
+  kJtmlStapleDualBottom = 5,
+  kJtmlStapleDualRight = 6,
+  kJtmlStapleBooklet = 7,
+  kJtmlNoFinishing = 9,
+  kJtmlFoldBooklet = 10,
+  kJtmlFoldC = 11,
+  kJtmlFoldZ = 12,
+  kJtmlBindLeft = 13,
+  kJtmlBindRight = 14,
+  kJtmlBookletMaker = 15,
+  kJtmlStapleTripleLeft = 16,
+  kJtmlStapleTripleTop = 17,
+  kJtmlStapleTripleBottom = 18,
+  kJtmlStapleTripleRight = 19,
+  kJtmlStapleBottomRight = 20,
+  kJtmlFold1003 = 21,
+  kJtmlFold1004 = 22,
+  kJtmlFoldHalf = 23,
+  kJtmlFoldHalfAndStaple = 24,
+  kJtmlZFold1011 = 25,
+  kJtmlZFold1008 = 26,
+  kJtmlFoldCAlso = 27,
+  kJtmlFold1005 = 28,
+  kJtmlFoldZAlso = 29,
+  kJtmlFold1012 = 30,
+  kJtmlPunchLeft = 31,
+  kJtmlPunchTop = 32,
+  kJtmlPunchRight = 33,
+  kJtmlPunchBottom = 34,
+  kJtmlTwoHoles = 35,
+  kJtmlThreeHoles = 36,
+  kJtmlFourHoles = 37,
+  kJtmlPunchWithoutWord = 38,
+};
+enum JtmlMediaType : int {
+  kJtmlStationery = 0,
+  kJtmlTransparency = 1,
+  kJtmlTabStock = 2,
+  kJtmlPreCutTabs = 3,
+  kJtmlFullCutTabs = 4,
+  kJtmlLabels = 5,
+  kJtmlPrePrinted = 6,
+  kJtmlRecycled = 7,
+  kJtmlEnvelope = 8,
+  kJtmlNamedType = 9,
+  kJtmlNamedTypeAlso = 10,
+  kJtmlOtherType = 11,
+  kJtmlBond = 12,
+  kJtmlLetterHead = 13,
+};
+enum JtmlMediaColor : int {
+  kJtmlNoColor = 0,
+  kJtmlWhite = 1,
+  kJtmlPink = 2,
+  kJtmlYellow = 3,
+  kJtmlBlue = 4,
+  kJtmlGreen = 5,
+  kJtmlBuff = 6,
+  kJtmlGoldenrod = 7,
+  kJtmlRed = 8,
+  kJtmlIvory = 9,
+  kJtmlGray = 10,
+  kJtmlOrange = 11,
+  kJtmlNamedColor = 12,
+};
+enum JtmlSides : int { kJtmlOneSided = 0, kJtmlLongEdge = 1, kJtmlShortEdge = 2 };
+enum JtmlRotation : int { kJtmlRotate180 = 0, kJtmlRotate0 = 1 };
+enum JtmlOutputBin : int {
+  kJtmlBinAutomatic = 0,
+  kJtmlBinTop = 1,
+  kJtmlBinStacker = 2,
+  kJtmlBinSide = 3,
+  kJtmlBinTop1 = 4,
+  kJtmlBinTop2 = 5,
+  kJtmlBinStacker1 = 6,
+  kJtmlBinStacker2 = 7,
+};
+enum JtmlOffset : int {
+  kJtmlOffsetNone = 0,
+  kJtmlOffsetSets = 1,
+  kJtmlOffsetSubsets = 2,
+  kJtmlOffsetSetsAndSubsets = 3,
+  kJtmlOffsetJob = 4,
+};
+/// How the printer keeps the job; kJtmlNoElement leaves the disposition out.
+enum JtmlJobType : int {
+  kJtmlPlainJob = 0,
+  kJtmlHold = 1,
+  kJtmlSaveOnly = 2,
+  kJtmlPrintAndSave = 3,
+  kJtmlNoElement = 4,
+};
+enum JtmlSpecialPages : int { kJtmlExceptions = 0, kJtmlInserts = 1 };
+enum JtmlCover : int { kJtmlFrontCover = 0, kJtmlBackCover = 1 };
+enum JtmlCoverType : int {
+  kJtmlNoCover = 0,
+  kJtmlCoverBlank = 1,
+  kJtmlCoverFront = 2,
+  kJtmlCoverBack = 3,
+  kJtmlCoverBothSides = 4,
+};
+/// The highlight map colour that takes its values from the record.
+constexpr int kJtmlCustomMapColor = 12;
+
 /// The result of every writer. A writer always gives JTML_SUCCESS: output errors show on the
 /// stream, and a value that the format has no word for is left out of the ticket.
 enum JtmlGenError { JTML_SUCCESS = 0, JTML_INVALID_KEY, JTML_INVALID_VALUE, JTML_ERROR };

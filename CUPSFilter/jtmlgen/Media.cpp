@@ -5,22 +5,20 @@
 namespace zarvo {
 namespace {
 
-// Media types that write no type line, or one that is not in the table.
-enum MediaType {
-  kPrePrintedMedia = 6,
-  kRecycledMedia = 7,
-  kNamedMedia = 9,
-  kNamedMediaAlso = 10,
-  kLetterHeadMedia = 13,
-};
-constexpr int kNamedColor = 12;
-
-constexpr Keyword kMediaTypes[] = {{0, "stationery"},   {1, "transparency"},  {2, "tab-stock"},
-                                   {3, "pre-cut-tabs"}, {4, "full-cut-tabs"}, {5, "labels"},
-                                   {8, "envelope"},     {11, "other"},        {12, "bond"}};
-constexpr Keyword kMediaColors[] = {{0, "no-color"}, {1, "white"}, {2, "pink"},  {3, "yellow"},
-                                    {4, "blue"},     {5, "green"}, {6, "buff"},  {7, "goldenrod"},
-                                    {8, "red"},      {9, "ivory"}, {10, "gray"}, {11, "orange"}};
+constexpr Keyword kMediaTypes[] = {{kJtmlStationery, "stationery"},
+                                   {kJtmlTransparency, "transparency"},
+                                   {kJtmlTabStock, "tab-stock"},
+                                   {kJtmlPreCutTabs, "pre-cut-tabs"},
+                                   {kJtmlFullCutTabs, "full-cut-tabs"},
+                                   {kJtmlLabels, "labels"},
+                                   {kJtmlEnvelope, "envelope"},
+                                   {kJtmlOtherType, "other"},
+                                   {kJtmlBond, "bond"}};
+constexpr Keyword kMediaColors[] = {
+    {kJtmlNoColor, "no-color"}, {kJtmlWhite, "white"},         {kJtmlPink, "pink"},
+    {kJtmlYellow, "yellow"},    {kJtmlBlue, "blue"},           {kJtmlGreen, "green"},
+    {kJtmlBuff, "buff"},        {kJtmlGoldenrod, "goldenrod"}, {kJtmlRed, "red"},
+    {kJtmlIvory, "ivory"},      {kJtmlGray, "gray"},           {kJtmlOrange, "orange"}};
 constexpr Keyword kPrePrinted[] = {{0, "blank"}, {1, "pre-printed"}, {2, "letter-head"}};
 constexpr Keyword kRecycled[] = {{0, "none"}, {1, "standard"}};
 constexpr Keyword kCoatings[] = {
@@ -45,16 +43,16 @@ std::string Text(const char* element, Syntax syntax, const char* text) {
 /// The type, and what a type says of its being pre-printed or recycled.
 std::string TypeLines(const _MEDIADATA& media) {
   switch (media.nMediaType) {
-    case kPrePrintedMedia:
+    case kJtmlPrePrinted:
       return Coded("media-pre-printed", kPrePrinted, 1);
-    case kLetterHeadMedia:
+    case kJtmlLetterHead:
       return Coded("media-pre-printed", kPrePrinted, 2);
-    case kRecycledMedia:
+    case kJtmlRecycled:
       return Coded("media-recycled", kRecycled, 1);
     default:
       break;
   }
-  const bool named = media.nMediaType == kNamedMedia || media.nMediaType == kNamedMediaAlso;
+  const bool named = media.nMediaType == kJtmlNamedType || media.nMediaType == kJtmlNamedTypeAlso;
   return (named ? Text("media-type", Syntax::kName, media.strMediaType)
                 : Coded("media-type", kMediaTypes, media.nMediaType)) +
          Coded("media-pre-printed", kPrePrinted, media.nPrePrinted) +
@@ -82,12 +80,12 @@ std::string Members(const _MEDIADATA& media) {
   if (media.strMediaName != nullptr && *media.strMediaName != '\0') {
     return Text("media-key", Syntax::kName, media.strMediaName);
   }
-  const bool tabs = media.nMediaType >= 2 && media.nMediaType <= 4;
+  const bool tabs = media.nMediaType >= kJtmlTabStock && media.nMediaType <= kJtmlFullCutTabs;
   return TypeLines(media) + (tabs ? Counted("media-order-count", media.nOrderCount) : "") +
          Counted("media-weight-metric", media.nWeight) +
          Text("media-description", Syntax::kText, media.strMediaDescription) +
          Counted("media-hole-count", media.nHoleCount) +
-         (media.nMediaColor == kNamedColor
+         (media.nMediaColor == kJtmlNamedColor
               ? Text("media-color", Syntax::kName, media.strMediaColor)
               : Coded("media-color", kMediaColors, media.nMediaColor)) +
          SizeLines(media.MediaSize) + CoatingLines(media) +

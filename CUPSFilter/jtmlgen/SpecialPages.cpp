@@ -5,10 +5,14 @@
 namespace zarvo {
 namespace {
 
-constexpr Keyword kSections[] = {{0, "page-overrides"}, {1, "insert-sheet"}};
-constexpr Keyword kCovers[] = {{0, "cover-front"}, {1, "cover-back"}};
-constexpr Keyword kCoverTypes[] = {
-    {0, "no-cover"}, {1, "print-none"}, {2, "print-front"}, {3, "print-back"}, {4, "print-both"}};
+constexpr Keyword kSections[] = {{kJtmlExceptions, "page-overrides"},
+                                 {kJtmlInserts, "insert-sheet"}};
+constexpr Keyword kCovers[] = {{kJtmlFrontCover, "cover-front"}, {kJtmlBackCover, "cover-back"}};
+constexpr Keyword kCoverTypes[] = {{kJtmlNoCover, "no-cover"},
+                                   {kJtmlCoverBlank, "print-none"},
+                                   {kJtmlCoverFront, "print-front"},
+                                   {kJtmlCoverBack, "print-back"},
+                                   {kJtmlCoverBothSides, "print-both"}};
 
 /// A set that holds one range of numbers, three tabs deep.
 std::string Range(const char* element, std::int32_t low, std::int32_t high) {

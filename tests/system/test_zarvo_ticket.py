@@ -7,7 +7,7 @@ import plistlib
 import re
 import unittest
 
-from zarvo import SOURCE, ZarvoTest
+from zarvo import BIN, SOURCE, ZarvoTest
 
 NASTY = "a b\tc\nd 'e' \"f\" \\g {h} i=j , \u00e9 \u65e5 #$%"
 TICKET = {
@@ -99,8 +99,7 @@ class Ticket(ZarvoTest):
         good = '{"JobType": {"JobType": "proof"}, "outputorder": "reverse", "PageSize": "A4"}'
         self.assertEqual(self.run_zarvo("ticket", "check", stdin=good), "")
 
-    def test_keys_are_those_of_the_ticket_page(self):
-        """The page tells the options, the tool the keys; neither may know more than the other."""
+    def test_page_tool_and_filter_know_the_same_keys(self):
         types = {"n": ("number", "date", "any"), "b": ("boolean", "any"), "": ("text", "any")}
         lines = self.run_zarvo("ticket", "keys").splitlines()
         listed = {key: kind for key, kind, _ in (line.split("\t") for line in lines)}
@@ -117,6 +116,13 @@ class Ticket(ZarvoTest):
         # Whole groups are described once, for the first key that holds one.
         elsewhere = r"/Stock/|ImageShiftOptionsPage/|FullColorOptionsPage/|(InsertList|ExceptionList)/Stock"
         self.assertEqual([key for key in set(listed) - told if not re.search(elsewhere, key)], [])
+        # What the filter reads is in it as a text.
+        program = (BIN / "zarvofilter").read_bytes()
+        unread = [key for key in listed if key.rpartition("/")[2].encode() + b"\0" not in program]
+        self.assertEqual(unread, [])
+        read = {name.decode() for name in re.findall(rb"(com\.(?:zarvo|apple)\.\w[\w.]*)\0", program)}
+        not_keys = {name for name in read if name.endswith((".plist", ".mailbox"))}
+        self.assertEqual(sorted(read - not_keys - {key.rpartition("/")[2] for key in listed}), [])
 
 
 if __name__ == "__main__":

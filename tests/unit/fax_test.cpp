@@ -10,14 +10,14 @@
 
 #include "CUPSFilter/Header/FaxComments.h"
 #include "Source/FaxCover.h"
-#include "Source/FaxKeys.h"
+#include "Source/TicketNames.h"
 #include "tests/unit/transcript.h"
 
 namespace zarvo {
 namespace {
 
-const std::string kOptions(kFaxOptionsTicketKey);
-const std::string kList(kFaxRecipientListTicketKey);
+const std::string kOptions(key::kFaxOptions);
+const std::string kList(key::kFaxRecipientList);
 
 // 2026-11-22 14:30:15 on the local clock.
 constexpr std::int64_t kNow = 3878202615;

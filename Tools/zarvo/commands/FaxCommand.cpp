@@ -10,7 +10,7 @@
 #include "Source/CFAdditions.h"
 #include "Source/DrawHelper.h"
 #include "Source/FaxCover.h"
-#include "Source/FaxKeys.h"
+#include "Source/TicketNames.h"
 #include "Tools/zarvo/Command.h"
 #include "Tools/zarvo/ticket/TicketText.h"
 
@@ -29,9 +29,9 @@ int Preview(const Options& options) {
   std::optional<Dictionary> ticket = ReadTicket(text, &error);
   if (!ticket) return Fail(options.settings, error);
   // Who asks to see the cover wants one, whether or not the job does.
-  Dictionary& fax = CFDictionaryGetDictionaryOrCreate(*ticket, kFaxOptionsTicketKey);
+  Dictionary& fax = CFDictionaryGetDictionaryOrCreate(*ticket, key::kFaxOptions);
   fax.insert_or_assign(std::string(kFaxPrintCoverSheetProperty), Value::Boolean(true));
-  ticket->emplace(kFaxRecipientListTicketKey, Array());
+  ticket->emplace(key::kFaxRecipientList, Array());
   const std::optional<FaxCover> cover = FaxCoverFromTicket(*ticket);
   if (!cover) return Fail(options.settings, "asks for no cover sheet");
   const auto description = SerializePropertyList(FaxCoverToDictionary(*cover));

@@ -10,7 +10,7 @@
 #include "Platform/Text.h"
 #include "Source/CFAdditions.h"
 #include "Source/Fax.h"
-#include "Source/FaxKeys.h"
+#include "Source/TicketNames.h"
 #include "Tools/zarvo/Command.h"
 #include "Tools/zarvo/ticket/TicketText.h"
 
@@ -92,7 +92,7 @@ int List(const Options& options) {
     for (const AddressBookRecord* person : people)
       list.emplace_back(FaxRecipientFromCard(person->card).toTicket());
     Dictionary ticket;
-    ticket.emplace(kFaxRecipientListTicketKey, std::move(list));
+    ticket.emplace(key::kFaxRecipientList, std::move(list));
     std::printf("%s", TicketToJson(ticket).c_str());
     return kExitOk;
   }

@@ -17,6 +17,7 @@
 #include "Source/DrawHelper.h"
 #include "Source/FaxCover.h"
 #include "Source/Preferences.h"
+#include "Source/TicketNames.h"
 #include "Source/WatermarkSupport.h"
 #include "Tools/zarvo/Command.h"
 #include "Tools/zarvo/system/Run.h"
@@ -279,9 +280,11 @@ int Show(const Options& options) {
   const ScratchFolder scratch;
   if (!scratch) return Fail("TMPDIR", "no folder for temporary files can be made");
   Dictionary ticket;
-  ticket.emplace("com.zarvo.print.watermark.Watermark", options.name);
-  const int place = options.place == "background" ? 1 : options.place == "overlay" ? 2 : 3;
-  ticket.emplace("com.zarvo.print.watermark.Option", Number(place));
+  ticket.emplace(key::kWatermark, options.name);
+  const WatermarkPlacement place = options.place == "background" ? kWatermarkBackground
+                                   : options.place == "overlay"  ? kWatermarkOverlay
+                                                                 : kWatermarkForeground;
+  ticket.emplace(key::kWatermarkPlace, Number(std::int32_t{place}));
   std::string error;
   const auto flat = FlattenTicket(ticket, &error);
   if (!flat) return Fail(options.name, error);

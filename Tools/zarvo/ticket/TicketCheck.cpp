@@ -3,11 +3,12 @@
 
 #include <algorithm>
 #include <cctype>
+#include <cstring>
 
 #include "Source/CFAdditions.h"
-#include "Source/FaxKeys.h"
 #include "Source/Mappings.h"
 #include "Source/NearestName.h"
+#include "Source/TicketNames.h"
 #include "Tools/zarvo/ticket/TicketKeys.h"
 
 namespace zarvo::tool {
@@ -72,9 +73,8 @@ std::string WordList(const TicketKey& key) {
 
 /// The key without what can be left out at the top of a readable ticket.
 std::string ShortName(const TicketKey& key) {
-  constexpr std::string_view kPrefix = "com.zarvo.print.";
   std::string_view name = key.name;
-  if (name.starts_with(kPrefix)) name.remove_prefix(kPrefix.size());
+  if (name.starts_with(key::kPrefix)) name.remove_prefix(std::strlen(key::kPrefix));
   return std::string(name);
 }
 
@@ -161,39 +161,35 @@ bool HasNumber(const Dictionary& group, std::string_view key, std::int64_t wante
 
 /// Settings that do nothing by themselves.
 void CheckSense(const Dictionary& ticket, Checker* checker) {
-  constexpr const char* kSections = "com.zarvo.print.JTMLOptions";
-  const Dictionary* sections = DictionaryGetDictionary(ticket, kSections);
-  if (sections == nullptr && !HasNumber(ticket, "com.zarvo.print.EmitJTML", 0)) {
+  const Dictionary* sections = DictionaryGetDictionary(ticket, key::kJTMLOptions);
+  if (sections == nullptr && !HasNumber(ticket, key::kEmitJTML, 0)) {
     for (const TicketKey& key : TopLevelKeys()) {
       if (key.xml_only && DictionaryContains(ticket, key.name))
-        checker->Add(key.name, std::string("has no effect without ") + kSections +
+        checker->Add(key.name, std::string("has no effect without ") + key::kJTMLOptions +
                                    "; add {\"JTMLOptionAll\": true} there");
     }
   }
-  constexpr const char* kJob = "com.zarvo.print.JobType";
-  constexpr int kFax = 5;
-  constexpr int kSecure = 6;
-  constexpr int kDelayed = 7;
-  if (const Dictionary* job = DictionaryGetDictionary(ticket, kJob)) {
-    const std::string place = kJob;
-    if (HasNumber(*job, "JobType", kSecure) &&
-        DictionaryGetString(*job, "SecurePrintPassword") == nullptr)
+  if (const Dictionary* job = DictionaryGetDictionary(ticket, key::kJobType)) {
+    const std::string place = key::kJobType;
+    if (HasNumber(*job, key::job_type::kJobType, kJobTypeSecure) &&
+        DictionaryGetString(*job, key::job_type::kSecurePrintPassword) == nullptr)
       checker->Add(place, "a secure job needs a SecurePrintPassword");
-    if (HasNumber(*job, "JobType", kDelayed) && !DictionaryContains(*job, "DelayedPrintTime"))
+    if (HasNumber(*job, key::job_type::kJobType, kJobTypeDelayed) &&
+        !DictionaryContains(*job, key::job_type::kDelayedPrintTime))
       checker->Add(place, "a delayed job needs a DelayedPrintTime");
-    if (HasNumber(*job, "JobType", kFax) &&
-        (!DictionaryContains(ticket, kFaxOptionsTicketKey) ||
-         !DictionaryContains(ticket, kFaxRecipientListTicketKey)))
-      checker->Add(place,
-                   "a fax needs com.zarvo.print.FaxOptions and "
-                   "com.zarvo.print.FaxRecipientList");
+    if (HasNumber(*job, key::job_type::kJobType, kJobTypeFax) &&
+        (!DictionaryContains(ticket, key::kFaxOptions) ||
+         !DictionaryContains(ticket, key::kFaxRecipientList)))
+      checker->Add(
+          place, std::string("a fax needs ") + key::kFaxOptions + " and " + key::kFaxRecipientList);
   }
-  const Dictionary* stock = DictionaryGetDictionary(ticket, "com.zarvo.print.JobLevelStock");
+  const Dictionary* stock = DictionaryGetDictionary(ticket, key::kJobLevelStock);
   std::int32_t size = 0;
   std::int32_t width = 0;
   std::int32_t length = 0;
-  if (stock != nullptr && CFDictionaryGetNumber(*stock, "Size", &size) &&
-      !GetStockDimensionsForSize(size, &width, &length) && !DictionaryContains(*stock, "Width"))
+  if (stock != nullptr && CFDictionaryGetNumber(*stock, key::stock::kSize, &size) &&
+      !GetStockDimensionsForSize(size, &width, &length) &&
+      !DictionaryContains(*stock, key::stock::kWidth))
     checker->Add("com.zarvo.print.JobLevelStock/Size",
                  "no stock has the code " + std::to_string(size) +
                      "; take a known one, or give Width and Length");
