@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Platform/PropertyList.h"
 
-#include <plist/plist.h>
-
 #include <cstdlib>
 #include <limits>
 #include <memory>
 #include <utility>
 
 #include "Platform/PropertyListGuard.h"
+#include "Platform/PropertyListLibrary.h"
 #include "Platform/Text.h"
 
 namespace zarvo {
@@ -19,7 +18,7 @@ constexpr std::int64_t kSeconds1904To2001 = 3'061'152'000;
 
 constexpr std::string_view kBinarySignature = "bplist";
 
-using Tree = std::unique_ptr<void, decltype(&plist_free)>;
+using plist::Tree;
 using CText = std::unique_ptr<char, decltype(&std::free)>;
 
 std::optional<Value> ReadNode(plist_t node);
@@ -27,12 +26,8 @@ std::optional<Value> ReadNode(plist_t node);
 Number ReadInteger(plist_t node) {
   std::uint64_t bits = 0;
   plist_get_uint_val(node, &bits);
-  if (bits <= static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max()))
-    return Number(static_cast<std::int64_t>(bits));
-  // The library keeps negative numbers as the same bits in a node of half the width; only a
-  // comparison tells the two apart.
-  const Tree negative(plist_new_uint(bits), &plist_free);
-  if (plist_compare_node_value(node, negative.get()))
+  const bool is_negative = plist::IsNegative(node, bits);
+  if (is_negative || bits <= static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max()))
     return Number(static_cast<std::int64_t>(bits));
   return Number(static_cast<double>(bits));
 }
@@ -124,22 +119,22 @@ bool FitsXml(std::string_view text) {
   return MakeString(text).has_value();
 }
 
-plist_t MakeNumber(const Number& number) {
+Tree MakeNumber(const Number& number) {
   if (number.IsReal()) {
     double real = 0;
     number.Get(&real);
-    return plist_new_real(real);
+    return Tree(plist_new_real(real), &plist_free);
   }
   std::int64_t whole = 0;
   number.Get(&whole);
-  return plist_new_uint(static_cast<std::uint64_t>(whole));  // written as signed
+  return plist::NewInteger(whole);
 }
 
 /// The library's tree for a value; null when the value cannot be written.
 Tree MakeTree(const Value& value, int levels) {
   const auto own = [](plist_t node) { return Tree(node, &plist_free); };
   if (const bool* truth = value.AsBoolean()) return own(plist_new_bool(*truth));
-  if (const Number* number = value.AsNumber()) return own(MakeNumber(*number));
+  if (const Number* number = value.AsNumber()) return MakeNumber(*number);
   if (const std::string* text = value.AsString())
     return own(FitsXml(*text) ? plist_new_string(text->c_str()) : nullptr);
   if (const Data* data = value.AsData())
@@ -193,7 +188,7 @@ std::optional<std::string> SerializePropertyList(const Value& value) {
   char* xml = nullptr;
   std::uint32_t length = 0;
   plist_to_xml(tree.get(), &xml, &length);
-  const std::unique_ptr<char, decltype(&plist_to_xml_free)> owner(xml, &plist_to_xml_free);
+  const plist::XmlText owner = plist::OwnXml(xml);
   if (!owner) return std::nullopt;
   return std::string(owner.get(), length);
 }
