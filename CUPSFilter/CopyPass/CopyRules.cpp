@@ -9,8 +9,7 @@
 #include <utility>
 
 #include "CUPSFilter/CopyPass/StringHash.h"
-#include "CUPSFilter/Header/AccountingComments.h"
-#include "CUPSFilter/Header/JobTypeComments.h"
+#include "CUPSFilter/Header/Envelope.h"
 #include "CUPSFilter/Header/PjlText.h"
 #include "CUPSFilter/Options/common.h"
 #include "CUPSFilter/Watermark/WatermarkText.h"
@@ -21,8 +20,6 @@
 
 namespace zarvo {
 namespace {
-
-constexpr std::string_view kUniversalExit = "\x1b%-12345X";
 
 constexpr std::string_view beginZarvoProofPrint = "%%BeginFeature: *ZRVJobType ProofPrint";
 constexpr std::string_view beginZarvoSavedPrint = "%%BeginFeature: *ZRVJobType SavedPrint";
@@ -110,10 +107,7 @@ std::int64_t CopyRules::Apply(Landmark landmark, std::string_view line) {
     case Landmark::kJobEnd:
       if (page_hooks_) page_hooks_->LogIfUnused();
       output_.Write(line);
-      output_.Write(kUniversalExit);
-      output_.Write("@PJL EOJ\n");
-      output_.Write(kUniversalExit);
-      output_.Write("\n");
+      WriteEnvelopeEnd(output_.stream());
       return 0;
     case Landmark::kEmbeddedEnd:
       found_eps_ = false;
@@ -147,26 +141,13 @@ bool CopyRules::WatchesEveryLine() const {
   return begin_setup_found_ && job_type_ == kJobTypeFax && !fax_resolution_overridden_;
 }
 
-void CopyRules::WriteEnvelope() {
-  FILE* stream = output_.stream();
-  output_.Write(kUniversalExit);
-  output_.Write("@PJL JOB\n@PJL COMMENT ZRVbegin\n");
-  WriteAccounting(stream, ticket_);
-  WriteJobType(stream, ticket_);
-  WriteCovers(stream, ticket_);
-  WriteSeparators(stream, ticket_);
-  WriteBannerPage(stream, ticket_);
-  WriteRequestOffset(stream, ticket_);
-  output_.Write("@PJL COMMENT ZRVend\n@PJL ENTER LANGUAGE = POSTSCRIPT\n");
-}
-
 void CopyRules::CopyDocumentHeader(std::string_view line) {
   if (Contains(line, "EPS")) {
     found_eps_ = true;
   } else {
     if (!found_pjl_) {
       added_pjl_ = true;
-      WriteEnvelope();
+      WriteEnvelopeStart(output_.stream(), ticket_);
     }
     if (const int error = WriteFaxCover(output_.stream(), ticket_, &fax_cover_))
       output_.Fail(error);
@@ -179,10 +160,7 @@ void CopyRules::CopyPjlHeader(std::string_view line) {
   found_pjl_ = true;
   output_.Write(line);
   // Banner, offset, end comment and language switch come with the input's own header.
-  WriteAccounting(output_.stream(), ticket_);
-  job_type_ = WriteJobType(output_.stream(), ticket_);
-  WriteCovers(output_.stream(), ticket_);
-  WriteSeparators(output_.stream(), ticket_);
+  job_type_ = WriteOwnComments(output_.stream(), ticket_);
 }
 
 void CopyRules::ReplaceFaxResolution(std::string_view line) {

@@ -60,7 +60,6 @@ class CopyRules {
   bool WatchesEveryLine() const;
 
  private:
-  void WriteEnvelope();
   void CopyDocumentHeader(std::string_view line);
   void CopyPjlHeader(std::string_view line);
   void ReplaceFaxResolution(std::string_view line);

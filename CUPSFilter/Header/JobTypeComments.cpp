@@ -168,15 +168,4 @@ void getDelayDateAndTime(long hour, long minute, long isPM, char* dateTimeString
                 hour, minute);
 }
 
-void WriteBannerPage(FILE* output, const Dictionary& ticket) {
-  if (const auto banner = DictionaryGetBoolean(ticket, key::kBannerPage))
-    std::fprintf(output, "@PJL COMMENT OID_ATT_START_SHEET OID_VAL_JOB_SHEET_%s\n",
-                 *banner ? "FULL" : "NONE");
-}
-
-void WriteRequestOffset(FILE* output, const Dictionary& ticket) {
-  if (const auto offset = DictionaryGetBoolean(ticket, key::kRequestOffset))
-    std::fprintf(output, "@PJL SET JOBOFFSET=%s\n", *offset ? "ON" : "OFF");
-}
-
 }  // namespace zarvo

@@ -23,10 +23,6 @@ void WriteJobTypeSave(FILE* output, const Dictionary& job_type);
 void WriteJobTypeDelayed(FILE* output, const Dictionary& job_type);
 void WriteJobTypeSampleSet(FILE* output, const Dictionary& job_type);
 
-// These take the whole ticket.
-void WriteBannerPage(FILE* output, const Dictionary& ticket);
-void WriteRequestOffset(FILE* output, const Dictionary& ticket);
-
 /// Scrambles a zero-terminated password in place as the printer expects it: each of the first ten
 /// bytes is combined with a fixed key; later bytes stay as they are. A byte equal to its key byte
 /// becomes zero.

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "CUPSFilter/JTML/Sections.h"
+#include "CUPSFilter/JTML/BackgroundFormsSection.h"
+
+#include "CUPSFilter/JTML/JTML.h"
 #include "CUPSFilter/JTML/TicketReading.h"
-#include "CUPSFilter/jtmlgen/JtmlWriters.h"
+#include "CUPSFilter/jtmlgen/BackgroundForms.h"
 #include "Platform/Log.h"
 #include "Source/CFAdditions.h"
 #include "Source/TicketNames.h"

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CUPSFilter/JTML/ColorSection.h"
 
-#include "CUPSFilter/JTML/Sections.h"
-#include "CUPSFilter/jtmlgen/JtmlWriters.h"
+#include "CUPSFilter/JTML/JTML.h"
+#include "CUPSFilter/jtmlgen/FullColor.h"
+#include "CUPSFilter/jtmlgen/HighlightColor.h"
 #include "Source/CFAdditions.h"
 #include "Source/TicketNames.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// Full-colour settings, of the job or of a page exception.
+// Full colour, of the job or of a page exception, and highlight colour.
 #pragma once
 
 #include "CUPSFilter/JTML/TicketReading.h"
@@ -11,5 +11,8 @@ namespace zarvo {
 /// Fills the full-colour fields (`fc`) of a record that has none of them set. The record's texts
 /// live in `texts`.
 void FillFullColor(_PAGEDATA* page, EscapedTexts* texts, const Dictionary& options);
+
+void WriteJTMLHighlightColor(const Dictionary& options);
+void WriteJTMLFullColor(const Dictionary& options);
 
 }  // namespace zarvo

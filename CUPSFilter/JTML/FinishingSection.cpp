@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "CUPSFilter/JTML/Sections.h"
+#include "CUPSFilter/JTML/FinishingSection.h"
+
+#include "CUPSFilter/JTML/CommandsSection.h"
+#include "CUPSFilter/JTML/JTML.h"
 #include "CUPSFilter/JTML/TicketReading.h"
-#include "CUPSFilter/jtmlgen/JtmlWriters.h"
+#include "CUPSFilter/jtmlgen/Commands.h"
+#include "CUPSFilter/jtmlgen/Finishing.h"
 #include "Platform/Log.h"
 #include "Source/TicketNames.h"
 

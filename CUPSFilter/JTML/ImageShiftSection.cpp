@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "CUPSFilter/JTML/Sections.h"
+#include "CUPSFilter/JTML/ImageShiftSection.h"
+
+#include "CUPSFilter/JTML/JTML.h"
 #include "CUPSFilter/JTML/TicketReading.h"
-#include "CUPSFilter/jtmlgen/JtmlWriters.h"
+#include "CUPSFilter/jtmlgen/PageImage.h"
 #include "Source/TicketNames.h"
 
 namespace zarvo {

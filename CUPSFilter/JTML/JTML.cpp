@@ -1,8 +1,15 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CUPSFilter/JTML/JTML.h"
 
-#include "CUPSFilter/JTML/Sections.h"
-#include "CUPSFilter/jtmlgen/JtmlWriters.h"
+#include "CUPSFilter/JTML/BackgroundFormsSection.h"
+#include "CUPSFilter/JTML/ColorSection.h"
+#include "CUPSFilter/JTML/CommandsSection.h"
+#include "CUPSFilter/JTML/FinishingSection.h"
+#include "CUPSFilter/JTML/ImageShiftSection.h"
+#include "CUPSFilter/JTML/JobSection.h"
+#include "CUPSFilter/JTML/SpecialPagesSection.h"
+#include "CUPSFilter/JTML/StockSection.h"
+#include "CUPSFilter/jtmlgen/Frame.h"
 #include "Source/CFAdditions.h"
 #include "Source/TicketNames.h"
 

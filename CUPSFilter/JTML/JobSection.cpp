@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "CUPSFilter/JTML/JobSection.h"
+
 #include <algorithm>
 
-#include "CUPSFilter/JTML/Sections.h"
+#include "CUPSFilter/JTML/JTML.h"
 #include "CUPSFilter/JTML/TicketReading.h"
-#include "CUPSFilter/jtmlgen/JtmlWriters.h"
+#include "CUPSFilter/jtmlgen/Frame.h"
+#include "CUPSFilter/jtmlgen/Job.h"
 #include "Platform/Log.h"
 #include "Platform/Text.h"
 #include "Source/CFAdditions.h"

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "CUPSFilter/JTML/SpecialPagesSection.h"
+
 #include <utility>
 
 #include "CUPSFilter/JTML/ColorSection.h"
-#include "CUPSFilter/JTML/Sections.h"
+#include "CUPSFilter/JTML/ImageShiftSection.h"
+#include "CUPSFilter/JTML/JTML.h"
 #include "CUPSFilter/JTML/StockSection.h"
-#include "CUPSFilter/jtmlgen/JtmlWriters.h"
+#include "CUPSFilter/jtmlgen/SpecialPages.h"
 #include "Source/CFAdditions.h"
 #include "Source/TicketNames.h"
 
@@ -86,14 +89,6 @@ void WriteList(const Dictionary& ticket, std::string_view key, JtmlSpecialPages 
 }
 
 }  // namespace
-
-void WriteJTMLJobLevelStock(const Dictionary& ticket) {
-  const Dictionary* stock = DictionaryGetDictionary(ticket, key::kJobLevelStock);
-  if (stock == nullptr) return;
-  EscapedTexts texts;
-  const _MEDIADATA media = MediaFromStock(*stock, &texts);
-  WriteJtmlMedia(&writeData, &media);
-}
 
 void WriteJTMLFrontCover(const Dictionary& ticket) {
   WriteCover(ticket, key::kFrontCover, kJtmlFrontCover);

@@ -3,7 +3,10 @@
 
 #include <limits>
 
+#include "CUPSFilter/JTML/JTML.h"
 #include "CUPSFilter/Options/MediaSize.h"
+#include "CUPSFilter/jtmlgen/Media.h"
+#include "Source/CFAdditions.h"
 #include "Source/Mappings.h"
 #include "Source/TicketNames.h"
 
@@ -55,6 +58,14 @@ _MEDIADATA MediaFromStock(const Dictionary& stock, EscapedTexts* texts) {
   media.nSource = InRange(stock, key::stock::kSource, 0, 9);
   FillMediaSize(&media, stock);
   return media;
+}
+
+void WriteJTMLJobLevelStock(const Dictionary& ticket) {
+  const Dictionary* stock = DictionaryGetDictionary(ticket, key::kJobLevelStock);
+  if (stock == nullptr) return;
+  EscapedTexts texts;
+  const _MEDIADATA media = MediaFromStock(*stock, &texts);
+  WriteJtmlMedia(&writeData, &media);
 }
 
 }  // namespace zarvo

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// Stock dictionaries of the ticket.
+// Stock: the job's own, and the dictionaries of all others.
 #pragma once
 
 #include "CUPSFilter/JTML/TicketReading.h"
@@ -12,5 +12,7 @@ namespace zarvo {
 /// type leave their field unset; a stock without a size has that of the page. The record's texts
 /// live in `texts`.
 _MEDIADATA MediaFromStock(const Dictionary& stock, EscapedTexts* texts);
+
+void WriteJTMLJobLevelStock(const Dictionary& ticket);
 
 }  // namespace zarvo

@@ -113,28 +113,6 @@ const char* AddAttribute(const Ppd& ppd, const PpdAttribute& attribute, OptionLi
 
 }  // namespace
 
-OptionList::OptionList(OptionList&& other) noexcept
-    : size_(std::exchange(other.size_, 0)), options_(std::exchange(other.options_, nullptr)) {}
-
-OptionList::~OptionList() { cupsFreeOptions(size_, options_); }
-
-OptionList OptionList::Parse(const char* text) {
-  OptionList list;
-  list.size_ = cupsParseOptions(text, 0, &list.options_);
-  return list;
-}
-
-void OptionList::Add(const char* name, const char* value) {
-  size_ = cupsAddOption(name, value, size_, &options_);
-}
-
-void OptionList::AddMissing(const OptionList& other) {
-  for (int i = 0; i < other.size_; ++i) {
-    const cups_option_t& option = other.options_[i];
-    if (cupsGetOption(option.name, size_, options_) == nullptr) Add(option.name, option.value);
-  }
-}
-
 OptionList PpdTicketOptions(const Ppd& ppd) {
   OptionList options;
   for (const PpdAttribute& attribute : ppd.Attributes("ZRVTicket")) {

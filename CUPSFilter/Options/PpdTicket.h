@@ -4,36 +4,12 @@
 
 #include <cups/cups.h>
 
-#include <memory>
 #include <vector>
 
+#include "CUPSFilter/Options/OptionList.h"
 #include "CUPSFilter/Options/Ppd.h"
 
 namespace zarvo {
-
-/// A list of options that owns its texts.
-class OptionList {
- public:
-  OptionList() = default;
-  OptionList(OptionList&& other) noexcept;
-  OptionList& operator=(OptionList&&) = delete;
-  ~OptionList();
-
-  /// Parses option text as the spooler hands it to filters.
-  static OptionList Parse(const char* text);
-
-  /// A name that is there already gets the new value.
-  void Add(const char* name, const char* value);
-  /// The options of `other` whose names are not there already.
-  void AddMissing(const OptionList& other);
-
-  int size() const { return size_; }
-  cups_option_t* data() const { return options_; }
-
- private:
-  int size_ = 0;
-  cups_option_t* options_ = nullptr;
-};
 
 /// The flattened ticket options that the marked choices stand for. A PPD tells them in attributes
 ///

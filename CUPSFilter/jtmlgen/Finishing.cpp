@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "CUPSFilter/jtmlgen/Finishing.h"
+
 #include "CUPSFilter/jtmlgen/Emit.h"
-#include "CUPSFilter/jtmlgen/JtmlWriters.h"
 #include "Platform/Log.h"
 
 namespace zarvo {

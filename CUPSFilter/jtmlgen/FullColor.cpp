@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "CUPSFilter/jtmlgen/FullColor.h"
+
+#include "CUPSFilter/jtmlgen/Commands.h"
 #include "CUPSFilter/jtmlgen/Emit.h"
-#include "CUPSFilter/jtmlgen/JtmlWriters.h"
 
 namespace zarvo {
 namespace {

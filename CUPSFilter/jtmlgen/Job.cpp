@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "CUPSFilter/jtmlgen/Job.h"
+
 #include "CUPSFilter/jtmlgen/Emit.h"
-#include "CUPSFilter/jtmlgen/JtmlWriters.h"
 
 namespace zarvo {
 namespace {

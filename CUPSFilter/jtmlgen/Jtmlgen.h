@@ -1,6 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
-// The records that carry values to the writers of the printer's XML job ticket (JTML), and the
-// sink that every writer writes to. The codes in them are those of the ticket format's keywords.
+// The writers of the elements of the printer's XML job ticket (JTML), the records that carry values
+// to them, and the sink that every writer writes to.
+//
+// A section of JTML/ reads the ticket, fills a record and calls one writer: it knows the ticket's
+// keys and codes, the writer knows the format's elements and words. Every writer turns one record
+// or one code into fixed text, hands whole lines to the sink and gives JTML_SUCCESS. The texts are
+// fixed by the printer's ticket format, oddities included (tags that do not match, missing line
+// feeds, uneven indentation): printers in the field read them so. Unless said otherwise a value
+// that is not set, or a code that the format has no word for, writes nothing.
 //
 // Conventions of all records: texts are zero-terminated UTF-8, already escaped for XML, owned by
 // the caller, and must outlive the call; a null text is not set. A freshly made record has nothing

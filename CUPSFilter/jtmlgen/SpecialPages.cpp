@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "CUPSFilter/jtmlgen/SpecialPages.h"
+
+#include "CUPSFilter/jtmlgen/Commands.h"
 #include "CUPSFilter/jtmlgen/Emit.h"
-#include "CUPSFilter/jtmlgen/JtmlWriters.h"
+#include "CUPSFilter/jtmlgen/FullColor.h"
+#include "CUPSFilter/jtmlgen/Media.h"
 
 namespace zarvo {
 namespace {

@@ -5,8 +5,15 @@
 #include <fstream>
 #include <map>
 
+#include "CUPSFilter/JTML/BackgroundFormsSection.h"
+#include "CUPSFilter/JTML/ColorSection.h"
+#include "CUPSFilter/JTML/CommandsSection.h"
+#include "CUPSFilter/JTML/FinishingSection.h"
+#include "CUPSFilter/JTML/ImageShiftSection.h"
 #include "CUPSFilter/JTML/JTML.h"
-#include "CUPSFilter/JTML/Sections.h"
+#include "CUPSFilter/JTML/JobSection.h"
+#include "CUPSFilter/JTML/SpecialPagesSection.h"
+#include "CUPSFilter/JTML/StockSection.h"
 #include "CUPSFilter/JTML/TicketReading.h"
 #include "tests/unit/transcript.h"
 

@@ -6,7 +6,17 @@
 #include <array>
 #include <cstring>
 
-#include "CUPSFilter/jtmlgen/JtmlWriters.h"
+#include "CUPSFilter/jtmlgen/BackgroundForms.h"
+#include "CUPSFilter/jtmlgen/Commands.h"
+#include "CUPSFilter/jtmlgen/Finishing.h"
+#include "CUPSFilter/jtmlgen/Frame.h"
+#include "CUPSFilter/jtmlgen/FullColor.h"
+#include "CUPSFilter/jtmlgen/HalfTone.h"
+#include "CUPSFilter/jtmlgen/HighlightColor.h"
+#include "CUPSFilter/jtmlgen/Job.h"
+#include "CUPSFilter/jtmlgen/Media.h"
+#include "CUPSFilter/jtmlgen/PageImage.h"
+#include "CUPSFilter/jtmlgen/SpecialPages.h"
 #include "tests/unit/transcript.h"
 
 namespace zarvo {

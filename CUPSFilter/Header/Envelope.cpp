@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "CUPSFilter/Header/Envelope.h"
+
+#include "CUPSFilter/Header/AccountingComments.h"
+#include "CUPSFilter/Header/BannerComments.h"
+#include "CUPSFilter/Header/CoverComments.h"
+#include "CUPSFilter/Header/JobTypeComments.h"
+
+namespace zarvo {
+namespace {
+
+/// Ends whatever the printer was reading.
+constexpr char kUniversalExit[] = "\x1b%-12345X";
+
+}  // namespace
+
+void WriteEnvelopeStart(FILE* output, const Dictionary& ticket) {
+  std::fprintf(output, "%s@PJL JOB\n@PJL COMMENT ZRVbegin\n", kUniversalExit);
+  WriteOwnComments(output, ticket);
+  WriteBannerPage(output, ticket);
+  WriteRequestOffset(output, ticket);
+  std::fputs("@PJL COMMENT ZRVend\n@PJL ENTER LANGUAGE = POSTSCRIPT\n", output);
+}
+
+void WriteEnvelopeEnd(FILE* output) {
+  std::fprintf(output, "%s@PJL EOJ\n%s\n", kUniversalExit, kUniversalExit);
+}
+
+int WriteOwnComments(FILE* output, const Dictionary& ticket) {
+  WriteAccounting(output, ticket);
+  const int job_type = WriteJobType(output, ticket);
+  WriteCovers(output, ticket);
+  WriteSeparators(output, ticket);
+  return job_type;
+}
+
+}  // namespace zarvo

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: Apache-2.0
+// Full colour.
+#pragma once
+
+#include "CUPSFilter/jtmlgen/Jtmlgen.h"
+
+namespace zarvo {
+
+/// Every full-colour field (`fc`) of the record that is set.
+JtmlGenError WriteJtmlFullColor(LPWRITEDATA lpWriteData, LPPAGEDATA lpPageData);
+JtmlGenError WriteJtmlTRC(LPWRITEDATA lpWriteData, const char* szTRCName);
+// The profile writers write one element named `szJTMLName`. `nSource` is the code of a profile
+// that the printer knows, or 0 for the profile named `szName` (none when null).
+JtmlGenError WriteJtmlRGBSource(LPWRITEDATA lpWriteData, int nSource, const char* szJTMLName,
+                                const char* szName);
+JtmlGenError WriteJtmlCMYKSource(LPWRITEDATA lpWriteData, int nSource, const char* szJTMLName,
+                                 const char* szName);
+JtmlGenError WriteJtmlGraySource(LPWRITEDATA lpWriteData, const char* szJTMLName,
+                                 const char* szName);
+/// Any code but 0 leaves the choice to the printer; that form ends without a line feed.
+JtmlGenError WriteJtmlColorDestination(LPWRITEDATA lpWriteData, int nSource, const char* szJTMLName,
+                                       const char* szName);
+
+}  // namespace zarvo
