@@ -158,6 +158,12 @@ class FaxRecipientList {
 /// The recipient that a person's card stands for; what the card does not tell is absent.
 FaxRecipient FaxRecipientFromCard(const VCard& card);
 
+/// Puts those of the recipient's texts that are present, names aside, into a person's card; what
+/// else the card holds stays.
+void UpdateCard(const FaxRecipient& recipient, VCard* card);
+/// Gives a person's card other names; a null one stays as it was.
+void RenameCard(const std::string* first, const std::string* last, VCard* card);
+
 /// First and last name, those that are present and not empty, joined by one blank.
 std::string DisplayNameFromRecipient(const FaxRecipient& recipient);
 

@@ -44,18 +44,32 @@ std::optional<std::string> Component(const VCard& card, std::string_view name, i
   return std::nullopt;
 }
 
-/// The first telephone number that is, or is not, a fax number.
+/// Whether the property is a telephone number that is, or is not, a fax number.
+bool IsTelephone(const VCardProperty& property, bool fax) {
+  if (!property.Is("TEL")) return false;
+  std::string head = property.head;
+  std::transform(head.begin(), head.end(), head.begin(),
+                 [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
+  // The group before the name may be called anything.
+  return (head.find("FAX", head.find(';')) != std::string::npos) == fax;
+}
+
 std::optional<std::string> TelephoneNumber(const VCard& card, bool fax) {
-  for (const VCardProperty& property : card.properties) {
-    if (!property.Is("TEL")) continue;
-    std::string head = property.head;
-    std::transform(head.begin(), head.end(), head.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
-    // The group before the name may be called anything.
-    const bool is_fax = head.find("FAX", head.find(';')) != std::string::npos;
-    if (is_fax == fax) return VCardText(property.value);
-  }
+  for (const VCardProperty& property : card.properties)
+    if (IsTelephone(property, fax)) return VCardText(property.value);
   return std::nullopt;
+}
+
+/// Gives the first property that `is` picks a new value, or adds one.
+template <class Picks>
+void SetProperty(VCard* card, const char* head, const std::string* text, Picks is) {
+  if (text == nullptr) return;
+  for (VCardProperty& property : card->properties) {
+    if (!is(property)) continue;
+    property.value = VCardValue(*text);
+    return;
+  }
+  card->properties.push_back({head, VCardValue(*text)});
 }
 
 /// A card's text as the rest of the system takes it. What is not UTF-8 comes from older programs,
@@ -93,16 +107,35 @@ FaxRecipient FaxRecipientFromCard(const VCard& card) {
   return recipient;
 }
 
+void UpdateCard(const FaxRecipient& recipient, VCard* card) {
+  const auto is = [](const char* name) {
+    return [name](const VCardProperty& property) { return property.Is(name); };
+  };
+  const auto telephone = [](bool fax) {
+    return [fax](const VCardProperty& property) { return IsTelephone(property, fax); };
+  };
+  SetProperty(card, "TEL;TYPE=WORK,FAX", recipient.faxNumber(), telephone(true));
+  SetProperty(card, "TEL;TYPE=WORK,VOICE", recipient.phoneNumber(), telephone(false));
+  SetProperty(card, "EMAIL;TYPE=WORK,INTERNET", recipient.emailAddress(), is("EMAIL"));
+  SetProperty(card, "ORG", recipient.organization(), is("ORG"));
+  SetProperty(card, kMailboxCardProperty, recipient.mailbox(), is(kMailboxCardProperty));
+}
+
+void RenameCard(const std::string* first, const std::string* last, VCard* card) {
+  FaxRecipient person = FaxRecipientFromCard(*card);
+  if (first != nullptr) person.setFirstName(first);
+  if (last != nullptr) person.setLastName(last);
+  const auto part = [](const std::string* text) { return VCardValue(text ? *text : ""); };
+  for (VCardProperty& property : card->properties) {
+    if (property.Is("N"))
+      property.value = part(person.lastName()) + ";" + part(person.firstName()) + ";;;";
+    if (property.Is("FN")) property.value = VCardValue(DisplayNameFromRecipient(person));
+  }
+}
+
 bool FaxRecipient::commitToAddressBook() {
   VCard card = MakePersonCard(CardName(*this), _firstName.value_or(""));
-  const auto add = [&card](const char* head, const Text& text) {
-    if (text) card.properties.push_back({head, VCardValue(*text)});
-  };
-  add("TEL;TYPE=WORK,FAX", _faxNumber);
-  add("TEL;TYPE=WORK,VOICE", _phoneNumber);
-  add("EMAIL;TYPE=WORK,INTERNET", _emailAddress);
-  add("ORG", _organization);
-  add(kMailboxCardProperty, _mailbox);
+  UpdateCard(*this, &card);
   const std::optional<AddressBookRecord> record = AddressBookAdd(std::move(card));
   if (!record) return false;
   const std::string uid = record->uid();

@@ -101,6 +101,7 @@ std::span<const Command> Commands() {
        &SetUpWatermark},
       {"recipient", "Look after your fax recipients",
        "zarvo recipient add --first Ada --fax '+44 20 7946 0018'\n"
+       "zarvo recipient edit Ada --phone '+44 20 7946 0000'\n"
        "zarvo recipient list --json\n"
        "zarvo recipient group Branches 5f1c... 77ab...",
        &SetUpRecipient},

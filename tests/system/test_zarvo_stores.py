@@ -59,8 +59,8 @@ class Watermarks(ZarvoTest):
     def test_show_draws_what_jobs_print(self):
         logo = self.path("logo.png", png(30, 20, (0, 0, 255)))
         self.run_zarvo("watermark", "add-image", logo, "--scale", "300")
-        self.run_zarvo("watermark", "add-text", "HH", "--color", "#ff0000", "--angle", "0")
-        self.run_zarvo("watermark", "show", "HH", "--place", "foreground", "--output", "t.png")
+        self.run_zarvo("watermark", "add-text", "HH", "--color", "#ff0000", "--angle", "0", "--name", "two")
+        self.run_zarvo("watermark", "show", "two", "--place", "foreground", "--output", "t.png")
         left, top, right, bottom = read_png(self.scratch / "t.png").box("red")
         # Centred, two capitals of 72 points wide and one high.
         self.assertAlmostEqual((left + right) / 2, 306, delta=6)
@@ -105,6 +105,9 @@ class Recipients(ZarvoTest):
                              "--fax", "+44 20 7946", "--organization", "A;B\\, C",
                              "--phone", "5", "--email", "ada@example.org").strip()
         box = self.run_zarvo("recipient", "add", "--mailbox", "12").strip()
+        # What is not given stays, whoever wrote it; a name given in part keeps the rest.
+        self.run_zarvo("recipient", "edit", "Ada de L\u00f3velace; x", "--phone", "6", "--last", "King")
+        self.run_zarvo("recipient", "edit", "Ada King", "--phone", "5", "--last", "de L\u00f3velace; x")
         self.run_zarvo("recipient", "group", "Branches", "Ada de L\u00f3velace; x", box[:8], ada)
         group = json.loads(self.run_zarvo("recipient", "list", "--json", "--group", "Branches"))
         people = {p["UID"]: p for p in group["com.zarvo.print.FaxRecipientList"]}
@@ -127,7 +130,7 @@ class Recipients(ZarvoTest):
         for arguments, told in (
             ("add --first Ada", ""), ("add --fax no-number", ""), ("add --fax 1 --last \udce9", ""),
             ("remove ", ""),
-            ("remove Bo", "more than one"),
+            ("remove Bo", "more than one"), ("edit Bo --fax 2", "more than one"), ("edit Cy --fax 2", "no such"),
         ):
             self.run_zarvo("recipient", *arguments.split(" "), status=2)
             self.assertIn(told, self.errors)

@@ -108,27 +108,18 @@ int List(const Options& options) {
   return kExitOk;
 }
 
-/// The address book keeps a recipient without the last name; people look for it.
-bool StoreLastName(const FaxRecipient& recipient, const Options& options) {
-  std::optional<AddressBookRecord> record = recipient.abRecord();
-  if (!record) return false;
-  for (VCardProperty& property : record->card.properties) {
-    if (property.Is("N"))
-      property.value = VCardValue(options.last) + ";" + VCardValue(options.first) + ";;;";
-    if (property.Is("FN")) property.value = VCardValue(DisplayNameFromRecipient(recipient));
+/// Whether what is given can be stored and dialled; tells why not.
+bool IsGood(const Options& options) {
+  if (!options.fax.empty() && CopyDialingStringFromFaxNumber(options.fax).empty()) {
+    Fail(options.fax, "holds nothing that can be dialled",
+         "Digits and " + std::string(kFaxDialingCharacters.substr(10)) + " can");
+    return false;
   }
-  return AddressBookSave(*record);
+  return AreUtf8({options.first, options.last, options.fax, options.mailbox, options.organization,
+                  options.phone, options.email});
 }
 
-int Add(const Options& options) {
-  if (options.fax.empty() && options.mailbox.empty())
-    return Fail("recipient", "has neither a fax number nor a mailbox", "Give --fax or --mailbox");
-  if (!options.fax.empty() && CopyDialingStringFromFaxNumber(options.fax).empty())
-    return Fail(options.fax, "holds nothing that can be dialled",
-                "Digits and " + std::string(kFaxDialingCharacters.substr(10)) + " can");
-  if (!AreUtf8({options.first, options.last, options.fax, options.mailbox, options.organization,
-                options.phone, options.email}))
-    return kExitFailure;
+FaxRecipient RecipientOf(const Options& options) {
   FaxRecipient recipient;
   const auto set = [&recipient](void (FaxRecipient::*setter)(const std::string*),
                                 const std::string& text) {
@@ -141,10 +132,39 @@ int Add(const Options& options) {
   set(&FaxRecipient::setOrganization, options.organization);
   set(&FaxRecipient::setPhoneNumber, options.phone);
   set(&FaxRecipient::setEmailAddress, options.email);
+  return recipient;
+}
+
+int Add(const Options& options) {
+  if (options.fax.empty() && options.mailbox.empty())
+    return Fail("recipient", "has neither a fax number nor a mailbox", "Give --fax or --mailbox");
+  if (!IsGood(options)) return kExitFailure;
+  FaxRecipient recipient = RecipientOf(options);
   if (!recipient.commitToAddressBook()) return CannotWrite();
-  if (!options.last.empty() && !StoreLastName(recipient, options)) return CannotWrite();
+  // The address book keeps a recipient without the last name; people look for it.
+  if (recipient.lastName() != nullptr) {
+    std::optional<AddressBookRecord> record = recipient.abRecord();
+    if (!record) return CannotWrite();
+    RenameCard(nullptr, recipient.lastName(), &record->card);
+    if (!AddressBookSave(*record)) return CannotWrite();
+  }
   std::printf("%s\n", recipient.uid()->c_str());
   return kExitOk;
+}
+
+int Edit(const Options& options) {
+  if (!IsGood(options)) return kExitFailure;
+  const std::vector<AddressBookRecord> records = AddressBookRecords();
+  const AddressBookRecord* found = TheOne(records, options.who[0]);
+  if (found == nullptr) return kExitFailure;
+  if (IsGroupCard(found->card))
+    return Fail(options.who[0], "is a group", "Remove it and make it anew");
+  AddressBookRecord record = *found;
+  const FaxRecipient changes = RecipientOf(options);
+  UpdateCard(changes, &record.card);
+  if (changes.firstName() != nullptr || changes.lastName() != nullptr)
+    RenameCard(changes.firstName(), changes.lastName(), &record.card);
+  return AddressBookSave(record) ? kExitOk : CannotWrite();
 }
 
 int Remove(const Options& options) {
@@ -196,14 +216,19 @@ void SetUpRecipient(CLI::App& app, Action* action) {
   list->add_option("--group", options->group, "only the members of this group");
   CLI::App* add =
       AddCommand(app, "add", "Adds a recipient and prints its UID", action, options, &Add);
-  add->add_option("--first", options->first, "given name");
-  add->add_option("--last", options->last, "family name");
-  add->add_option("--fax", options->fax, "fax number");
-  add->add_option("--mailbox", options->mailbox, "mailbox on the printer");
-  add->add_option("--organization", options->organization, "company");
-  add->add_option("--phone", options->phone, "phone number");
-  add->add_option("--email", options->email, "e-mail address");
   const char* who = "UID, the beginning of one, or a name";
+  CLI::App* edit =
+      AddCommand(app, "edit", "Changes what is given of a recipient", action, options, &Edit);
+  edit->add_option("who", options->who, who)->required()->expected(1);
+  for (CLI::App* command : {add, edit}) {
+    command->add_option("--first", options->first, "given name");
+    command->add_option("--last", options->last, "family name");
+    command->add_option("--fax", options->fax, "fax number");
+    command->add_option("--mailbox", options->mailbox, "mailbox on the printer");
+    command->add_option("--organization", options->organization, "company");
+    command->add_option("--phone", options->phone, "phone number");
+    command->add_option("--email", options->email, "e-mail address");
+  }
   CLI::App* remove = AddCommand(app, "remove",
                                 "Removes recipients or groups, and them from all "
                                 "groups",

@@ -39,7 +39,8 @@ constexpr const char* kFirstEntry = "None";
 constexpr const char* kListEntry = "WatermarkListEntries";
 
 struct Options {
-  std::string name;
+  std::string name;   ///< or the text of a new one
+  std::string label;  ///< the name of a text when it is not to be the text
   std::string file;
   bool fax = false;
   bool json = false;
@@ -171,7 +172,11 @@ int AddText(const Options& options) {
   const std::optional<std::string> text = MakeString(options.name);
   if (!text || text->empty() || !CopyText(*text, data.textString, sizeof data.textString))
     return Fail(options.name, "is no text of 1 to 511 bytes");
-  if (!MayBeNamed(options, *text)) return kExitFailure;
+  const std::optional<std::string> name = MakeString(options.label);
+  if (!name || !CopyText(*name, data.filename, sizeof data.filename))
+    return Fail(options.label, "is no name of up to 511 bytes");
+  const std::string& key = name->empty() ? *text : *name;
+  if (!MayBeNamed(options, key)) return kExitFailure;
   if (!CopyText(options.font, data.fontName, sizeof data.fontName) || options.font.empty() ||
       options.font.find_first_of(" /()<>[]{}%\t\r\n") != std::string::npos)
     return Fail(options.font, "is no PostScript font name", "Names look like Helvetica-Bold");
@@ -181,7 +186,9 @@ int AddText(const Options& options) {
   data.wellColorRed = data.fontColorRed;
   data.wellColorGreen = data.fontColorGreen;
   data.wellColorBlue = data.fontColorBlue;
-  data.isTextWatermark = 1;
+  // A watermark that is not stored under its text is stored under its file's name, which a text has
+  // no other use for.
+  data.isTextWatermark = name->empty() ? 1 : 0;
   data.fontSize = options.size;
   data.angle = options.angle;
   data.density = options.density;
@@ -189,7 +196,7 @@ int AddText(const Options& options) {
   const auto is_character = [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; };
   const auto characters = std::count_if(text->begin(), text->end(), is_character);
   Center(options, static_cast<std::size_t>(characters), &data);
-  return Store(options, data, *text);
+  return Store(options, data, key);
 }
 
 int AddImage(const Options& options) {
@@ -331,6 +338,7 @@ void SetUpWatermark(CLI::App& app, Action* action) {
   CLI::App* text =
       AddCommand(app, "add-text", "Adds or replaces a text", action, options, &AddText);
   text->add_option("text", options->name, "the text, which is its name too")->required();
+  text->add_option("--name", options->label, "name, when it is not to be the text");
   text->add_option("--font", options->font, "PostScript name of the font")->capture_default_str();
   text->add_option("--size", options->size, "points")
       ->check(CLI::Range(1, 2000))
