@@ -17,6 +17,7 @@ void SetUp(unsigned bits, Job* job) {
   }
   if ((bits & 16) != 0) job->settings.zarvoJobPassword = "1234";
   job->settings.invertImage = (bits & 32) != 0;
+  job->settings.pageHooks = (bits & 7) == 7;  // a foreground mark, on the first page only
   if ((bits & 64) == 0) return;
   Dictionary job_type;
   job_type.emplace("JobType", Number(5));

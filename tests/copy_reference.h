@@ -84,6 +84,7 @@ inline Copied ByLines(const Job& job) {
       output.Write({&c, 1});
     }
   }
+  rules.Finish();
   return {out.Content(), CopyResult::kDone};
 }
 

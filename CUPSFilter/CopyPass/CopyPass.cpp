@@ -61,6 +61,7 @@ CopyPass::CopyPass(int input, CopyRules& rules, JobOutput& output, std::size_t b
 
 CopyResult CopyPass::Run() {
   while (!Failed() && !end_of_input_ && Fill()) ScanBuffer();
+  if (!Failed()) rules_.Finish();
   return result_;
 }
 
@@ -139,6 +140,7 @@ bool CopyPass::ScanLines(char* limit) {
 /// The start of the next line that may be a landmark, or `limit`. `from` begins a line.
 char* CopyPass::NextLineToTest(char* from, char* limit) {
   if (from >= limit || rules_.WatchesEveryLine()) return from;
+  if (rules_.FollowsStructure()) return const_cast<char*>(NextStructure(from, limit));
   char* line = from;  // the start of the line that holds `searched`
   char* searched = from;
   for (char* at = from;; ++at) {

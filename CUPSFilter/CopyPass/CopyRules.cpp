@@ -58,7 +58,7 @@ bool NamesJobType(std::string_view line) {
 }  // namespace
 
 CopyRules::CopyRules(const JobSettings& settings, const Dictionary& ticket, JobOutput& output)
-    : settings_(settings), ticket_(ticket), output_(output) {
+    : settings_(settings), ticket_(ticket), output_(output), frame_(ticket, output) {
   if (settings.pageHooks) page_hooks_.emplace(settings, output);
   // Without memory for the table the job goes out, only without name and password.
   if (settings.zarvoJobPassword) job_type_match_ = InitializeHashTables() != 0;
@@ -67,16 +67,23 @@ CopyRules::CopyRules(const JobSettings& settings, const Dictionary& ticket, JobO
 CopyRules::~CopyRules() { DiscardHashTables(); }
 
 Landmark CopyRules::Classify(std::string_view line) const {
+  if (!page_hooks_) return ClassifyLine(line);
+  const bool wanted = shape_.WatchesEveryLine() || DocumentShape::Concerns(line) ||
+                      page_hooks_->WatchesEveryLine() || page_hooks_->IsLandmark(line);
+  return wanted ? Landmark::kStructure : ClassifyLine(line);
+}
+
+Landmark CopyRules::ClassifyLine(std::string_view line) const {
   const auto starts = [line](std::string_view text) { return line.starts_with(text); };
-  if (Contains(line, "%!PS-Adobe")) return Landmark::kDocumentHeader;
-  if (starts("@PJL COMMENT ZRVbegin")) return Landmark::kPjlHeader;
+  if (!page_hooks_) {
+    if (Contains(line, "%!PS-Adobe")) return Landmark::kDocumentHeader;
+    if (starts("@PJL COMMENT ZRVbegin")) return Landmark::kPjlHeader;
+  }
   if (!begin_setup_found_ && starts("%%BeginSetup")) return Landmark::kBeginSetup;
-  if (WatchesEveryLine() && Contains(line, "/HWResolution")) return Landmark::kFaxResolution;
-  if (added_pjl_ && !found_eps_ && starts("%%EOF")) return Landmark::kJobEnd;
-  if (found_eps_ && starts("%%EOF")) return Landmark::kEmbeddedEnd;
-  if (page_hooks_) {
-    if (page_hooks_->IsLandmark(line)) return Landmark::kPageHook;
-  } else {
+  if (WatchesForResolution() && Contains(line, "/HWResolution")) return Landmark::kFaxResolution;
+  if (!page_hooks_) {
+    if (added_pjl_ && !found_eps_ && starts("%%EOF")) return Landmark::kJobEnd;
+    if (found_eps_ && starts("%%EOF")) return Landmark::kEmbeddedEnd;
     if (settings_.watermark && starts("%%EndProlog")) return Landmark::kEndProlog;
     if (starts("ep\n") || starts("endp\n")) return Landmark::kPageEnd;
     if (starts("%%BeginPageSetup")) return Landmark::kPageStart;
@@ -89,6 +96,8 @@ Landmark CopyRules::Classify(std::string_view line) const {
 
 std::int64_t CopyRules::Apply(Landmark landmark, std::string_view line) {
   switch (landmark) {
+    case Landmark::kStructure:
+      return CopyStructure(line);
     case Landmark::kDocumentHeader:
       CopyDocumentHeader(line);
       return 0;
@@ -101,11 +110,7 @@ std::int64_t CopyRules::Apply(Landmark landmark, std::string_view line) {
     case Landmark::kFaxResolution:
       ReplaceFaxResolution(line);
       return 0;
-    case Landmark::kPageHook:
-      page_hooks_->Copy(line);
-      return 0;
     case Landmark::kJobEnd:
-      if (page_hooks_) page_hooks_->LogIfUnused();
       output_.Write(line);
       WriteEnvelopeEnd(output_.stream());
       return 0;
@@ -137,8 +142,55 @@ std::int64_t CopyRules::Apply(Landmark landmark, std::string_view line) {
   return 0;
 }
 
-bool CopyRules::WatchesEveryLine() const {
+/// Copies a line with all its parts. Only the last one can be followed by counted data.
+std::int64_t CopyRules::CopyStructure(std::string_view line) {
+  std::int64_t counted = 0;
+  while (!line.empty()) {
+    const std::size_t length = DocumentShape::PartLength(line);
+    counted = CopyPart(line.substr(0, length));
+    line.remove_prefix(length);
+  }
+  return counted;
+}
+
+std::int64_t CopyRules::CopyPart(std::string_view line) {
+  switch (shape_.Take(line)) {
+    case JobLine::kBetween:
+      frame_.Keep(line);
+      return 0;
+    case JobLine::kEnvelope:
+      job_type_ = frame_.CopyEnvelope(line);
+      return 0;
+    case JobLine::kFirst:
+      line = frame_.BeginDocument(line);
+      if (frame_.documents() == 1) WriteCover();
+      page_hooks_->BeginDocument();
+      break;
+    case JobLine::kDocument:
+      frame_.GoOn();
+      break;
+  }
+  page_hooks_->BeforeLine(line, shape_.OwnLine());
+  const std::int64_t counted = Apply(ClassifyLine(line), line);
+  page_hooks_->AfterLine(line, shape_.OwnLine());
+  return counted;
+}
+
+void CopyRules::Finish() {
+  if (page_hooks_) frame_.End();
+}
+
+bool CopyRules::WatchesForResolution() const {
   return begin_setup_found_ && job_type_ == kJobTypeFax && !fax_resolution_overridden_;
+}
+
+bool CopyRules::WatchesEveryLine() const {
+  return WatchesForResolution() ||
+         (page_hooks_ && (shape_.WatchesEveryLine() || page_hooks_->WatchesEveryLine()));
+}
+
+void CopyRules::WriteCover() {
+  if (const int error = WriteFaxCover(output_.stream(), ticket_, &fax_cover_)) output_.Fail(error);
 }
 
 void CopyRules::CopyDocumentHeader(std::string_view line) {
@@ -149,8 +201,7 @@ void CopyRules::CopyDocumentHeader(std::string_view line) {
       added_pjl_ = true;
       WriteEnvelopeStart(output_.stream(), ticket_);
     }
-    if (const int error = WriteFaxCover(output_.stream(), ticket_, &fax_cover_))
-      output_.Fail(error);
+    WriteCover();
   }
   output_.Write(line);
 }

@@ -1,6 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 // The landmarks of a PostScript job and what is written at each. This is the one place that knows
 // the exact line rules; how the lines are found is CopyPass's business.
+//
+// There are two sets of rules. Jobs of the printers' own dialog are known to the line: every header
+// and every end comment has its meaning wherever it stands, and drivers rely on each of those
+// bytes. Jobs of any other program come through a PPD that asks for page hooks; there DocumentShape
+// tells where documents begin and end, JobFrame writes what goes around them and PageHooks what
+// goes into them. What follows from single lines (counted data, the job's name, a fax's resolution)
+// is the same in both.
 #pragma once
 
 #include <cstdint>
@@ -8,6 +15,8 @@
 #include <optional>
 #include <string_view>
 
+#include "CUPSFilter/CopyPass/DocumentShape.h"
+#include "CUPSFilter/CopyPass/JobFrame.h"
 #include "CUPSFilter/FaxCover/FaxCoverOutput.h"
 #include "CUPSFilter/JobOutput.h"
 #include "CUPSFilter/JobSettings.h"
@@ -36,7 +45,7 @@ enum class Landmark {
   kCountedData,
   kFeatureLine,  // may name the job type; the hash and an exact comparison decide
   kEndSetup,
-  kPageHook,  // instead of prolog, page start and end, and setup
+  kStructure,  // of a job with page hooks: what may begin, end or divide a document
 };
 
 /// The state of one pass over one job. `settings`, `ticket` and `output` must outlive it.
@@ -59,7 +68,18 @@ class CopyRules {
   /// replaced.
   bool WatchesEveryLine() const;
 
+  /// Whether only what NextStructure finds can be a landmark, not all that NextCandidate finds.
+  bool FollowsStructure() const { return page_hooks_.has_value(); }
+
+  /// Writes what goes after the last line. To be called when the input has ended.
+  void Finish();
+
  private:
+  Landmark ClassifyLine(std::string_view line) const;
+  bool WatchesForResolution() const;
+  std::int64_t CopyStructure(std::string_view line);
+  std::int64_t CopyPart(std::string_view line);
+  void WriteCover();
   void CopyDocumentHeader(std::string_view line);
   void CopyPjlHeader(std::string_view line);
   void ReplaceFaxResolution(std::string_view line);
@@ -75,7 +95,11 @@ class CopyRules {
   const JobSettings& settings_;
   const Dictionary& ticket_;
   JobOutput& output_;
+
+  // Of jobs with page hooks.
   std::optional<PageHooks> page_hooks_;
+  DocumentShape shape_;
+  JobFrame frame_;
 
   bool found_eps_ = false;
   bool found_pjl_ = false;

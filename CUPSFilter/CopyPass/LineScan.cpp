@@ -23,37 +23,52 @@ bool AnySet(Mask mask) {
   return (halves[0] | halves[1]) != 0;
 }
 
-/// The lanes of the block at `from` where a landmark can begin.
-Mask CandidatesAt(const char* from) {
-  const Bytes before = Load(from - 1);
-  const Bytes here = Load(from);
-  const Bytes after = Load(from + 1);
-  const Mask starts_line = (before == '\n') | (before == '\r');
-  const Mask percent = here == '%';
-  const Mask first_byte = percent | (here == '@') | (here == 'e');
-  return (starts_line & first_byte) | (percent & (after == '!'));
-}
+/// What NextCandidate looks for: a quick test of a block's lanes, and the exact one of a place.
+struct Landmarks {
+  static Mask At(const char* from) {
+    const Bytes before = Load(from - 1);
+    const Bytes here = Load(from);
+    const Bytes after = Load(from + 1);
+    const Mask starts_line = (before == '\n') | (before == '\r');
+    const Mask percent = here == '%';
+    const Mask first_byte = percent | (here == '@') | (here == 'e');
+    return (starts_line & first_byte) | (percent & (after == '!'));
+  }
 
-/// The exact test, which also looks at a landmark's second byte: "%!", "%%", "@P", "en", "ep".
-bool IsCandidate(const char* at) {
-  const char second = at[1];
-  if (at[0] == '%' && second == '!') return true;
-  if (at[-1] != '\n' && at[-1] != '\r') return false;
-  return (at[0] == '%' && second == '%') || (at[0] == '@' && second == 'P') ||
-         (at[0] == 'e' && (second == 'n' || second == 'p'));
-}
+  static bool Is(const char* at) {
+    const char second = at[1];
+    if (at[0] == '%' && second == '!') return true;
+    if (at[-1] != '\n' && at[-1] != '\r') return false;
+    return (at[0] == '%' && second == '%') || (at[0] == '@' && second == 'P') ||
+           (at[0] == 'e' && (second == 'n' || second == 'p'));
+  }
+};
 
-}  // namespace
+/// What NextStructure looks for.
+struct Structure {
+  static Mask At(const char* from) {
+    const Bytes before = Load(from - 1);
+    const Bytes here = Load(from);
+    const Mask starts_line = (before == '\n') | (before == '\r');
+    return starts_line & ((here == '%') | (here == '\x1b') | (here == '\x04'));
+  }
 
-const char* NextCandidate(const char* from, const char* end) {
+  static bool Is(const char* at) {
+    if (at[-1] != '\n' && at[-1] != '\r') return false;
+    return (at[1] == '%' && (at[0] == '%' || at[0] == '\x1b')) || at[0] == '\x04';
+  }
+};
+
+template <class Wanted>
+const char* Next(const char* from, const char* end) {
   constexpr int kBlock = sizeof(Bytes);
   while (from < end) {
     // Two blocks a turn: one test and branch for both.
-    const Mask first = CandidatesAt(from);
-    const Mask second = CandidatesAt(from + kBlock);
+    const Mask first = Wanted::At(from);
+    const Mask second = Wanted::At(from + kBlock);
     if (AnySet(first | second)) {
       for (int i = 0; i < 2 * kBlock && from < end; ++i, ++from) {
-        if (IsCandidate(from)) return from;
+        if (Wanted::Is(from)) return from;
       }
       continue;
     }
@@ -61,5 +76,11 @@ const char* NextCandidate(const char* from, const char* end) {
   }
   return end;
 }
+
+}  // namespace
+
+const char* NextCandidate(const char* from, const char* end) { return Next<Landmarks>(from, end); }
+
+const char* NextStructure(const char* from, const char* end) { return Next<Structure>(from, end); }
 
 }  // namespace zarvo

@@ -9,7 +9,11 @@ namespace zarvo {
 /// end[kScanSlack - 1] must be readable; from[-1] decides whether `from` begins a line.
 const char* NextCandidate(const char* from, const char* end);
 
-/// How many readable bytes NextCandidate needs after `end`.
+/// The same for jobs whose documents are told apart: "%%", an escape with "%" or a Ctrl-D, each
+/// right after a line end.
+const char* NextStructure(const char* from, const char* end);
+
+/// How many readable bytes both need after `end`.
 constexpr int kScanSlack = 64;
 
 }  // namespace zarvo

@@ -7,23 +7,19 @@
 #include "CUPSFilter/Header/JobTypeComments.h"
 
 namespace zarvo {
-namespace {
 
-/// Ends whatever the printer was reading.
-constexpr char kUniversalExit[] = "\x1b%-12345X";
-
-}  // namespace
-
-void WriteEnvelopeStart(FILE* output, const Dictionary& ticket) {
-  std::fprintf(output, "%s@PJL JOB\n@PJL COMMENT ZRVbegin\n", kUniversalExit);
+void WriteEnvelopeStart(FILE* output, const Dictionary& ticket, std::string_view settings) {
+  std::fprintf(output, "%s@PJL JOB\n@PJL COMMENT ZRVbegin\n", kUniversalExit.data());
   WriteOwnComments(output, ticket);
   WriteBannerPage(output, ticket);
   WriteRequestOffset(output, ticket);
-  std::fputs("@PJL COMMENT ZRVend\n@PJL ENTER LANGUAGE = POSTSCRIPT\n", output);
+  std::fputs("@PJL COMMENT ZRVend\n", output);
+  std::fwrite(settings.data(), 1, settings.size(), output);
+  std::fputs("@PJL ENTER LANGUAGE = POSTSCRIPT\n", output);
 }
 
 void WriteEnvelopeEnd(FILE* output) {
-  std::fprintf(output, "%s@PJL EOJ\n%s\n", kUniversalExit, kUniversalExit);
+  std::fprintf(output, "%s@PJL EOJ\n%s\n", kUniversalExit.data(), kUniversalExit.data());
 }
 
 int WriteOwnComments(FILE* output, const Dictionary& ticket) {

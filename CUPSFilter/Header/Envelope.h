@@ -13,6 +13,7 @@
 //   @PJL COMMENT OID_ATT_START_SHEET                    WriteBannerPage      BannerComments
 //   @PJL SET JOBOFFSET                                  WriteRequestOffset
 //   @PJL COMMENT ZRVend
+//   @PJL SET ...                                        what the job has brought
 //   @PJL ENTER LANGUAGE = POSTSCRIPT
 //   %!PS-Adobe-3.0 ...                                  the document, behind the XML ticket (JTML/)
 //   ESC%-12345X@PJL EOJ                                 WriteEnvelopeEnd
@@ -24,13 +25,18 @@
 #pragma once
 
 #include <cstdio>
+#include <string_view>
 
 #include "Platform/Value.h"
 
 namespace zarvo {
 
-/// The envelope's head, up to the switch to PostScript.
-void WriteEnvelopeStart(FILE* output, const Dictionary& ticket);
+/// What ends whatever the printer was reading.
+constexpr std::string_view kUniversalExit = "\x1b%-12345X";
+
+/// The envelope's head, up to the switch to PostScript. `settings` are whole PJL lines that a job
+/// has brought without an envelope of ours.
+void WriteEnvelopeStart(FILE* output, const Dictionary& ticket, std::string_view settings = {});
 void WriteEnvelopeEnd(FILE* output);
 
 /// The lines for an envelope that the job has brought. Returns the job type, a JobTypeCode or

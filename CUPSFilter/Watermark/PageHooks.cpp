@@ -6,7 +6,6 @@
 #include "CUPSFilter/Options/common.h"
 #include "CUPSFilter/Watermark/WatermarkText.h"
 #include "CUPSFilter/Watermark/outputPICT.h"
-#include "Platform/Log.h"
 
 namespace zarvo {
 
@@ -14,8 +13,7 @@ extern const std::string_view PageHookProcedures;
 
 namespace {
 
-constexpr std::string_view kLandmarks[] = {"%%EndSetup", "%%Page:", "%%BeginPageSetup",
-                                           "%%BeginDocument", "%%EndDocument"};
+constexpr std::string_view kLandmarks[] = {"%%EndSetup", "%%Page:", "%%BeginPageSetup"};
 
 void WriteFlag(FILE* output, const char* name, bool value) {
   std::fprintf(output, "/%s %s def\n", name, value ? "true" : "false");
@@ -65,18 +63,36 @@ bool PageHooks::IsLandmark(std::string_view line) const {
   return false;
 }
 
-void PageHooks::Copy(std::string_view line) {
-  if (line.starts_with("%%BeginDocument")) ++nesting_;
-  if (line.starts_with("%%EndDocument") && nesting_ > 0) --nesting_;
-  const bool own = nesting_ == 0;
-  const bool page = own && line.starts_with("%%Page:");
-  if (page || (own && line.starts_with("%%EndSetup"))) Insert();
-  output_.Write(line);
-  if (page) {
+void PageHooks::BeginDocument() {
+  inserted_ = !needed_;
+  pages_ = 0;
+  page_set_up_ = true;
+}
+
+bool PageHooks::WatchesEveryLine() const { return !inserted_ && !settings_.booklet; }
+
+void PageHooks::BeforeLine(std::string_view line, bool own) {
+  const bool ends_setup = own && line.starts_with("%%EndSetup");
+  if (inserted_) {
+    if (ends_setup && needed_ && !settings_.booklet) output_.Write("ZRVhooks /again get exec\n");
+    return;
+  }
+  // Header comments stay together, for whoever reads them next.
+  const bool header = line.find_first_not_of("\r\n") == line.npos ||
+                      (line.starts_with('%') && !line.starts_with("%%Begin"));
+  const bool here =
+      settings_.booklet ? ends_setup || (own && line.starts_with("%%Page:")) : !header;
+  if (here) Insert();
+}
+
+void PageHooks::AfterLine(std::string_view line, bool own) {
+  if (!own || !needed_) return;
+  if (!inserted_ && !settings_.booklet && line.starts_with("%%EndComments")) Insert();
+  if (line.starts_with("%%Page:")) {
     ++pages_;
     page_set_up_ = false;
   }
-  if (own && line.starts_with("%%BeginPageSetup") && inserted_ && !page_set_up_) {
+  if (line.starts_with("%%BeginPageSetup") && !page_set_up_) {
     page_set_up_ = true;
     if (settings_.booklet)
       std::fprintf(output_.stream(), "%d ZRVhooks /bookletpage get exec\n", pages_ - 1);
@@ -84,7 +100,6 @@ void PageHooks::Copy(std::string_view line) {
 }
 
 void PageHooks::Insert() {
-  if (inserted_) return;
   inserted_ = true;
   FILE* output = output_.stream();
   const std::optional<WatermarkChoice>& watermark = settings_.watermark;
@@ -115,13 +130,6 @@ void PageHooks::Insert() {
   std::fputs("} def\n/front {\n", output);
   if (watermark && !below) WriteDrawing(output, *watermark);
   std::fputs("} def\nZRVinstall\nend end setglobal\n", output);
-}
-
-void PageHooks::LogIfUnused() const {
-  if (needed_ && !inserted_)
-    LogLine(
-        "ERROR: the job has no page comments, so it was printed without its watermark, negative "
-        "or mirror image. Print it as PDF");
 }
 
 }  // namespace zarvo

@@ -15,18 +15,25 @@ namespace zarvo {
 /// write they are missing, and what is inserted there is lost or stops the job.
 bool PageHooksWanted(const Ppd& ppd);
 
-/// What one pass over a job inserts: once, before the first page, procedures that the printer runs
-/// at the start and at the end of every page. `settings` and `output` must outlive it.
+/// What one pass over a job inserts: into every document, before its prolog, procedures that the
+/// printer runs at the start and at the end of every page, and at the end of its set-up a call that
+/// has them run even where that changed the page device. In a booklet, where the device sees
+/// sheets, the procedures go after the imposition's own, and each page's set-up calls them.
+/// `settings` and `output` must outlive it.
 class PageHooks {
  public:
   PageHooks(const JobSettings& settings, JobOutput& output);
 
-  /// Whether the line is one that Copy() has to be given.
+  /// A document begins; its first line comes next.
+  void BeginDocument();
+  /// Whether it has to be given the next line, whatever that holds,
+  bool WatchesEveryLine() const;
+  /// and whether it has to be given this one.
   bool IsLandmark(std::string_view line) const;
-  /// Writes the line and what belongs to it.
-  void Copy(std::string_view line);
-  /// At the end of the job: tells in a log line when it had no place for the procedures.
-  void LogIfUnused() const;
+  /// Write what goes before and after a line. `own` says that it is the document's own, not
+  /// something embedded's.
+  void BeforeLine(std::string_view line, bool own);
+  void AfterLine(std::string_view line, bool own);
 
  private:
   void Insert();
@@ -34,9 +41,8 @@ class PageHooks {
   const JobSettings& settings_;
   JobOutput& output_;
   bool needed_;
-  bool inserted_ = false;
-  int nesting_ = 0;          // of embedded documents
-  int pages_ = 0;            // begun so far
+  bool inserted_ = true;     // into this document
+  int pages_ = 0;            // of this document, begun so far
   bool page_set_up_ = true;  // this page's set-up has been seen
 };
 

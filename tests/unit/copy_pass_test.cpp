@@ -26,7 +26,8 @@ std::vector<std::string> Words() {
 }
 
 const std::vector<std::string> kWords = Words();
-const std::string kEnds[] = {"\n", "\n", "\n", "\r\n", "\r", "", "\n\r"};
+const std::string kEnds[] = {"\n", "\n",   "\n",     "\r\n",          "\r",
+                             "",   "\n\r", "\n\x04", "\n\x1b%-12345X"};
 
 /// A job of random pieces and settings.
 class JobMaker {
@@ -43,6 +44,7 @@ class JobMaker {
     }
     if (Below(2) == 0) job.settings.zarvoJobPassword = "1234";
     job.settings.invertImage = Below(2) == 0;
+    job.settings.pageHooks = Below(2) == 0;
     if (Below(2) == 0) {
       const Dictionary fax = {{"Resolution", Number(static_cast<int>(Below(4)))}};
       job.ticket = {{"com.zarvo.print.JobType", Dictionary{{"JobType", Number(5)}}},

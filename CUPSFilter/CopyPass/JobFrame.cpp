@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "CUPSFilter/CopyPass/JobFrame.h"
+
+#include <algorithm>
+
+#include "CUPSFilter/CopyPass/DocumentShape.h"
+#include "CUPSFilter/Header/Envelope.h"
+#include "Platform/Log.h"
+
+namespace zarvo {
+namespace {
+
+/// More than any driver writes between documents.
+constexpr std::size_t kMostKept = 64 * 1024;
+
+/// The PJL lines of `kept` that set something for the job.
+std::string Settings(std::string_view kept) {
+  std::string settings;
+  while (!kept.empty()) {
+    std::string_view line = kept.substr(0, kept.find_first_of("\r\n"));
+    kept.remove_prefix(std::min(line.size() + 1, kept.size()));
+    line.remove_prefix(LeadLength(line));
+    if (line.starts_with("@PJL SET ") || line.starts_with("@PJL COMMENT "))
+      settings.append(line).append("\n");
+  }
+  return settings;
+}
+
+}  // namespace
+
+void JobFrame::Keep(std::string_view line) {
+  if (own_envelope_) {
+    own_end_ = own_end_ || line.find("@PJL EOJ") != line.npos;
+    output_.Write(line);
+    return;
+  }
+  if (kept_.size() + line.size() > kMostKept) {
+    if (documents_ > 0) output_.Write(kept_);
+    kept_.clear();
+  }
+  kept_ += line;
+}
+
+int JobFrame::CopyEnvelope(std::string_view line) {
+  if (documents_ > 0 && !own_envelope_) {
+    Keep(line);
+    return 0;
+  }
+  LogLine("DEBUG: found PJL header");
+  output_.Write(kept_);
+  kept_.clear();
+  own_envelope_ = true;
+  own_end_ = false;
+  output_.Write(line);
+  return WriteOwnComments(output_.stream(), ticket_);
+}
+
+std::string_view JobFrame::BeginDocument(std::string_view line) {
+  const std::size_t lead = LeadLength(line);
+  if (lead > 0) Keep(line.substr(0, lead));
+  if (documents_++ > 0 && kept_.find(kUniversalExit) != kept_.npos) {
+    output_.Write(kUniversalExit);
+    output_.Write("@PJL ENTER LANGUAGE = POSTSCRIPT\n");
+  } else if (documents_ > 1) {
+    output_.Write(kept_);
+  } else if (!own_envelope_) {
+    WriteEnvelopeStart(output_.stream(), ticket_, Settings(kept_));
+  }
+  kept_.clear();
+  return line.substr(lead);
+}
+
+void JobFrame::GoOn() {
+  output_.Write(kept_);
+  kept_.clear();
+}
+
+void JobFrame::End() {
+  if (documents_ == 0)
+    output_.Write(kept_);
+  else if (!own_end_)
+    WriteEnvelopeEnd(output_.stream());
+  kept_.clear();
+}
+
+}  // namespace zarvo
