@@ -2,10 +2,15 @@
 #include "CUPSFilter/JobSettings.h"
 
 #include <cmath>
+#include <memory>
+#include <string_view>
+#include <vector>
 
 #include "CUPSFilter/Options/MediaSize.h"
 #include "CUPSFilter/Options/common.h"
 #include "Source/CFAdditions.h"
+#include "Source/FaxCover.h"
+#include "Source/NearestName.h"
 #include "Source/TicketNames.h"
 
 namespace zarvo {
@@ -33,15 +38,49 @@ void ReadBooklet(const Dictionary& ticket, JobSettings* settings) {
 
 /// The entry of the stored list that a 1-based index names; nothing past the list's end or where
 /// the entry is no text.
-std::optional<std::string> WatermarkAtIndex(std::int32_t index) {
+std::optional<std::string> WatermarkAtIndex(std::int32_t index, JobNotices* notices) {
   Array names;
-  if (loadWatermarkList(kWatermarkCollection, nullptr, &names) == 0) return std::nullopt;
+  if (loadWatermarkList(kWatermarkCollection, nullptr, &names) == 0) names.clear();
   const auto position = static_cast<std::size_t>(index) - 1;
   const std::string* name = position < names.size() ? names[position].AsString() : nullptr;
-  return name != nullptr ? std::optional<std::string>(*name) : std::nullopt;
+  if (name != nullptr) return *name;
+  notices->Add("watermark " + std::to_string(index) + " was left out: the store has " +
+               std::to_string(names.size()) + "; \"zarvo watermark list\" shows them");
+  return std::nullopt;
 }
 
-std::optional<WatermarkChoice> ReadWatermark(const Dictionary& ticket) {
+/// Loads a watermark and notes one that is missing, unless the log tells it already.
+void LoadWatermark(const char* collection, const char* what, const std::string& name,
+                   _WatermarkData* data, JobNotices* notices) {
+  if (loadWatermarkData(collection, &name, data) != 0 || !notices->told()) return;
+  Array entries;
+  loadWatermarkList(collection, nullptr, &entries);
+  std::vector<std::string> names;
+  for (const Value& entry : entries)
+    if (const std::string* text = entry.AsString()) names.push_back(*text);
+  const std::string nearest = NearestName(name, names);
+  notices->Add(
+      std::string(what) + " \"" + name + "\" was left out: the store has none of that name; " +
+      (nearest.empty() ? "\"zarvo watermark list\" shows them" : "did you mean " + nearest + "?"));
+}
+
+/// The cover is drawn much later; its watermark is looked for now, with everything else that may be
+/// missing.
+void CheckCoverWatermark(const Dictionary& ticket, JobNotices* notices) {
+  const Dictionary* fax = DictionaryGetDictionary(ticket, key::kFaxOptions);
+  if (fax == nullptr || !notices->told()) return;
+  const auto wanted = [fax](std::string_view key) {
+    return DictionaryGetBoolean(*fax, key) == true;
+  };
+  const std::string* name = DictionaryGetString(*fax, kFaxCoverWatermarkNameProperty);
+  if (!wanted(kFaxPrintCoverSheetProperty) || !wanted(kFaxCoverShowWatermarkProperty) ||
+      name == nullptr)
+    return;
+  const auto data = std::make_unique<_WatermarkData>();
+  LoadWatermark(kFaxImageCollection, "the cover's watermark", *name, data.get(), notices);
+}
+
+std::optional<WatermarkChoice> ReadWatermark(const Dictionary& ticket, JobNotices* notices) {
   WatermarkChoice choice;
   std::optional<std::string> name;
   std::int32_t first_page_only = 0;
@@ -59,11 +98,11 @@ std::optional<WatermarkChoice> ReadWatermark(const Dictionary& ticket) {
       choice.watermark_option = foreground != 0 ? kWatermarkForeground : kWatermarkBackground;
     }
     CFDictionaryGetNumber(ticket, key::kListedWatermarkFirstPage, &first_page_only);
-    name = WatermarkAtIndex(index);
+    name = WatermarkAtIndex(index, notices);
   }
   if (!name) return std::nullopt;
   choice.watermarkFirstPageOnly = first_page_only != 0;
-  loadWatermarkData(kWatermarkCollection, &*name, &choice.watermarkData);
+  LoadWatermark(kWatermarkCollection, "watermark", *name, &choice.watermarkData, notices);
   return choice;
 }
 
@@ -74,13 +113,15 @@ bool IsOne(const Dictionary& dictionary, const char* key) {
 
 }  // namespace
 
-JobSettings ReadJobSettings(const Dictionary& ticket, int num_options, cups_option_t* options) {
+JobSettings ReadJobSettings(const Dictionary& ticket, int num_options, cups_option_t* options,
+                            JobNotices* notices) {
   JobSettings settings;
   settings.mediaWidth = WholePoints(PageWidth);
   settings.mediaLength = WholePoints(PageLength);
   CFDictionaryGetNumber(ticket, key::kEmitJTML, &settings.emitJTML);
   ReadBooklet(ticket, &settings);
-  settings.watermark = ReadWatermark(ticket);
+  settings.watermark = ReadWatermark(ticket, notices);
+  CheckCoverWatermark(ticket, notices);
   if (const Dictionary* image = DictionaryGetDictionary(ticket, key::kInvertImageOptions)) {
     settings.invertImage = IsOne(*image, key::invert::kNegativeImage);
     settings.flipHorizontal = IsOne(*image, key::invert::kMirrorImage);

@@ -9,6 +9,7 @@
 #include <optional>
 #include <string>
 
+#include "CUPSFilter/JobNotices.h"
 #include "Platform/Value.h"
 #include "Source/TicketNames.h"
 #include "Source/WatermarkSupport.h"
@@ -35,11 +36,15 @@ struct JobSettings {
   std::optional<std::string> zarvoJobName;
   std::optional<std::string> zarvoJobPassword;
   std::optional<WatermarkChoice> watermark;
-  bool pageHooks = false;  ///< from the PPD, not from the ticket (see PageHooks.h)
+  // From the PPD, not from the ticket:
+  bool pageHooks = false;   ///< see PageHooks.h
+  bool failClosed = false;  ///< see QueuePolicy.h
 };
 
 /// Reads the settings. A key that is missing or of a wrong type leaves its start value; the page
-/// variables must be set already. Loads the chosen watermark from its store.
-JobSettings ReadJobSettings(const Dictionary& ticket, int num_options, cups_option_t* options);
+/// variables must be set already. Loads the chosen watermark from its store; one that is not there
+/// is noted, also that of a fax cover.
+JobSettings ReadJobSettings(const Dictionary& ticket, int num_options, cups_option_t* options,
+                            JobNotices* notices);
 
 }  // namespace zarvo

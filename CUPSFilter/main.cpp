@@ -17,15 +17,20 @@
 #include "CUPSFilter/CopyPass/CopyPass.h"
 #include "CUPSFilter/CopyPass/CopyRules.h"
 #include "CUPSFilter/JTML/JTML.h"
+#include "CUPSFilter/JobNotices.h"
 #include "CUPSFilter/JobOutput.h"
 #include "CUPSFilter/JobSettings.h"
+#include "CUPSFilter/Options/OptionCheck.h"
 #include "CUPSFilter/Options/ParseOptions.h"
+#include "CUPSFilter/Options/PinPolicy.h"
 #include "CUPSFilter/Options/PpdTicket.h"
+#include "CUPSFilter/Options/QueuePolicy.h"
 #include "CUPSFilter/Options/common.h"
 #include "CUPSFilter/SpoolFile.h"
 #include "CUPSFilter/Watermark/PageHooks.h"
 #include "Platform/Log.h"
 #include "Platform/Process.h"
+#include "Platform/ScratchFolder.h"
 #include "Platform/UniqueFd.h"
 
 namespace zarvo {
@@ -39,17 +44,45 @@ struct Job {
   JobSettings settings;
 };
 
-Job ReadJob(const char* option_text) {
+/// What the queue's policy has to say. Puts a PIN that the spooler hands over into the ticket.
+std::string JudgeJob(const JobRequest& request, const QueuePolicy& policy, const Ppd& ppd,
+                     Dictionary* ticket, JobNotices* notices) {
+  for (const Judgement& verdict : {JudgePin(request, policy, ticket), JudgeFax(request, *ticket)}) {
+    if (!verdict.refusal.empty()) return verdict.refusal;
+    for (const std::string& text : verdict.notices) notices->Add(text);
+  }
+  for (const std::string& text : FindVainOptions(request, ppd, *ticket)) notices->Add(text);
+  return "";
+}
+
+/// Nothing when the queue's policy refuses the job, which is told.
+std::optional<Job> ReadJob(const char* option_text, std::optional<JobNotices>* notices) {
   // Never given back: freeing the list one option at a time would cost more than decoding it.
   static OptionList& options = *new OptionList(OptionList::Parse(option_text));
   const Ppd ppd = SetCommonOptions(options.size(), options.data(), 1);
-  const OptionList chosen = PpdTicketOptions(ppd);
+  const QueuePolicy policy = ReadQueuePolicy(ppd);
+  notices->emplace(policy.failClosed);
+  (*notices)->Begin();
+  std::vector<std::string> faults;
+  const OptionList chosen = PpdTicketOptions(ppd, &faults);
   const std::vector<cups_option_t> ordered = TicketOrder(chosen, options);
+  std::vector<std::string_view> left_out;
   Job job;
-  job.ticket = ParseCUPSOptionsToDictionary(ordered.data(), static_cast<int>(ordered.size()));
+  job.ticket =
+      ParseCUPSOptionsToDictionary(ordered.data(), static_cast<int>(ordered.size()), &left_out);
+  std::string refusal;
+  if (policy.failClosed) {
+    const JobRequest request = {options.span(), chosen.span(), left_out};
+    refusal = JudgeJob(request, policy, ppd, &job.ticket, &**notices);
+  }
+  // The spooler shows people the first of all errors.
+  if (!refusal.empty()) (*notices)->Refuse("the job was not printed: " + refusal);
+  for (const std::string& fault : faults) LogLine("ERROR: %s", fault.c_str());
+  if (!refusal.empty()) return std::nullopt;
   options.AddMissing(chosen);
-  job.settings = ReadJobSettings(job.ticket, options.size(), options.data());
+  job.settings = ReadJobSettings(job.ticket, options.size(), options.data(), &**notices);
   job.settings.pageHooks = PageHooksWanted(ppd);
+  job.settings.failClosed = policy.failClosed;
   return job;
 }
 
@@ -94,7 +127,12 @@ int RunJob(const Job& job, const char* input_name) {
   if (job.settings.booklet) {
     spool = SpoolFile::Create();
     if (!spool) {
+      const int error = errno;
       LogLine("ERROR: unable to get tmpnam");
+      LogLine(
+          "ERROR: no file can be made in TMPDIR, \"%s\" - %s; let TMPDIR name a folder that the "
+          "spooler's user may write",
+          TemporaryFolder().c_str(), std::strerror(error));
       return kFailure;
     }
   }
@@ -111,8 +149,10 @@ int RunJob(const Job& job, const char* input_name) {
   if (result == CopyResult::kEarlyEnd || result == CopyResult::kReadFailed)
     return ReportInput(result, pass.error(), input_name != nullptr ? input_name : "(stdin)");
   if (spool && output.error() == 0) {
-    ImposeJob(job.ticket, job.settings, *spool, printer);
+    const bool imposed = ImposeJob(job.ticket, job.settings, *spool, printer);
     printer.Flush();
+    // Of old such a job counted as printed, so that the queue went on.
+    if (!imposed && job.settings.failClosed) return kFailure;
   }
   return ReportWrites(output, printer);
 }
@@ -149,8 +189,15 @@ int Main(int argc, char** argv) {
   WidenPipes();
   static char output_buffer[1 << 16];
   std::setvbuf(stdout, output_buffer, _IOFBF, sizeof output_buffer);
-  const Job job = ReadJob(argv[5]);
-  const int status = RunJob(job, argc == 7 ? argv[6] : nullptr);
+  std::optional<JobNotices> notices;
+  const std::optional<Job> job = ReadJob(argv[5], &notices);
+  if (!job) return kFailure;
+  const int status = RunJob(*job, argc == 7 ? argv[6] : nullptr);
+  if (status == kSuccess) {
+    notices->Finish();
+  } else {
+    notices->MarkRefused();
+  }
   if (status == kSuccess) LogLine("DEBUG: leaving Zarvo cups filter");
   return status;
 }

@@ -40,7 +40,8 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   Ppd ppd = Ppd::Open(("/proc/self/fd/" + std::to_string(file.get())).c_str());
   ppd.Mark(options.size(), options.data());
   ppd.MarkedPageSize();
-  const OptionList chosen = PpdTicketOptions(ppd);
+  std::vector<std::string> faults;
+  const OptionList chosen = PpdTicketOptions(ppd, &faults);
   const std::vector<cups_option_t> ordered = TicketOrder(chosen, options);
   ParseCUPSOptionsToDictionary(ordered.data(), static_cast<int>(ordered.size()));
   options.AddMissing(chosen);

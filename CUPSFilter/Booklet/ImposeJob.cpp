@@ -63,7 +63,7 @@ int DuplexCode(const std::string& sides) {
 
 }  // namespace
 
-void ImposeJob(const Dictionary& ticket, const JobSettings& settings, const SpoolFile& spool,
+bool ImposeJob(const Dictionary& ticket, const JobSettings& settings, const SpoolFile& spool,
                JobOutput& output) {
   _tag_Q7B_PS_BOOKLET_VARS bv;
   bv.bDoBooklet = 1;
@@ -92,6 +92,7 @@ void ImposeJob(const Dictionary& ticket, const JobSettings& settings, const Spoo
   if (pages <= 0 && output.error() == 0)
     LogLine("ERROR: booklet: %s (code %d); %s", StageOf(pages).failure, pages,
             StageOf(pages).remedy);
+  return pages > 0;
 }
 
 }  // namespace zarvo

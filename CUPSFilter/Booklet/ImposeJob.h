@@ -11,8 +11,8 @@ namespace zarvo {
 
 /// Imposes the spooled job onto the output as the ticket asks for. A job that cannot be imposed is
 /// told in one log line, with the stage that failed and what to do; failed writes show on the
-/// output only.
-void ImposeJob(const Dictionary& ticket, const JobSettings& settings, const SpoolFile& spool,
+/// output only. Returns whether the job was imposed.
+bool ImposeJob(const Dictionary& ticket, const JobSettings& settings, const SpoolFile& spool,
                JobOutput& output);
 
 }  // namespace zarvo

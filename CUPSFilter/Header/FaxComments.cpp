@@ -14,10 +14,6 @@
 namespace zarvo {
 namespace {
 
-// Fixed by the printer: longer values make it refuse the whole header.
-constexpr std::size_t kMaxCreditCardBytes = 16;
-constexpr std::size_t kMaxDialingPrefixBytes = 4;
-
 int ResolutionCode(const Dictionary& options) {
   std::int32_t resolution = -1;
   CFDictionaryGetNumber(options, kFaxResolutionProperty, &resolution);

@@ -16,7 +16,6 @@ namespace zarvo {
 namespace {
 
 constexpr char kPasswordKey[] = "qmtvqmtvqm";  // with its zero byte: 11 key bytes
-constexpr std::size_t kLongestPassword = 19;   // the printer's limit, in bytes
 
 enum Month : std::int16_t {
   January = 1,

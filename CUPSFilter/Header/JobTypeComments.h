@@ -3,6 +3,7 @@
 // nothing: a missing ticket key means that its line is not written.
 #pragma once
 
+#include <cstddef>
 #include <cstdio>
 
 #include "Platform/Clock.h"
@@ -10,6 +11,9 @@
 #include "Source/TicketNames.h"
 
 namespace zarvo {
+
+/// The printer's limit of a password, in bytes; a longer one is cut.
+constexpr std::size_t kLongestPassword = 19;
 
 /// Writes the lines of the ticket's job type and returns its number, also when no type has that
 /// number (then the line of a normal job is written). Without a job-type dictionary

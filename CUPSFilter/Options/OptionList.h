@@ -4,6 +4,9 @@
 
 #include <cups/cups.h>
 
+#include <cstddef>
+#include <span>
+
 namespace zarvo {
 
 /// A list of options that owns its texts.
@@ -22,6 +25,9 @@ class OptionList {
   /// The options of `other` whose names are not there already.
   void AddMissing(const OptionList& other);
 
+  std::span<const cups_option_t> span() const {
+    return {options_, static_cast<std::size_t>(size_)};
+  }
   int size() const { return size_; }
   cups_option_t* data() const { return options_; }
 

@@ -49,32 +49,10 @@ bool NaturallyLess(std::string_view left, std::string_view right) {
   return left.size() < right.size();
 }
 
-std::vector<std::string_view> SplitName(std::string_view name) {
-  std::vector<std::string_view> components;
-  for (;;) {
-    const std::size_t at = name.find("..");
-    components.push_back(name.substr(0, at));
-    if (at == std::string_view::npos) return components;
-    name.remove_prefix(at + 2);
-  }
-}
-
 /// The letter of the type that component `index` names; a blank, which means string, past the end.
 char TypeAt(const std::vector<std::string_view>& components, std::size_t index) {
   if (index >= components.size()) return ' ';
   return components[index].empty() ? '\0' : components[index].front();
-}
-
-/// What follows the type letter and the separator, which may be any one character.
-std::string_view AddressIn(std::string_view component) {
-  for (int skipped = 0; skipped < 2 && !component.empty(); ++skipped) {
-    std::size_t length = 1;
-    while (length < component.size() &&
-           (static_cast<unsigned char>(component[length]) & 0xC0) == 0x80)
-      ++length;
-    component.remove_prefix(length);
-  }
-  return component;
 }
 
 std::int32_t ParseSaturated(std::string_view text) {
@@ -166,7 +144,8 @@ Value* PutIntoArray(Array* array, std::string_view address, char type, std::stri
   return &(*array)[index];
 }
 
-void StoreOption(std::string_view name, std::string_view text, Dictionary* ticket) {
+/// False when it has no place in the ticket.
+bool StoreOption(std::string_view name, std::string_view text, Dictionary* ticket) {
   const std::vector<std::string_view> components = SplitName(name);
   char type = TypeAt(components, 1);
   Value* place = PutIntoDictionary(ticket, components[0], type, text, false);
@@ -180,9 +159,31 @@ void StoreOption(std::string_view name, std::string_view text, Dictionary* ticke
       place = PutIntoDictionary(place->AsDictionary(), address, type, text, true);
     }
   }
+  return place != nullptr;
 }
 
 }  // namespace
+
+std::vector<std::string_view> SplitName(std::string_view name) {
+  std::vector<std::string_view> components;
+  for (;;) {
+    const std::size_t at = name.find("..");
+    components.push_back(name.substr(0, at));
+    if (at == std::string_view::npos) return components;
+    name.remove_prefix(at + 2);
+  }
+}
+
+std::string_view AddressIn(std::string_view component) {
+  for (int skipped = 0; skipped < 2 && !component.empty(); ++skipped) {
+    std::size_t length = 1;
+    while (length < component.size() &&
+           (static_cast<unsigned char>(component[length]) & 0xC0) == 0x80)
+      ++length;
+    component.remove_prefix(length);
+  }
+  return component;
+}
 
 int hex2int(char digit) {
   if (IsDigit(digit)) return digit - '0';
@@ -201,14 +202,19 @@ std::vector<cups_option_t> NaturalOrder(int num_options, const cups_option_t* op
   return ordered;
 }
 
-void recreateCFDictionary(int num_options, const cups_option_t* options, Dictionary* dict) {
+void recreateCFDictionary(int num_options, const cups_option_t* options, Dictionary* dict,
+                          std::vector<std::string_view>* left_out) {
   if (num_options < 1 || options == nullptr) return;
-  for (int i = 0; i < num_options; ++i) StoreOption(options[i].name, options[i].value, dict);
+  for (int i = 0; i < num_options; ++i) {
+    if (!StoreOption(options[i].name, options[i].value, dict) && left_out != nullptr)
+      left_out->push_back(options[i].name);
+  }
 }
 
-Dictionary ParseCUPSOptionsToDictionary(const cups_option_t* opts, int num_options) {
+Dictionary ParseCUPSOptionsToDictionary(const cups_option_t* opts, int num_options,
+                                        std::vector<std::string_view>* left_out) {
   Dictionary ticket;
-  recreateCFDictionary(num_options, opts, &ticket);
+  recreateCFDictionary(num_options, opts, &ticket, left_out);
   return ticket;
 }
 

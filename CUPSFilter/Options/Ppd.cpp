@@ -4,11 +4,17 @@
 #include "CUPSFilter/Options/Ppd.h"
 
 #include <cups/ppd.h>
+#include <cups/pwg.h>
+#include <fcntl.h>
+#include <strings.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
+#include <algorithm>
 #include <charconv>
 
 #include "Platform/Log.h"
+#include "Platform/UniqueFd.h"
 
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
 
@@ -53,7 +59,31 @@ std::optional<std::string> CustomValue(const ppd_cparam_t& parameter) {
   return std::nullopt;
 }
 
+/// The library takes no file that begins with a byte-order mark, and editors put one there. A PPD
+/// of ours is read behind it; others stay unread, as their jobs always were.
+ppd_file_t* OpenBehindMark(const char* file) {
+  UniqueFd descriptor(open(file, O_RDONLY | O_CLOEXEC));
+  char start[3];
+  if (!descriptor || read(descriptor.get(), start, sizeof start) != sizeof start ||
+      std::string_view(start, sizeof start) != "\xef\xbb\xbf")
+    return nullptr;
+  ppd_file_t* ppd = ppdOpenFd(descriptor.release());  // closes it
+  if (ppd == nullptr || ppdFindAttr(ppd, "ZRVFailClosed", nullptr) != nullptr) return ppd;
+  ppdClose(ppd);
+  return nullptr;
+}
+
 }  // namespace
+
+std::optional<std::pair<float, float>> PaperOfName(const std::string& name) {
+  const pwg_media_t* paper = pwgMediaForPWG(name.c_str());
+  if (paper == nullptr) paper = pwgMediaForPPD(name.c_str());
+  if (paper == nullptr) paper = pwgMediaForLegacy(name.c_str());
+  if (paper == nullptr) return std::nullopt;
+  constexpr float kPwgUnitsPerPoint = 2540.0F / 72;
+  return std::pair(static_cast<float>(paper->width) / kPwgUnitsPerPoint,
+                   static_cast<float>(paper->length) / kPwgUnitsPerPoint);
+}
 
 void Ppd::Closer::operator()(ppd_file_s* file) const { ppdClose(file); }
 
@@ -72,6 +102,11 @@ Ppd Ppd::Open(const char* file) {
   if (!ppd) {
     int line = 0;
     const ppd_status_t status = ppdLastError(&line);
+    ppd.file_.reset(OpenBehindMark(file));
+    if (ppd) {
+      LogLine("WARNING: PPD \"%s\" begins with a byte-order mark; save it without one", file);
+      return ppd;
+    }
     LogLine("DEBUG: PPD \"%s\" not used, line %d: %s; printing with Letter page defaults", file,
             line, ppdErrorString(status));
   }
@@ -94,9 +129,35 @@ bool Ppd::IsMarked(const char* option, const char* choice) const {
   return file_ != nullptr && ppdIsMarked(file_.get(), option, choice) != 0;
 }
 
+bool Ppd::HasOption(const char* option) const {
+  return file_ != nullptr && ppdFindOption(file_.get(), option) != nullptr;
+}
+
 bool Ppd::HasChoice(const char* option, const char* choice) const {
   ppd_option_t* found = file_ != nullptr ? ppdFindOption(file_.get(), option) : nullptr;
   return found != nullptr && ppdFindChoice(found, choice) != nullptr;
+}
+
+bool Ppd::TakesCustom(const char* option) const {
+  return file_ != nullptr && (ppdFindCustomOption(file_.get(), option) != nullptr ||
+                              (strcasecmp(option, "PageSize") == 0 && file_->variable_sizes != 0));
+}
+
+std::vector<std::string> Ppd::OptionNames() const {
+  std::vector<std::string> names;
+  if (file_ == nullptr) return names;
+  for (const ppd_option_t* option = ppdFirstOption(file_.get()); option != nullptr;
+       option = ppdNextOption(file_.get()))
+    names.emplace_back(option->keyword);
+  return names;
+}
+
+std::vector<std::string> Ppd::Choices(const char* option) const {
+  std::vector<std::string> choices;
+  const ppd_option_t* found = file_ != nullptr ? ppdFindOption(file_.get(), option) : nullptr;
+  for (int i = 0; found != nullptr && i < found->num_choices; ++i)
+    choices.emplace_back(found->choices[i].choice);
+  return choices;
 }
 
 std::vector<std::optional<std::string>> Ppd::CustomValues(const char* option) const {
@@ -107,6 +168,12 @@ std::vector<std::optional<std::string>> Ppd::CustomValues(const char* option) co
        parameter = ppdNextCustomParam(custom))
     values.push_back(CustomValue(*parameter));
   return values;
+}
+
+bool Ppd::IsTrue(const char* keyword) const {
+  const std::vector<PpdAttribute> found = Attributes(keyword);
+  return std::any_of(found.begin(), found.end(),
+                     [](const PpdAttribute& attribute) { return attribute.value == "True"; });
 }
 
 std::vector<PpdAttribute> Ppd::Attributes(const char* keyword) const {

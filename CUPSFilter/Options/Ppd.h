@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 struct ppd_file_s;
@@ -24,6 +25,10 @@ struct PpdAttribute {
   std::string_view selector, value;
 };
 
+/// Width and length, in points, of the paper that a size's name means, in any of the spellings that
+/// the spooler takes ("A4", "iso_a4_210x297mm", "Custom.300x400"). Nothing for other texts.
+std::optional<std::pair<float, float>> PaperOfName(const std::string& name);
+
 /// An open PPD file, or none: an empty object answers every question with no.
 class Ppd {
  public:
@@ -38,11 +43,19 @@ class Ppd {
   /// The marked page size.
   std::optional<PpdPageSize> MarkedPageSize() const;
   bool IsMarked(const char* option, const char* choice) const;
+  bool HasOption(const char* option) const;
   bool HasChoice(const char* option, const char* choice) const;
+  /// Whether people may give a value of their own, and whether a page size may be of any measure.
+  bool TakesCustom(const char* option) const;
+  /// The keywords of all options, and the choices of one; a custom choice is among them.
+  std::vector<std::string> OptionNames() const;
+  std::vector<std::string> Choices(const char* option) const;
   /// What the job gave for the parameters of an option whose custom choice is marked, as text, in
   /// the order of the parameters: numbers in decimal (lengths in points), a text as it came,
   /// nothing for a text that was not given.
   std::vector<std::optional<std::string>> CustomValues(const char* option) const;
+  /// Whether there is an attribute `*KEYWORD: True`, which switches something of ours on.
+  bool IsTrue(const char* keyword) const;
   /// All attributes of that keyword, in the order of the file.
   std::vector<PpdAttribute> Attributes(const char* keyword) const;
   int ColorDevice() const;

@@ -8,7 +8,6 @@
 #include <utility>
 
 #include "CUPSFilter/Options/ParseOptions.h"
-#include "Platform/Log.h"
 
 namespace zarvo {
 namespace {
@@ -113,14 +112,12 @@ const char* AddAttribute(const Ppd& ppd, const PpdAttribute& attribute, OptionLi
 
 }  // namespace
 
-OptionList PpdTicketOptions(const Ppd& ppd) {
+OptionList PpdTicketOptions(const Ppd& ppd, std::vector<std::string>* faults) {
   OptionList options;
   for (const PpdAttribute& attribute : ppd.Attributes("ZRVTicket")) {
     if (const char* error = AddAttribute(ppd, attribute, &options))
-      LogLine(
-          "ERROR: PPD attribute *ZRVTicket %.*s is not used: %s; correct the PPD or the job's "
-          "option",
-          static_cast<int>(attribute.selector.size()), attribute.selector.data(), error);
+      faults->push_back("PPD attribute *ZRVTicket " + std::string(attribute.selector) +
+                        " is not used: " + error + "; correct the PPD or the job's option");
   }
   return options;
 }

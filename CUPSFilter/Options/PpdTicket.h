@@ -4,6 +4,7 @@
 
 #include <cups/cups.h>
 
+#include <string>
 #include <vector>
 
 #include "CUPSFilter/Options/OptionList.h"
@@ -19,8 +20,8 @@ namespace zarvo {
 /// Outside of names, "%s" is what the job gave for the custom choice: its only parameter, or the
 /// parameters in turn when it has several; "%%" is a percent sign. Attributes are read in the order
 /// of the file, and of two values for one name the later is kept. An attribute that cannot be
-/// understood is told in one log line, which leaves out its value, and skipped.
-OptionList PpdTicketOptions(const Ppd& ppd);
+/// understood is skipped; `faults` gets a text for the log about each, which leaves out its value.
+OptionList PpdTicketOptions(const Ppd& ppd, std::vector<std::string>* faults);
 
 /// The options in the order in which the ticket is decoded: those of the PPD's choices come first,
 /// so that the job's own, even when they spell an address differently, overwrite them. The texts

@@ -43,12 +43,7 @@ void WriteDrawing(FILE* output, const WatermarkChoice& watermark) {
 
 }  // namespace
 
-bool PageHooksWanted(const Ppd& ppd) {
-  for (const PpdAttribute& attribute : ppd.Attributes("ZRVPageHooks")) {
-    if (attribute.value == "True") return true;
-  }
-  return false;
-}
+bool PageHooksWanted(const Ppd& ppd) { return ppd.IsTrue("ZRVPageHooks"); }
 
 PageHooks::PageHooks(const JobSettings& settings, JobOutput& output)
     : settings_(settings),

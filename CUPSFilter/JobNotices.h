@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: Apache-2.0
+// What a job asked for and does not get: one line of the log for each, and, by what the spooler
+// keeps of a job, an answer to the person who sent it.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace zarvo {
+
+/// Of a finished job the spooler keeps one message, its first ERROR line or else its last WARNING
+/// line, and the queue's states of that moment. Both are read by "lpstat -l", print dialogs and
+/// "zarvo why", without any right but to ask.
+inline constexpr char kRefusedState[] = "com.zarvo.job-refused-warning";
+inline constexpr char kNotAsAskedState[] = "com.zarvo.not-as-asked-report";
+/// How the line begins that holds several notices, each after its number: "(1) ... (2) ...".
+inline constexpr char kSummaryStart[] = "Not as asked: ";
+
+class JobNotices {
+ public:
+  /// With `told` false nothing is told, as with PPDs from before this was known.
+  explicit JobNotices(bool told) : told_(told) {}
+
+  bool told() const { return told_; }
+  bool empty() const { return notices_.empty(); }
+
+  /// Takes back what the queue shows of the job before.
+  void Begin() const;
+  /// A setting that is dropped, cut or replaced: one WARNING line with its name, the cause and what
+  /// to do, without any secret.
+  void Add(const std::string& text);
+  /// The job is not printed, or not to its end: one ERROR line, unless there is one already, and the
+  /// queue's state.
+  void Refuse(const std::string& text) const;
+  void MarkRefused() const;
+  /// At the end of the job: the line that holds all notices, when there are several.
+  void Finish() const;
+
+ private:
+  bool told_;
+  std::vector<std::string> notices_;
+};
+
+}  // namespace zarvo
