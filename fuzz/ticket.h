@@ -28,7 +28,8 @@ inline FuzzedTicket DecodeTicket(const std::string& text) {
   if (const auto fax = job.ticket.find("com.zarvo.print.FaxOptions"); fax != job.ticket.end()) {
     if (Dictionary* fax_options = fax->second.AsDictionary()) fax_options->erase("CoverSheet");
   }
-  job.settings = ReadJobSettings(job.ticket, count, options);
+  JobNotices untold(false);
+  job.settings = ReadJobSettings(job.ticket, count, options, &untold);
   cupsFreeOptions(count, options);
   if (job.settings.watermark) job.settings.watermark->watermarkData.filePath[0] = '\0';
   return job;

@@ -72,7 +72,7 @@ std::string_view MisspeltWay(std::string_view name) {
   if (NamesJobTypeEntry(name, kPinKey)) return "";
   for (std::string_view part : SplitName(name)) {
     part.remove_prefix(std::min(part.find_last_of("._") + 1, part.size()));
-    if (IsLike(part, kPinKey, 2)) return "com.zarvo.print.JobType..d_SecurePrintPassword";
+    if (IsLike(part, kPinKey, 2)) return kPinKey;
   }
   return "";
 }

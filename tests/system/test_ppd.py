@@ -27,8 +27,7 @@ JOB = b"%!PS-Adobe-3.0\n%%BeginProlog\n%%EndProlog\n%%BeginSetup\n%%EndSetup\n%%
 WITH = {
     option: beside
     for beside, options in {
-        "JobType=Secure": "JobPIN",
-        "JobType=Save": "SavedJobName SavedJobFormat",
+        "JobType=Save": "JobPIN SavedJobName SavedJobFormat",
         "Accounting=Account": "AccountUser",
         "Accounting=Account AccountUser=Custom.somebody": "AccountID",
         "AccountUser=Custom.somebody AccountID=Custom.4711": "Accounting",
@@ -65,10 +64,12 @@ def choices():
 def run(options):
     done = subprocess.run(
         [BIN / "zarvofilter", "1", "user", "title", "1", options],
-        input=JOB, capture_output=True, timeout=60, check=True,
+        input=JOB, capture_output=True, timeout=60,
         env={"PATH": os.environ["PATH"], "PPD": str(PPD), "TZ": "UTC",
              "ZARVO_APPLICATION_SUPPORT": str(STORE_ROOT)},
     )  # fmt: skip
+    if done.returncode == 1:  # by the queue's policy; the log has its reason
+        return re.findall(r"(?<=not printed: )[^;]*", done.stderr.decode())
     assert b"ERROR" not in done.stderr, done.stderr
     text = done.stdout.decode("utf-8", "replace").replace("\x1b", "ESC")
     # The procedures of the page hooks and of the booklet are the same for every choice.
@@ -91,7 +92,8 @@ def lines():
             if line[0] in "+-" and line[1:].strip() not in ("", "}")
         ]
         switches = "xml" if any("<jtml" in line for line in run(f"{option}={choice}")) else "-"
-        what = "  ".join(added) or "(nothing)"
+        alone = run(f"{option}={choice}")
+        what = f"(refused: {alone[0]})" if len(alone) == 1 else "  ".join(added) or "(nothing)"
         yield f"{option}={choice} | {beside or '-'} | {switches} | {what}"
 
 
