@@ -29,8 +29,8 @@ class JobNotices {
   /// A setting that is dropped, cut or replaced: one WARNING line with its name, the cause and what
   /// to do, without any secret.
   void Add(const std::string& text);
-  /// The job is not printed, or not to its end: one ERROR line, unless there is one already, and the
-  /// queue's state.
+  /// The job is not printed, or not to its end: one ERROR line, unless there is one already, and
+  /// the queue's state.
   void Refuse(const std::string& text) const;
   void MarkRefused() const;
   /// At the end of the job: the line that holds all notices, when there are several.

@@ -18,18 +18,50 @@ namespace {
 
 /// Options of the spooler and its converters that people type. Names that differ from one of them,
 /// or from one of the PPD, in a letter or two are taken for misspelt.
-constexpr const char* kTypedNames[] = {
-    "collate", "copies", "finishings", "fit-to-page", "fitplot", "job-accounting-user-id",
-    "job-account-id", "job-hold-until", "job-password", "job-priority", "job-sheets", "landscape",
-    "media", "mirror", "multiple-document-handling", "natural-scaling", "number-up",
-    "number-up-layout", "orientation-requested", "outputorder", "output-bin", "page-border",
-    "page-bottom", "page-delivery", "page-label", "page-left", "page-ranges", "page-right",
-    "page-set", "page-top", "position", "ppi", "print-color-mode", "print-quality",
-    "print-scaling", "printer-resolution", "raw", "scaling", "sides"};
+constexpr const char* kTypedNames[] = {"collate",
+                                       "copies",
+                                       "finishings",
+                                       "fit-to-page",
+                                       "fitplot",
+                                       "job-accounting-user-id",
+                                       "job-account-id",
+                                       "job-hold-until",
+                                       "job-password",
+                                       "job-priority",
+                                       "job-sheets",
+                                       "landscape",
+                                       "media",
+                                       "mirror",
+                                       "multiple-document-handling",
+                                       "natural-scaling",
+                                       "number-up",
+                                       "number-up-layout",
+                                       "orientation-requested",
+                                       "outputorder",
+                                       "output-bin",
+                                       "page-border",
+                                       "page-bottom",
+                                       "page-delivery",
+                                       "page-label",
+                                       "page-left",
+                                       "page-ranges",
+                                       "page-right",
+                                       "page-set",
+                                       "page-top",
+                                       "position",
+                                       "ppi",
+                                       "print-color-mode",
+                                       "print-quality",
+                                       "print-scaling",
+                                       "printer-resolution",
+                                       "raw",
+                                       "scaling",
+                                       "sides"};
 /// Names that look like one of those above and are none.
-constexpr const char* kOtherNames[] = {"job-id", "job-uuid", "job-name", "brightness", "gamma",
-                                       "hue", "saturation", "profile", "columns", "cpi", "lpi",
-                                       "wrap", "prettyprint", "document-format", "time-at-creation"};
+constexpr const char* kOtherNames[] = {
+    "job-id", "job-uuid",   "job-name",    "brightness",      "gamma",
+    "hue",    "saturation", "profile",     "columns",         "cpi",
+    "lpi",    "wrap",       "prettyprint", "document-format", "time-at-creation"};
 
 bool Equals(const char* left, std::string_view right) {
   return std::string_view(left).size() == right.size() &&
@@ -148,14 +180,15 @@ void CheckSense(const JobRequest& request, const Dictionary& ticket,
     found->push_back("job type " + std::to_string(type) +
                      ": no printer knows it, the job is an ordinary one");
   if (type == kJobTypeFax) return;
-  const bool cover = std::any_of(
-      request.own.begin(), request.own.end(), [](const cups_option_t& option) {
+  const bool cover =
+      std::any_of(request.own.begin(), request.own.end(), [](const cups_option_t& option) {
         return (Equals(option.name, "FaxCover") || Equals(option.name, "FaxRecipient")) &&
                strcasecmp(option.value, "None") != 0;
       });
   if (cover)
-    found->push_back("fax settings without a fax number have no effect; give "
-                     "FaxNumber=Custom.NUMBER");
+    found->push_back(
+        "fax settings without a fax number have no effect; give "
+        "FaxNumber=Custom.NUMBER");
 }
 
 }  // namespace

@@ -56,7 +56,8 @@ bool NamesTopLevel(std::string_view name, std::string_view key) {
 }
 
 bool IsLike(std::string_view text, std::string_view wanted, std::size_t distance) {
-  if (text.size() > wanted.size() + distance || text.size() + distance < wanted.size()) return false;
+  if (text.size() > wanted.size() + distance || text.size() + distance < wanted.size())
+    return false;
   const auto lower = [](std::string_view mixed) {
     std::string result(mixed);
     for (char& c : result) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
@@ -67,7 +68,8 @@ bool IsLike(std::string_view text, std::string_view wanted, std::size_t distance
 
 /// The way that an option which nobody reads was meant to give a PIN; empty when it was not.
 std::string_view MisspeltWay(std::string_view name) {
-  for (const std::string_view way : {std::string_view(kPinOption), std::string_view("job-password")})
+  for (const std::string_view way :
+       {std::string_view(kPinOption), std::string_view("job-password")})
     if (!EqualsIgnoringCase(name, way) && IsLike(name, way, 1)) return way;
   if (NamesJobTypeEntry(name, kPinKey)) return "";
   for (std::string_view part : SplitName(name)) {
@@ -82,7 +84,7 @@ Judgement Refusal(std::string text) { return {std::move(text), {}}; }
 /// What the ways into the job say of its PIN, before the ticket is looked at.
 struct PinWays {
   std::string fault;
-  bool inTicket = false;       // the job's own ticket options give one
+  bool inTicket = false;          // the job's own ticket options give one
   std::vector<std::string> pins;  // all that are readable; each once
   void Add(std::string_view pin) {
     if (std::find(pins.begin(), pins.end(), pin) == pins.end()) pins.emplace_back(pin);
@@ -96,8 +98,9 @@ PinWays FindPins(const JobRequest& request, const QueuePolicy& policy) {
   };
   const char* encryption = Find(request.own, "job-password-encryption");
   if (IsGiven(encryption))
-    fail("job-password-encryption: the printer cannot read an encrypted PIN; send it with the "
-         "encryption none, or as JobPIN=Custom.DIGITS");
+    fail(
+        "job-password-encryption: the printer cannot read an encrypted PIN; send it with the "
+        "encryption none, or as JobPIN=Custom.DIGITS");
 
   const char* typed = Find(request.own, kPinOption);
   const char* chosen = nullptr;
@@ -125,25 +128,27 @@ PinWays FindPins(const JobRequest& request, const QueuePolicy& policy) {
            std::string(meant) + "?");
   }
   if (IsGiven(Find(request.own, "ZRVJobPassword")) && !policy.featurePassword)
-    fail("ZRVJobPassword: this queue's driver has no job type to go with it; give the PIN as "
-         "JobPIN=Custom.DIGITS");
+    fail(
+        "ZRVJobPassword: this queue's driver has no job type to go with it; give the PIN as "
+        "JobPIN=Custom.DIGITS");
   return ways;
 }
 
 /// Why the ticket's job-type group cannot be trusted to be what was meant; empty when it can.
 std::string UnreadableJobType(const JobRequest& request, const Dictionary& ticket) {
+  const Value* group = DictionaryFind(ticket, kJobTypeKey);
+  if (group != nullptr && group->AsDictionary() == nullptr)
+    return std::string(kJobTypeKey) +
+           " is no group of settings; send the job type as ..d_JobType..n=NUMBER";
   for (const std::string_view name : request.leftOut) {
     if (NamesJobTypeEntry(name, kPinKey))
-      return "SecurePrintPassword: the PIN cannot be read as text; send it in UTF-8, digits are best";
+      return "SecurePrintPassword: the PIN cannot be read as text; send it in UTF-8, digits are "
+             "best";
     if (NamesTopLevel(name, kJobTypeKey))
       return std::string(kJobTypeKey) +
              ": a part of it cannot be read; send the job type as ..d_JobType..n=NUMBER";
   }
-  const Value* group = DictionaryFind(ticket, kJobTypeKey);
   if (group == nullptr) return "";
-  if (group->AsDictionary() == nullptr)
-    return std::string(kJobTypeKey) +
-           " is no group of settings; send the job type as ..d_JobType..n=NUMBER";
   const Value* type = DictionaryFind(*group->AsDictionary(), kTypeKey);
   if (type != nullptr && type->AsNumber() == nullptr)
     return std::string(kJobTypeKey) +
@@ -186,9 +191,8 @@ std::optional<std::int32_t> TypeIn(const Dictionary& ticket) {
 Judgement JudgeWithoutPin(const QueuePolicy& policy, Dictionary* ticket) {
   const std::int32_t type = TypeIn(*ticket).value_or(kJobTypeNormal);
   const Dictionary* read = DictionaryGetDictionary(*ticket, kJobTypeKey);
-  const bool secure =
-      type == kJobTypeSecure ||
-      (KeepsPin(type) && read != nullptr && DictionaryContains(*read, kPinKey));
+  const bool secure = type == kJobTypeSecure ||
+                      (KeepsPin(type) && read != nullptr && DictionaryContains(*read, kPinKey));
   if (!secure) return {};
   if (!policy.allowEmptyPin)
     return Refusal("a secure job needs a PIN; give one as JobPIN=Custom.DIGITS (4 to 10 digits)");
@@ -228,7 +232,8 @@ std::string FaxFault(const JobRequest& request, const Dictionary& ticket) {
 }
 
 /// The notice of a text that the printer takes only `most` bytes of.
-void TellCut(const Dictionary& options, std::string_view key, std::size_t most, Judgement* verdict) {
+void TellCut(const Dictionary& options, std::string_view key, std::size_t most,
+             Judgement* verdict) {
   const std::string* text = DictionaryGetString(options, key);
   if (text != nullptr && text->size() > most)
     verdict->notices.push_back("fax: " + std::string(key) + " is cut, the printer takes " +
@@ -240,7 +245,8 @@ void TellCut(const Dictionary& options, std::string_view key, std::size_t most, 
 std::string TypedPinFault(std::string_view pin) {
   constexpr std::size_t kShortest = 4;
   constexpr std::size_t kLongest = 10;
-  const bool digits = std::all_of(pin.begin(), pin.end(), [](char c) { return c >= '0' && c <= '9'; });
+  const bool digits =
+      std::all_of(pin.begin(), pin.end(), [](char c) { return c >= '0' && c <= '9'; });
   if (digits && pin.size() >= kShortest && pin.size() <= kLongest) return "";
   return std::string(kPinRule) + " and nothing else; choose another one";
 }
@@ -251,7 +257,7 @@ ScrambledPin WhatScramblingMakes(std::string_view pin) {
   p_encrypt(scrambled.data());
   if (scrambled.find_first_of("\x1b\n\r\f\"") != std::string::npos) return ScrambledPin::kUnsafe;
   return length < pin.size() || scrambled.find('\0') != std::string::npos ? ScrambledPin::kCut
-                                                                         : ScrambledPin::kWhole;
+                                                                          : ScrambledPin::kWhole;
 }
 
 Judgement JudgePin(const JobRequest& request, const QueuePolicy& policy, Dictionary* ticket) {
@@ -267,11 +273,13 @@ Judgement JudgePin(const JobRequest& request, const QueuePolicy& policy, Diction
   if (ways.pins.size() > 1)
     return Refusal("the job gives two different PINs; give one, by one way");
   if (ways.inTicket && (pin == nullptr || pin->empty()))
-    return Refusal("the ticket's SecurePrintPassword is empty, but a PIN is given beside it; leave it out");
+    return Refusal(
+        "the ticket's SecurePrintPassword is empty, but a PIN is given beside it; leave it out");
 
   const std::optional<std::int32_t> type = TypeIn(*ticket);
   if (type && !KeepsPin(*type))
-    return Refusal(std::string(TypeName(*type)) + " cannot keep a PIN; choose JobType=Secure, or leave the PIN out");
+    return Refusal(std::string(TypeName(*type)) +
+                   " cannot keep a PIN; choose JobType=Secure, or leave the PIN out");
   Judgement verdict;
   switch (WhatScramblingMakes(ways.pins.front())) {
     case ScrambledPin::kUnsafe:
@@ -294,9 +302,12 @@ Judgement JudgePin(const JobRequest& request, const QueuePolicy& policy, Diction
 Judgement JudgeFax(const JobRequest& request, const Dictionary& ticket) {
   const bool is_fax = TypeIn(ticket) == kJobTypeFax;
   if (IsGiven(Find(request.own, kFaxNumberOption)) && !is_fax)
-    return Refusal("FaxNumber: the job would come out on paper; give FaxNumber=Custom.NUMBER and no other job type");
+    return Refusal(
+        "FaxNumber: the job would come out on paper; give FaxNumber=Custom.NUMBER and no other job "
+        "type");
   if (!is_fax) return {};
-  if (std::string fault = FaxFault(request, ticket); !fault.empty()) return Refusal(std::move(fault));
+  if (std::string fault = FaxFault(request, ticket); !fault.empty())
+    return Refusal(std::move(fault));
   Judgement verdict;
   const Dictionary& options = *DictionaryGetDictionary(ticket, key::kFaxOptions);
   TellCut(options, kFaxCreditCardProperty, kMaxCreditCardBytes, &verdict);

@@ -2,10 +2,11 @@
 // Secrets and faxes fail closed: whoever gives a PIN gets a secure job or none, and a fax comes out
 // on no paper.
 //
-// A PIN arrives by a choice of the PPD, by the spooler's option "job-password", or by the ticket. The
-// first two are typed by people and take digits only. The ticket's may be any text; but the printer
-// gets it scrambled, and what the scrambling makes of some letters ends the text, or the line that
-// it stands in. Where the ways disagree, or where a PIN cannot be read or kept, nothing is printed.
+// A PIN arrives by a choice of the PPD, by the spooler's option "job-password", or by the ticket.
+// The first two are typed by people and take digits only. The ticket's may be any text; but the
+// printer gets it scrambled, and what the scrambling makes of some letters ends the text, or the
+// line that it stands in. Where the ways disagree, or where a PIN cannot be read or kept, nothing
+// is printed.
 #pragma once
 
 #include <cups/cups.h>
@@ -22,8 +23,8 @@ namespace zarvo {
 
 /// What a job asks for, as it came.
 struct JobRequest {
-  std::span<const cups_option_t> own;       ///< the job's options
-  std::span<const cups_option_t> chosen;    ///< the ticket options of the PPD's marked choices
+  std::span<const cups_option_t> own;         ///< the job's options
+  std::span<const cups_option_t> chosen;      ///< the ticket options of the PPD's marked choices
   std::span<const std::string_view> leftOut;  ///< names of ticket options that have no place in it
 };
 

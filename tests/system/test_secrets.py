@@ -1,0 +1,174 @@
+# SPDX-License-Identifier: Apache-2.0
+"""Jobs with a secret or a fax number, and jobs that ask in vain, on a queue of our PPD."""
+
+import os
+import pathlib
+import resource
+import subprocess
+import tempfile
+import unittest
+
+from cupsd import BIN
+
+GOLDEN = pathlib.Path(os.environ["ZARVO_SOURCE"]) / "tests/golden"
+PPD = BIN.parent / "ppd/zarvo.ppd"
+JOB = (GOLDEN / "input/plain.ps").read_bytes()
+TYPE = "com.zarvo.print.JobType..d_JobType..n"
+PIN = "com.zarvo.print.JobType..d_SecurePrintPassword"
+FAX = "com.zarvo.print.FaxRecipientList"
+
+SECURE = b"OID_VAL_JOB_TYPE_SECURE_PRINT;\n@PJL COMMENT OID_ATT_JOB_PASSWORD \"A^MG\";\n"
+# The options of a job, and what its header holds beside no warning at all.
+KEPT = {
+    "JobType=Secure JobPIN=Custom.0391": SECURE,
+    "JobPIN=Custom.0391": SECURE,
+    "JobType=Print jobpin={Value=0391}": SECURE,
+    "job-password=0391": SECURE,
+    "job-password=0391 job-password-encryption=none JobType=Secure": SECURE,
+    "job-password=0391 JobPIN=Custom.0391": SECURE,
+    "JobType=Save job-password=0391": SECURE,
+    f"{TYPE}=6 {PIN}=0391": SECURE,
+    f"{PIN}=0391": SECURE,
+    "JobPIN=None job-password=": b"ENTER LANGUAGE",
+    "FaxNumber=Custom.0911-4711": b'DESTINATION_PHONE "09114711"',
+    "finishings=3 number-up=1 print-color-mode=color job-uuid=urn:uuid:92c6 media=iso_a4_210x297mm "
+    "job-originating-host-name=localhost time-at-creation=1795415950 document-name-supplied=a.ps "
+    "sides=two-sided-long-edge output-bin=top media-type=plain PageSize=A4 Watermark=None "
+    "job-sheets=none,none job-media-progress=0 Collate=true media=A4,Tray1": b"ENTER LANGUAGE",
+}
+# The options of a job that is not printed, and a part of the reason.
+REFUSED = {
+    "JobType=Secure": "a secure job needs a PIN",
+    f"{TYPE}=6 {PIN}=": "a secure job needs a PIN",
+    "JobPIN=Custom.gr\udcfcn JobType=Secure": "4 to 10 digits",
+    "JobPIN=Custom.123": "4 to 10 digits",
+    "JobPIN=Custom.12345678901": "4 to 10 digits",
+    "JobPIN=0391": "4 to 10 digits",
+    "JobPIN=Custom": "4 to 10 digits",
+    "job-password=secret": "4 to 10 digits",
+    "job-password=0391 job-password-encryption=sha-256": "encrypted",
+    "JobPIN=Custom.0391 job-password=0392": "two different PINs",
+    "JobPIN=Custom.0391 JobType=Proof": "a sample set cannot keep a PIN",
+    "JobPIN=Custom.0391 JobType=Hold": "cannot keep a PIN",
+    "job-password=0391 FaxNumber=Custom.4711": "a fax cannot keep a PIN",
+    f"{PIN}=0391 {TYPE}=1": "an ordinary job cannot keep a PIN",
+    f"{PIN}=gr\udcfcn {TYPE}=6": "cannot be read",
+    f"{PIN}..n=391 {TYPE}=6": "is no text",
+    f"{PIN}=0391 {TYPE}=six": "cannot be read",
+    f"{PIN}=0391 com.zarvo.print.JobType=6": "no group of settings",
+    f"{TYPE[:-3]}=Secure": "the job type is no number",
+    f"{PIN}=jHYGC^@C)-PJL\\ RESET {TYPE}=6": "end the printer's line",  # holds ESC
+    f"{PIN}=S {TYPE}=6": "end the printer's line",  # a double quote
+    "com.zarvo.print.SecurePrintPasword=0391": "misspelt PIN",
+    "com.zarvo.print.JobTyp..d_SecurePrintPassword=0391": "misspelt PIN",
+    "JobPIM=Custom.0391": "did you mean JobPIN?",
+    "ZRVJobPassword=0391": "ZRVJobPassword",
+    "FaxNumber=Custom": "would come out on paper",
+    "FaxNumber=Custom.": "nothing that can be dialed",
+    "FaxNumber=0911-4711": "would come out on paper",
+    f"FaxNumber=Custom.4711 {TYPE}=1": "would come out on paper",
+    "FaxNumber=Custom.Smith": "nothing that can be dialed",
+    f"FaxNumber=Custom.1 {FAX}..a_2..d_FaxNumber=2": "cannot be read",
+    f"FaxNumber=Custom.1 {FAX}..a_1..d_FaxNumber=\udcff": "cannot be read",
+    f"FaxNumber=Custom.1 {FAX}..a_1..d_LastName=A": "recipient 2 of the fax has no number",
+    f"{TYPE}=5 {FAX}=4711 com.zarvo.print.FaxOptions..d_Resolution..n=1": "no recipient",
+    f"{TYPE}=5": "send its settings along",
+}
+# The options of a job that prints otherwise than asked, and a part of each warning.
+TOLD = {
+    f"{PIN}=qwerty {TYPE}=6": ["the PIN is cut"],
+    f"{PIN}=12345678901234567890 {TYPE}=6": ["the PIN is cut"],
+    "Stapel=TopLeft Staple=TopLft siides=x": ["siides", "did you mean Staple?", "did you mean TopLeft?"],
+    "PageSize=Custom.300x400": ["PageSize: no choice Custom.300x400, the job is printed with A4"],
+    "media=Custom.300x400": ["media: no paper Custom.300x400"],
+    "Watermark=NOSUCH AccountID=4711": ["AccountID: no such choice", "Watermark: no such choice"],
+    "Watermark=Custom.draftt": ['watermark "draftt" was left out'],
+    "com.zarvo.WMS.ZRVWM..n=99": ["watermark 99 was left out"],
+    "FaxNumber=Custom.1 FaxCover=A4 com.zarvo.print.FaxOptions..d_ShowWatermark..b=true "
+    "com.zarvo.print.FaxOptions..d_WatermarkName=gone": ['cover\'s watermark "gone" was left out'],
+    "FaxNumber=Custom.1 com.zarvo.print.FaxOptions..d_DialingPrefix=12345": ["DialingPrefix is cut"],
+    "Accounting=Group FaxCover=A4": ["no user", "no account", "without a fax number"],
+    "com.zarvo.print.Gutter..a_5..n=1": ["com.zarvo.print.Gutter..a_5..n"],
+    f"{TYPE}=12": ["job type 12"],
+}  # fmt: skip
+SECRETS = ("0391", "0392", "4711", "secret", "qwerty", "RESET", "12345678901")
+
+
+class Secrets(unittest.TestCase):
+    def setUp(self):
+        self.scratch = pathlib.Path(self.enterContext(tempfile.TemporaryDirectory()))
+
+    def run_filter(self, options, ppd=PPD, **arguments):
+        done = subprocess.run(
+            [BIN / "zarvofilter", "1", "user", "title", "1", options],
+            input=JOB, capture_output=True, timeout=60, **arguments,
+            env={"PATH": os.environ["PATH"], "PPD": str(ppd), "TMPDIR": str(self.scratch),
+                 "ZARVO_APPLICATION_SUPPORT": str(GOLDEN / "support/watermarks")},
+        )  # fmt: skip
+        log = done.stderr.decode("utf-8", "replace").splitlines()
+        for line in log:
+            for secret in SECRETS:
+                self.assertNotIn(secret, line)
+        return done.returncode, done.stdout, [line for line in log if not line.startswith("DEBUG")]
+
+    def test_secret_is_kept(self):
+        for options, wanted in KEPT.items():
+            with self.subTest(options=options):
+                status, output, log = self.run_filter(options)
+                self.assertEqual((status, [line for line in log if "STATE: -" not in line]), (0, []))
+                self.assertIn(wanted, output)
+
+    def test_or_nothing_is_printed(self):
+        for options, reason in REFUSED.items():
+            with self.subTest(options=options):
+                status, output, log = self.run_filter(options)
+                self.assertEqual((status, output), (1, b""), log)
+                errors = [line for line in log if line.startswith("ERROR: ")]
+                self.assertIn("ERROR: the job was not printed: ", errors[0])
+                self.assertIn(reason, errors[0])
+                self.assertIn("STATE: +com.zarvo.job-refused-warning", log)
+
+    def test_what_is_dropped_is_told(self):
+        for options, wanted in TOLD.items():
+            with self.subTest(options=options):
+                status, output, log = self.run_filter(options)
+                self.assertEqual(status, 0)
+                self.assertTrue(output.endswith(b"EOJ\n\x1b%-12345X\n"))
+                told = [line for line in log if line.startswith("WARNING: ")]
+                summary = [line for line in told if "Not as asked: (1)" in line]
+                self.assertEqual(len(summary), len(wanted) > 1, told)
+                self.assertEqual(len(told) - len(summary), len(wanted), told)
+                for line, text in zip(told, wanted):
+                    self.assertIn(text, line)
+                    self.assertTrue(all(line.removeprefix("WARNING: ") in all_ for all_ in summary))
+
+    def test_other_queues(self):
+        text = PPD.read_text()
+        lenient = self.scratch / "lenient.ppd"
+        lenient.write_text(text.replace("*ZRVFailClosed: True", "*ZRVFailClosed: True\n*ZRVAllowEmptyPIN: True"))
+        for options in ("JobType=Secure", f"{TYPE}=6"):
+            status, output, _ = self.run_filter(options, lenient)
+            self.assertEqual(status, 0)
+            self.assertIn(b'SECURE_PRINT;\n@PJL COMMENT OID_ATT_JOB_PASSWORD "";', output)
+        marked = self.scratch / "marked.ppd"
+        marked.write_text("\ufeff" + text)
+        status, output, log = self.run_filter("JobType=Secure", marked)
+        self.assertEqual((status, output), (1, b""))
+        self.assertIn("byte-order mark", log[0])
+        open_queue = self.scratch / "open.ppd"
+        open_queue.write_text(text.replace("*ZRVFailClosed: True\n", ""))
+        for options in (*REFUSED, *TOLD):
+            status, _, log = self.run_filter(options, open_queue)
+            self.assertEqual((status, [line for line in log if line[:3] in ("STA", "WAR")]), (0, []))
+
+    def test_booklet_that_fails_may_be_tried_again(self):
+        for most in range(5, 12):  # descriptors
+            with self.subTest(most=most):
+                limit = (resource.RLIMIT_NOFILE, (most, most))
+                status, output, log = self.run_filter(
+                    "BookletLayout=LeftToRight", preexec_fn=lambda: resource.setrlimit(*limit))
+                self.assertEqual(status, 0 if output.endswith(b"EOJ\n\x1b%-12345X\n") else 1, log)
+
+
+if __name__ == "__main__":
+    unittest.main()
