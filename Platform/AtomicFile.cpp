@@ -68,12 +68,25 @@ int WriteFileAtomically(const std::string& path, std::string_view bytes, mode_t 
   return 0;
 }
 
-std::optional<std::string> ReadWholeFile(const std::string& path, std::size_t max_bytes) {
+UniqueFd OpenRegularFile(const std::string& path) {
   // Non-blocking, because opening a named pipe would wait for a writer.
-  const UniqueFd fd(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
-  if (!fd) return std::nullopt;
+  UniqueFd fd(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
   struct stat info {};
-  if (::fstat(fd.get(), &info) != 0) return std::nullopt;
+  if (fd && ::fstat(fd.get(), &info) == 0 && !S_ISREG(info.st_mode)) {
+    fd.reset();
+    errno = EINVAL;
+  }
+  return fd;
+}
+
+std::optional<std::string> ReadWholeFile(const std::string& path, std::size_t max_bytes) {
+  const UniqueFd fd = OpenRegularFile(path);
+  return fd ? ReadWholeFile(fd.get(), max_bytes) : std::nullopt;
+}
+
+std::optional<std::string> ReadWholeFile(int fd, std::size_t max_bytes) {
+  struct stat info {};
+  if (::fstat(fd, &info) != 0) return std::nullopt;
   if (!S_ISREG(info.st_mode)) {
     errno = EINVAL;
     return std::nullopt;
@@ -83,7 +96,7 @@ std::optional<std::string> ReadWholeFile(const std::string& path, std::size_t ma
     content.resize(static_cast<std::size_t>(info.st_size) + 1);
     std::size_t length = 0;
     while (length < content.size()) {
-      const ssize_t got = ::read(fd.get(), content.data() + length, content.size() - length);
+      const ssize_t got = ::read(fd, content.data() + length, content.size() - length);
       if (got < 0 && errno == EINTR) continue;
       if (got < 0) return std::nullopt;
       if (got == 0) break;

@@ -23,6 +23,10 @@ int WriteFileAtomically(const std::string& path, std::string_view bytes, mode_t 
 /// The content of the regular file at `path`. Nothing, with errno set, when it cannot be read, is
 /// no regular file (EINVAL) or is longer than `max_bytes` (EFBIG).
 std::optional<std::string> ReadWholeFile(const std::string& path, std::size_t max_bytes);
+/// The same of an open file, from where it stands.
+std::optional<std::string> ReadWholeFile(int fd, std::size_t max_bytes);
+/// The regular file at `path`, open for reading; none, with errno set, else.
+UniqueFd OpenRegularFile(const std::string& path);
 
 /// Keeps other holders of the same folder's lock out for the life of the object: for changes that
 /// read a file, alter it and write it back. The lock is advisory and leaves no file behind. Waits

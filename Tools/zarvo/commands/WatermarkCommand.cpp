@@ -206,7 +206,8 @@ int AddImage(const Options& options) {
   const std::string name = options.name.empty() ? source.filename().string() : options.name;
   if (!MayBeNamed(options, name)) return kExitFailure;
   ChildRun decoding;
-  decoding.arguments = {DrawHelperPath(), "image", source};
+  decoding.arguments = {DrawHelperPath(), "image", "ppm", source};
+  decoding.input = source;
   decoding.output = "/dev/null";
   std::string log;
   if (!RunChild(decoding, &log)) {
