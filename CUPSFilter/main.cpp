@@ -29,6 +29,7 @@
 #include "CUPSFilter/Options/PinPolicy.h"
 #include "CUPSFilter/Options/PpdTicket.h"
 #include "CUPSFilter/Options/QueuePolicy.h"
+#include "CUPSFilter/Options/StandardOptions.h"
 #include "CUPSFilter/Options/common.h"
 #include "CUPSFilter/SpoolFile.h"
 #include "CUPSFilter/Watermark/PageHooks.h"
@@ -63,31 +64,40 @@ std::string JudgeJob(const JobRequest& request, const QueuePolicy& policy, const
   return "";
 }
 
-/// Nothing when the queue's policy refuses the job, which is told.
-std::optional<Job> ReadJob(const char* option_text, std::optional<JobNotices>* notices) {
+/// Nothing when the job must not be printed, which is told. `arguments` are the filter's.
+std::optional<Job> ReadJob(char** arguments, std::optional<JobNotices>* notices) {
   // Never given back: freeing the list one option at a time would cost more than decoding it.
-  static OptionList& options = *new OptionList(OptionList::Parse(option_text));
+  static OptionList& options = *new OptionList(OptionList::Parse(arguments[5]));
   const Ppd ppd = SetCommonOptions(options.size(), options.data(), 1);
   const QueuePolicy policy = ReadQueuePolicy(ppd);
-  notices->emplace(policy.failClosed);
+  notices->emplace(policy.failClosed || policy.standardTicket);
   (*notices)->Begin();
+  StandardJob standard;
+  if (policy.standardTicket) standard = ReadStandardJob(arguments[1], arguments[2], options);
   std::vector<std::string> faults;
-  const OptionList chosen = PpdTicketOptions(ppd, &faults);
-  const std::vector<cups_option_t> ordered = TicketOrder(chosen, options);
+  PpdChoices chosen = PpdTicketOptions(ppd, standard.ownNames, &faults);
+  const OptionList attributes = StandardOptions(&standard.ticket, &chosen.named, options);
+  const std::vector<cups_option_t> ordered =
+      TicketOrder({&chosen.others, &attributes, &chosen.named, &options});
   std::vector<std::string_view> left_out;
   Job job;
   job.ticket =
       ParseCUPSOptionsToDictionary(ordered.data(), static_cast<int>(ordered.size()), &left_out);
-  std::string refusal;
-  if (policy.failClosed) {
-    const JobRequest request = {options.span(), chosen.span(), left_out};
+  std::string refusal = standard.ticket.refusal;
+  if (policy.failClosed && refusal.empty()) {
+    const std::vector<cups_option_t> choices = TicketOrder({&chosen.others, &chosen.named});
+    const JobRequest request = {options.span(), choices, left_out};
     refusal = JudgeJob(request, policy, ppd, &job.ticket, &**notices);
   }
   // The spooler shows people the first of all errors.
   if (!refusal.empty()) (*notices)->Refuse("the job was not printed: " + refusal);
   for (const std::string& fault : faults) LogLine("ERROR: %s", fault.c_str());
   if (!refusal.empty()) return std::nullopt;
-  options.AddMissing(chosen);
+  for (const NotHonoured& lost : standard.ticket.not_honoured)
+    (*notices)->Add(lost.attribute + ": not honoured, " + lost.reason);
+  options.AddMissing(chosen.named);
+  options.AddMissing(attributes);
+  options.AddMissing(chosen.others);
   job.settings = ReadJobSettings(job.ticket, options.size(), options.data(), &**notices);
   job.settings.pageHooks = PageHooksWanted(ppd);
   job.settings.failClosed = policy.failClosed;
@@ -240,7 +250,7 @@ int Main(int argc, char** argv) {
   static char output_buffer[1 << 16];
   std::setvbuf(stdout, output_buffer, _IOFBF, sizeof output_buffer);
   std::optional<JobNotices> notices;
-  const std::optional<Job> job = ReadJob(argv[5], &notices);
+  const std::optional<Job> job = ReadJob(argv, &notices);
   if (!job) return kFailure;
   const int status = RunJob(*job, argc == 7 ? argv[6] : nullptr);
   if (status == kSuccess) {

@@ -93,7 +93,8 @@ std::optional<PageRange> Attribute::Range(int index) const {
   if (!text) return std::nullopt;
   const std::size_t dash = text->find('-', 1);
   const auto low = WholeNumber(std::string_view(*text).substr(0, dash));
-  const auto high = dash == text->npos ? low : WholeNumber(std::string_view(*text).substr(dash + 1));
+  const auto high =
+      dash == text->npos ? low : WholeNumber(std::string_view(*text).substr(dash + 1));
   if (!low || !high || *low > *high) return std::nullopt;
   return PageRange{*low, *high};
 }

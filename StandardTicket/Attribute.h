@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// The values of an IPP attribute, read by what they mean. Clients of spoolers send integers as names
-// and keywords as texts when their library does not know the attribute; all of that is taken.
+// The values of an IPP attribute, read by what they mean. Clients of spoolers send integers as
+// names and keywords as texts when their library does not know the attribute; all of that is taken.
 #pragma once
 
 #include <cups/ipp.h>
@@ -26,17 +26,17 @@ class Attribute {
   explicit operator bool() const;
   int count() const;
 
-  /// Every value but a collection as a text: a number in decimal, true and false, a range as "1-4", a
-  /// resolution as "600x1200dpi", an octet string byte for byte. Nothing for a collection or where
-  /// there is no such value.
+  /// Every value but a collection as a text: a number in decimal, true and false, a range as "1-4",
+  /// a resolution as "600x1200dpi", an octet string byte for byte. Nothing for a collection or
+  /// where there is no such value.
   std::optional<std::string> Text(int index = 0) const;
   /// A whole number or a text that is nothing else.
   std::optional<std::int32_t> Integer(int index = 0) const;
   std::optional<bool> Boolean(int index = 0) const;
   /// A range, or a number or text that stands for one ("4", "1-4").
   std::optional<PageRange> Range(int index = 0) const;
-  /// Seconds since 1904-01-01 00:00:00 local time of a dateTime, or of a text as "2027-01-31T18:00:00"
-  /// with or without "Z" (then it is UTC).
+  /// Seconds since 1904-01-01 00:00:00 local time of a dateTime, or of a text as
+  /// "2027-01-31T18:00:00" with or without "Z" (then it is UTC).
   std::optional<std::int64_t> LocalSeconds(int index = 0) const;
   /// The collection; it belongs to the message. Null for any other value.
   ipp_t* Collection(int index = 0) const;

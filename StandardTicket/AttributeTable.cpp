@@ -12,12 +12,12 @@ namespace {
 /// A value and the number that it gives a key of the ticket. A value may have several rows.
 struct Word {
   enum Effect : std::uint8_t {
-    kSet,       ///< sets `key`, in the XML ticket
-    kElsewhere, ///< sets `key`; the PostScript says it too, so that it takes no XML ticket
-    kDefault,   ///< the same; programs send it unasked, so that it conflicts with nothing
-    kNothing,   ///< asks for nothing
-    kCannot,    ///< not honoured
-    kNearest,   ///< like kSet, but not all that was asked for
+    kSet,        ///< sets `key`, in the XML ticket
+    kElsewhere,  ///< sets `key`; the PostScript says it too, so that it takes no XML ticket
+    kDefault,    ///< the same; programs send it unasked, so that it conflicts with nothing
+    kNothing,    ///< asks for nothing
+    kCannot,     ///< not honoured
+    kNearest,    ///< like kSet, but not all that was asked for
   };
   std::string_view attribute;
   std::string_view value;
@@ -29,10 +29,11 @@ struct Word {
 };
 using enum Word::Effect;
 
-constexpr char kOneInk[] = "the printers tell black from color and know no other number of inks";
+constexpr char kOneInk[] = "highlight color takes settings of its own in the job ticket";
 constexpr char kNoSuchBin[] = "the printers have no such bin; use top, stacker, or one by number";
 constexpr char kNoTurn[] = "the printers turn pages by 180 degrees only; use orientation-requested";
-constexpr char kNoPlace[] = "the printers shift pages but do not align them; use x- and y-image-shift";
+constexpr char kNoPlace[] =
+    "the printers shift pages but do not align them; use x- and y-image-shift";
 
 // Of one attribute next to each other.
 constexpr Word kWords[] = {
@@ -44,6 +45,12 @@ constexpr Word kWords[] = {
     {"printer-resolution", "600dpi", kDefault, key::kResolution, 2},
     {"printer-resolution", "1200x600dpi", kSet, key::kResolution, 3},
     {"printer-resolution", "1200dpi", kSet, key::kResolution, 4},
+    {"printer-resolution",
+     "*",
+     kCannot,
+     {},
+     0,
+     "the printers know 300, 600, 1200 x 600 and 1200 dpi"},
 
     {"print-color-mode", "auto", kNothing},
     {"print-color-mode", "color", kDefault, key::kFinishingOutputColor, 2},
@@ -86,10 +93,10 @@ constexpr Word kWords[] = {
      key::kFullColorOptions},
     {"print-content-optimize", "photo", kSet, key::full_color::kImageRendering, 4, nullptr,
      key::kFullColorOptions},
-    {"print-content-optimize", "text-and-graphic", kSet, key::full_color::kTextRendering, 5, nullptr,
-     key::kFullColorOptions},
-    {"print-content-optimize", "text-and-graphic", kSet, key::full_color::kGraphicsRendering, 1, nullptr,
-     key::kFullColorOptions},
+    {"print-content-optimize", "text-and-graphic", kSet, key::full_color::kTextRendering, 5,
+     nullptr, key::kFullColorOptions},
+    {"print-content-optimize", "text-and-graphic", kSet, key::full_color::kGraphicsRendering, 1,
+     nullptr, key::kFullColorOptions},
 
     {"image-orientation", "3", kSet, key::kAdvancedRotateImage180, kRotate0},
     {"image-orientation", "6", kSet, key::kAdvancedRotateImage180, kRotate180},
@@ -109,9 +116,11 @@ struct Intent {
   const char* reason;
 };
 constexpr Intent kIntents[] = {
-    {"saturation", 1, nullptr}, {"relative", 2, nullptr},
+    {"saturation", 1, nullptr},
+    {"relative", 2, nullptr},
     {"relative-bpc", 2, "the printers do not compensate the black point"},
-    {"absolute", 3, nullptr},   {"perceptual", 4, nullptr},
+    {"absolute", 3, nullptr},
+    {"perceptual", 4, nullptr},
     {"auto", 6, nullptr},
 };
 
@@ -142,7 +151,8 @@ constexpr char kNoBale[] = "the printers do not bale";
 constexpr char kNoCoat[] = "the printers do not coat";
 constexpr char kNoLaminate[] = "the printers do not laminate";
 constexpr char kItsPlace[] = "the finisher chooses the place; only the edge and the number count";
-constexpr char kFaxRetries[] = "the printer's own fax settings say how often and when it tries again";
+constexpr char kFaxRetries[] =
+    "the printer's own fax settings say how often and when it tries again";
 
 // A path ends at a member; one that is refused is refused with all below it.
 constexpr PathDisposition kDispositions[] = {
@@ -170,7 +180,8 @@ constexpr PathDisposition kDispositions[] = {
      "the printers keep no telephone number of a job; put it into job-message-to-operator"},
     {"job-storage/job-storage-group", Disposition::kRefused,
      "whoever is at the printer can print a saved job; use job-password"},
-    {"media-input-tray-check", Disposition::kRefused, "the printers check their trays by themselves"},
+    {"media-input-tray-check", Disposition::kRefused,
+     "the printers check their trays by themselves"},
     {"media-overprint", Disposition::kRefused, "the printers do not print beyond the paper's edge"},
     {"number-of-retries", Disposition::kRefused, kFaxRetries},
     {"retry-interval", Disposition::kRefused, kFaxRetries},
@@ -181,7 +192,8 @@ constexpr PathDisposition kDispositions[] = {
      "no picture is fetched for a cover sheet; use a fax watermark"},
     {"destination-uris/destination-attributes", Disposition::kRefused,
      "all destinations of a fax are sent the same pages"},
-    {"destination-uris/t33-subaddress", Disposition::kRefused, "the printers dial no sub-addresses"},
+    {"destination-uris/t33-subaddress", Disposition::kRefused,
+     "the printers dial no sub-addresses"},
     {"finishings-col/baling", Disposition::kRefused, kNoBale},
     {"finishings-col/coating", Disposition::kRefused, kNoCoat},
     {"finishings-col/covering", Disposition::kRefused, "use cover-front and cover-back"},
@@ -200,7 +212,8 @@ constexpr PathDisposition kDispositions[] = {
     {"overrides/member", Disposition::kRefused, "it cannot be chosen for single pages"},
     {"proof-print/media", Disposition::kRefused, "a sample set is of the job's paper"},
     {"proof-print/media-col", Disposition::kRefused, "a sample set is of the job's paper"},
-    {"separator-sheets/media", Disposition::kRefused, "the printer chooses the paper of slip sheets"},
+    {"separator-sheets/media", Disposition::kRefused,
+     "the printer chooses the paper of slip sheets"},
     {"separator-sheets/media-col", Disposition::kRefused,
      "the printer chooses the paper of slip sheets"},
 };
@@ -235,9 +248,9 @@ bool ApplyWord(std::string_view attribute, std::string_view wanted, const std::s
     } else if (word.effect == kDefault) {
       mapping->Neutral(word.key, word.code);
     } else {
-      mapping->Number(word.dictionary == nullptr ? std::string(word.key)
-                                                 : KeyIn(word.dictionary, word.key),
-                      word.code);
+      mapping->Number(
+          word.dictionary == nullptr ? std::string(word.key) : KeyIn(word.dictionary, word.key),
+          word.code);
     }
   }
   return found;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// The constant tables of the mapper: attributes that are one choice among words, attributes that need
-// no more than their value copied, and what happens to all others.
+// The constant tables of the mapper: attributes that are one choice among words, attributes that
+// need no more than their value copied, and what happens to all others.
 #pragma once
 
 #include <cstdint>
@@ -24,8 +24,8 @@ struct Disposition {
 /// Of a path such as "finishings-col/trimming".
 Disposition DispositionOf(std::string_view path);
 
-/// Maps the attributes of a message that are words or plain texts, and tells of those that are never
-/// honoured.
+/// Maps the attributes of a message that are words or plain texts, and tells of those that are
+/// never honoured.
 void MapWords(ipp_t* job, Mapping* mapping);
 
 }  // namespace zarvo

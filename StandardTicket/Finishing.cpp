@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // Finishing: "finishings", "finishings-col", separator sheets and imposition. IPP has a set of
-// processes, the ticket one preset and a value for each kind; the numbers of the two have nothing in
-// common and are never passed through.
+// processes, the ticket one preset and a value for each kind; the numbers of the two have nothing
+// in common and are never passed through.
 #include <algorithm>
 #include <cstdlib>
 #include <iterator>
@@ -113,8 +113,8 @@ constexpr Finishing kFinishings[] = {
 };
 
 const Finishing* Find(const std::string& value) {
-  const auto row = std::find_if(
-      std::begin(kFinishings), std::end(kFinishings), [&](const Finishing& finishing) {
+  const auto row =
+      std::find_if(std::begin(kFinishings), std::end(kFinishings), [&](const Finishing& finishing) {
         return finishing.name == value || std::to_string(finishing.value) == value;
       });
   return row != std::end(kFinishings) ? row : nullptr;
@@ -214,7 +214,8 @@ void ReadStitching(Members members, Wishes* wishes, Mapping* mapping) {
     if (places.count() < 4) {
       wishes->Add({0, {}, kStaple, codes[places.count()]}, members.path());
     } else {
-      mapping->Drop(members.PathOf("stitching-locations"), "the finisher sets one to three staples");
+      mapping->Drop(members.PathOf("stitching-locations"),
+                    "the finisher sets one to three staples");
     }
   }
   members.TellRest(mapping, "finishings-col/stitching");
@@ -245,7 +246,8 @@ void ReadBinding(Members members, Wishes* wishes, Mapping* mapping) {
   members.TellRest(mapping, "finishings-col/binding");
 }
 
-/// One fold is a half fold; of two in one direction it is a letter's, of two against each other a Z.
+/// One fold is a half fold; of two in one direction it is a letter's, of two against each other a
+/// Z.
 void ReadFolding(const Attribute& folding, const std::string& path, Wishes* wishes,
                  Mapping* mapping) {
   if (!folding) return;

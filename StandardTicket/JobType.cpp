@@ -12,13 +12,16 @@ namespace {
 
 constexpr std::int64_t kHour = 3600;
 
-/// A named time of day, by the spooler's hours for it; a job that is there within them prints at once.
+/// A named time of day, by the spooler's hours for it; a job that is there within them prints at
+/// once.
 struct Period {
   std::string_view name;
   std::int64_t from, to;  ///< hours; `to` may be on the next day
 };
-constexpr Period kPeriods[] = {{"day-time", 6, 18},      {"evening", 18, 30},
-                               {"night", 18, 30},        {"second-shift", 16, 24},
+constexpr Period kPeriods[] = {{"day-time", 6, 18},
+                               {"evening", 18, 30},
+                               {"night", 18, 30},
+                               {"second-shift", 16, 24},
                                {"third-shift", 0, 8}};
 
 /// When the period that is named comes next, or nothing when it is now.
@@ -218,6 +221,7 @@ class JobTypeMapper {
     if (action == "button-press") {
       if (kind_ != kSaved && kind_ != kSecret) Hold(shown);
     } else if (action == "job-password") {
+      if (kind_ == kFax) return mapping_->Drop(shown, "a fax has no PIN");
       if (!mapping_->Has(JobKey(key::job_type::kSecurePrintPassword)))
         mapping_->Refuse(shown, "the job has no PIN; give job-password");
     } else if (action == "owner-authorized") {

@@ -31,8 +31,7 @@ void Mapping::Boolean(std::string_view name, bool value) {
 }
 
 bool Mapping::Text(std::string_view name, const std::string& text) {
-  std::optional<std::string> utf8 =
-      text.find('\0') == text.npos ? MakeString(text) : std::nullopt;
+  std::optional<std::string> utf8 = text.find('\0') == text.npos ? MakeString(text) : std::nullopt;
   if (!utf8) {
     Drop(source_, "it is not a text in UTF-8");
     return false;

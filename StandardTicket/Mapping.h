@@ -72,8 +72,8 @@ class Members {
   Members Inner(const char* member, Mapping* mapping);
   explicit operator bool() const { return collection_ != nullptr; }
 
-  /// Tells of each member that was not taken why it is not honoured: what the tables of refused and of
-  /// left attributes say of its path below `base`, else that it is unknown.
+  /// Tells of each member that was not taken why it is not honoured: what the tables of refused and
+  /// of left attributes say of its path below `base`, else that it is unknown.
   void TellRest(Mapping* mapping, std::string_view base) const;
 
  private:

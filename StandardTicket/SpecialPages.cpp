@@ -37,7 +37,8 @@ void MapCover(ipp_t* job, const char* name, const char* cover, Mapping* mapping)
   members.TellRest(mapping, name);
 }
 
-/// The values of a set that become elements of a list of the ticket; tells of those beyond the most.
+/// The values of a set that become elements of a list of the ticket; tells of those beyond the
+/// most.
 int CountOf(const Attribute& attribute, const char* name, Mapping* mapping) {
   constexpr int kMost = static_cast<int>(kMostSpecialPages);
   if (attribute.count() > kMost)
@@ -118,8 +119,7 @@ struct Exception {
 
 bool SameSettings(const Exception& left, const Exception& right) {
   return std::equal(left.settings.begin(), left.settings.end(), right.settings.begin(),
-                    right.settings.end(),
-                    [](const StandardSetting& a, const StandardSetting& b) {
+                    right.settings.end(), [](const StandardSetting& a, const StandardSetting& b) {
                       return a.name == b.name && a.value == b.value;
                     });
 }
@@ -165,14 +165,14 @@ std::vector<StandardSetting> OverrideSettings(Members* members, Mapping* mapping
   return std::move(ticket.settings);
 }
 
-/// Joins neighbours that say the same; the order of those that differ stays, for of two that name one
-/// page the later counts.
+/// Joins neighbours that say the same; the order of those that differ stays, for of two that name
+/// one page the later counts.
 void Join(std::vector<Exception>* exceptions) {
   std::vector<Exception> joined;
   for (Exception& next : *exceptions) {
     Exception* last = joined.empty() ? nullptr : &joined.back();
-    const bool touching = last != nullptr && next.pages.low <= last->pages.high &&
-                          last->pages.low <= next.pages.high;
+    const bool touching =
+        last != nullptr && next.pages.low <= last->pages.high && last->pages.low <= next.pages.high;
     const bool adjoining = last != nullptr && last->pages.high + std::int64_t{1} == next.pages.low;
     if ((touching || adjoining) && SameSettings(*last, next)) {
       last->pages.low = std::min(last->pages.low, next.pages.low);

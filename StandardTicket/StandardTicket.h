@@ -3,9 +3,9 @@
 //
 // Design. The library knows IPP messages and the names of the ticket and nothing else: no spooler,
 // no PPD, no file. Whoever has a job's attributes hands them over and gets flattened ticket options
-// (docs/ticket.md), each with the attribute it comes from, and a list of what could not be honoured.
-// Every registered attribute, member and value has its place in a table here; docs/standard-ticket.md
-// shows what becomes of each of them.
+// (docs/ticket.md), each with the attribute it comes from, and a list of what could not be
+// honoured. Every registered attribute, member and value has its place in a table here;
+// docs/standard-ticket.md shows what becomes of each of them.
 //
 //   Attribute.h      reads an attribute's values, whatever type its sender gave them
 //   Mapping.h        collects settings and reasons; walks the members of collections
@@ -13,8 +13,8 @@
 //   the other files  one for each theme that takes more than a table: stock, finishing, special
 //                    pages, fax, what becomes of the job
 //
-// Attributes come from anybody who may print: sets of any length and values of any type cost no more
-// than their own length, and at most kMostSpecialPages settings of a list are made.
+// Attributes come from anybody who may print: sets of any length and values of any type cost no
+// more than their own length, and at most kMostSpecialPages settings of a list are made.
 #pragma once
 
 #include <cups/ipp.h>
@@ -52,9 +52,10 @@ struct StandardTicket {
 };
 
 /// Maps the attributes of all groups of a message, read without regard to the group; of attributes
-/// with one name the first counts. Out-of-band values (such as no-value) ask for nothing. Attributes
-/// that are no standard job attributes are passed over. `local_now` is the present time in seconds
-/// since 1904-01-01 00:00:00 local time. `attributes` is not changed but for its iteration state.
+/// with one name the first counts. Out-of-band values (such as no-value) ask for nothing.
+/// Attributes that are no standard job attributes are passed over. `local_now` is the present time
+/// in seconds since 1904-01-01 00:00:00 local time. `attributes` is not changed but for its
+/// iteration state.
 StandardTicket MapStandardAttributes(ipp_t* attributes, std::int64_t local_now);
 
 /// Whether the mapper has a place for an attribute of this name.

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// Media: what "media" and "media-col" say of the job's paper, a cover's, an insert's or an exception's.
+// Media: what "media" and "media-col" say of the job's paper, a cover's, an insert's or an
+// exception's.
 #include <cups/cups.h>
 #include <cups/pwg.h>
 
@@ -79,16 +80,17 @@ struct Variety {
   std::string_view prefix;
   std::int32_t type;
 };
-constexpr Variety kVarieties[] = {{"stationery-", kStandardStock}, {"envelope-", kEnvelopeStock},
-                                  {"labels-", kLabelStock},        {"pre-cut-tabs", kTabStock},
-                                  {"full-cut-tabs", kTabStock},    {"transparency-", kTransparencyStock}};
+constexpr Variety kVarieties[] = {
+    {"stationery-", kStandardStock}, {"envelope-", kEnvelopeStock},
+    {"labels-", kLabelStock},        {"pre-cut-tabs", kTabStock},
+    {"full-cut-tabs", kTabStock},    {"transparency-", kTransparencyStock}};
 
 struct Coating {
   std::string_view value;
   std::int32_t code;
 };
-constexpr Coating kCoatings[] = {
-    {"none", 0}, {"glossy", 1}, {"high-gloss", 2}, {"semi-gloss", 3}, {"satin", 4}, {"matte", 5}};
+constexpr Coating kCoatings[] = {{"none", 0},       {"glossy", 1}, {"high-gloss", 2},
+                                 {"semi-gloss", 3}, {"satin", 4},  {"matte", 5}};
 
 /// Numbers that are copied when they are above 0.
 struct StockNumber {

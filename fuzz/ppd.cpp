@@ -41,9 +41,9 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   ppd.Mark(options.size(), options.data());
   ppd.MarkedPageSize();
   std::vector<std::string> faults;
-  const OptionList chosen = PpdTicketOptions(ppd, &faults);
-  const std::vector<cups_option_t> ordered = TicketOrder(chosen, options);
+  const PpdChoices chosen = PpdTicketOptions(ppd, {}, &faults);
+  const std::vector<cups_option_t> ordered = TicketOrder({&chosen.others, &options});
   ParseCUPSOptionsToDictionary(ordered.data(), static_cast<int>(ordered.size()));
-  options.AddMissing(chosen);
+  options.AddMissing(chosen.others);
   return 0;
 }

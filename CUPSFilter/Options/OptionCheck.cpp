@@ -12,6 +12,7 @@
 #include "Source/CFAdditions.h"
 #include "Source/NearestName.h"
 #include "Source/TicketNames.h"
+#include "StandardTicket/StandardTicket.h"
 
 namespace zarvo {
 namespace {
@@ -88,7 +89,8 @@ void CheckName(const cups_option_t& option, const std::vector<std::string>& know
   constexpr std::size_t kMostLetters = 2;
   constexpr std::size_t kShortest = 4;
   if (name.size() < kShortest || name.find("..") != name.npos || name.starts_with("com.") ||
-      Contains(known, option.name) || Contains(kOtherNames, option.name))
+      Contains(known, option.name) || Contains(kOtherNames, option.name) ||
+      IsStandardAttribute(option.name))
     return;
   const std::string nearest = NearestName(name, known);
   if (nearest.empty() || EditDistance(name, nearest) > kMostLetters + 1) return;

@@ -8,6 +8,12 @@ namespace zarvo {
 OptionList::OptionList(OptionList&& other) noexcept
     : size_(std::exchange(other.size_, 0)), options_(std::exchange(other.options_, nullptr)) {}
 
+OptionList& OptionList::operator=(OptionList&& other) noexcept {
+  std::swap(size_, other.size_);
+  std::swap(options_, other.options_);
+  return *this;
+}
+
 OptionList::~OptionList() { cupsFreeOptions(size_, options_); }
 
 OptionList OptionList::Parse(const char* text) {
@@ -25,6 +31,11 @@ void OptionList::AddMissing(const OptionList& other) {
     const cups_option_t& option = other.options_[i];
     if (cupsGetOption(option.name, size_, options_) == nullptr) Add(option.name, option.value);
   }
+}
+
+void OptionList::RemoveEmpty(const char* name) {
+  const char* value = cupsGetOption(name, size_, options_);
+  if (value != nullptr && *value == '\0') size_ = cupsRemoveOption(name, size_, &options_);
 }
 
 }  // namespace zarvo

@@ -14,7 +14,7 @@ class OptionList {
  public:
   OptionList() = default;
   OptionList(OptionList&& other) noexcept;
-  OptionList& operator=(OptionList&&) = delete;
+  OptionList& operator=(OptionList&& other) noexcept;
   ~OptionList();
 
   /// Parses option text as the spooler hands it to filters.
@@ -24,6 +24,8 @@ class OptionList {
   void Add(const char* name, const char* value);
   /// The options of `other` whose names are not there already.
   void AddMissing(const OptionList& other);
+  /// Takes out the option of that name when its value is empty.
+  void RemoveEmpty(const char* name);
 
   std::span<const cups_option_t> span() const {
     return {options_, static_cast<std::size_t>(size_)};

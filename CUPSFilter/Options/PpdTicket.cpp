@@ -92,7 +92,8 @@ class ItemReader {
 };
 
 /// Adds the options of one attribute, all or none. Returns what is wrong with it, or null.
-const char* AddAttribute(const Ppd& ppd, const PpdAttribute& attribute, OptionList* options) {
+const char* AddAttribute(const Ppd& ppd, const PpdAttribute& attribute, const OptionNames& names,
+                         PpdChoices* choices) {
   const std::size_t dot = attribute.selector.find('.');
   if (dot == attribute.selector.npos) return "its name is not of the form Option.Choice";
   const std::string option(attribute.selector.substr(0, dot));
@@ -106,26 +107,30 @@ const char* AddAttribute(const Ppd& ppd, const PpdAttribute& attribute, OptionLi
   std::string name, value;
   while (reader.Next(&name, &value)) items.emplace_back(name, value);
   if (reader.error() != nullptr) return reader.error();
-  for (const auto& item : items) options->Add(item.first.c_str(), item.second.c_str());
+  OptionList& options = names.contains(option) ? choices->named : choices->others;
+  for (const auto& item : items) options.Add(item.first.c_str(), item.second.c_str());
   return nullptr;
 }
 
 }  // namespace
 
-OptionList PpdTicketOptions(const Ppd& ppd, std::vector<std::string>* faults) {
-  OptionList options;
+PpdChoices PpdTicketOptions(const Ppd& ppd, const OptionNames& names,
+                            std::vector<std::string>* faults) {
+  PpdChoices choices;
   for (const PpdAttribute& attribute : ppd.Attributes("ZRVTicket")) {
-    if (const char* error = AddAttribute(ppd, attribute, &options))
+    if (const char* error = AddAttribute(ppd, attribute, names, &choices))
       faults->push_back("PPD attribute *ZRVTicket " + std::string(attribute.selector) +
                         " is not used: " + error + "; correct the PPD or the job's option");
   }
-  return options;
+  return choices;
 }
 
-std::vector<cups_option_t> TicketOrder(const OptionList& chosen, const OptionList& own) {
-  std::vector<cups_option_t> ordered = NaturalOrder(chosen.size(), chosen.data());
-  const std::vector<cups_option_t> own_ordered = NaturalOrder(own.size(), own.data());
-  ordered.insert(ordered.end(), own_ordered.begin(), own_ordered.end());
+std::vector<cups_option_t> TicketOrder(std::initializer_list<const OptionList*> lists) {
+  std::vector<cups_option_t> ordered;
+  for (const OptionList* list : lists) {
+    const std::vector<cups_option_t> next = NaturalOrder(list->size(), list->data());
+    ordered.insert(ordered.end(), next.begin(), next.end());
+  }
   return ordered;
 }
 

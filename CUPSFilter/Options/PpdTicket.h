@@ -4,6 +4,9 @@
 
 #include <cups/cups.h>
 
+#include <functional>
+#include <initializer_list>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -11,6 +14,9 @@
 #include "CUPSFilter/Options/Ppd.h"
 
 namespace zarvo {
+
+/// Names of options, to be looked up by any text.
+using OptionNames = std::set<std::string, std::less<>>;
 
 /// The flattened ticket options that the marked choices stand for. A PPD tells them in attributes
 ///
@@ -21,11 +27,16 @@ namespace zarvo {
 /// parameters in turn when it has several; "%%" is a percent sign. Attributes are read in the order
 /// of the file, and of two values for one name the later is kept. An attribute that cannot be
 /// understood is skipped; `faults` gets a text for the log about each, which leaves out its value.
-OptionList PpdTicketOptions(const Ppd& ppd, std::vector<std::string>* faults);
+struct PpdChoices {
+  OptionList others;  ///< of options the job does not name: defaults, or derived by the spooler
+  OptionList named;   ///< of options among `names`
+};
+PpdChoices PpdTicketOptions(const Ppd& ppd, const OptionNames& names,
+                            std::vector<std::string>* faults);
 
-/// The options in the order in which the ticket is decoded: those of the PPD's choices come first,
-/// so that the job's own, even when they spell an address differently, overwrite them. The texts
-/// still belong to the two lists.
-std::vector<cups_option_t> TicketOrder(const OptionList& chosen, const OptionList& own);
+/// The options of several lists in the order in which the ticket is decoded: a later list
+/// overwrites an earlier one, even when it spells an address differently. The texts still belong to
+/// the lists.
+std::vector<cups_option_t> TicketOrder(std::initializer_list<const OptionList*> lists);
 
 }  // namespace zarvo

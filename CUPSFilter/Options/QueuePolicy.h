@@ -13,12 +13,15 @@ struct QueuePolicy {
   /// *ZRVAllowEmptyPIN: True. A secure job without a PIN is sent with an empty one; the printers
   /// keep it until somebody releases it without typing anything.
   bool allowEmptyPin = false;
+  /// *ZRVStandardTicket: True. IPP's standard job attributes become ticket options.
+  bool standardTicket = false;
   /// The PPD has the job-type feature whose lines take the option ZRVJobPassword.
   bool featurePassword = false;
 };
 
 inline QueuePolicy ReadQueuePolicy(const Ppd& ppd) {
-  return {ppd.IsTrue("ZRVFailClosed"), ppd.IsTrue("ZRVAllowEmptyPIN"), ppd.HasOption("ZRVJobType")};
+  return {ppd.IsTrue("ZRVFailClosed"), ppd.IsTrue("ZRVAllowEmptyPIN"),
+          ppd.IsTrue("ZRVStandardTicket"), ppd.HasOption("ZRVJobType")};
 }
 
 }  // namespace zarvo

@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "CUPSFilter/Options/SchedulerRequest.h"
+
+#include <cups/cups.h>
+#include <sys/socket.h>
+
+#include <charconv>
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+#include <cstring>
+#include <ctime>
+#include <string_view>
+
+namespace zarvo {
+namespace {
+
+using SteadyClock = std::chrono::steady_clock;
+
+constexpr const char* kLoopback[] = {"localhost", "127.0.0.1", "::1", "[::1]"};
+
+struct HttpCloser {
+  void operator()(http_t* http) const { httpClose(http); }
+};
+using Connection = std::unique_ptr<http_t, HttpCloser>;
+
+/// Ends a connection at a point in time, whatever it is doing: the library's own limits start anew
+/// with every byte that comes. A timer's signal shuts the socket down, and reading sees its end.
+class Deadline {
+ public:
+  Deadline(int socket, std::chrono::milliseconds left) {
+    struct sigaction action {};
+    action.sa_sigaction = [](int, siginfo_t* about, void*) {
+      shutdown(about->si_value.sival_int, SHUT_RDWR);
+    };
+    action.sa_flags = SA_SIGINFO | SA_RESTART;
+    sigaction(SIGALRM, &action, &old_action_);
+    sigset_t alarm;
+    sigemptyset(&alarm);
+    sigaddset(&alarm, SIGALRM);
+    sigprocmask(SIG_UNBLOCK, &alarm, &old_mask_);
+    sigevent event{};
+    event.sigev_notify = SIGEV_SIGNAL;
+    event.sigev_signo = SIGALRM;
+    event.sigev_value.sival_int = socket;
+    itimerspec when{};
+    when.it_value.tv_sec = static_cast<std::time_t>(left.count() / 1000);
+    when.it_value.tv_nsec = static_cast<long>(left.count() % 1000) * 1000000;
+    set_ = timer_create(CLOCK_MONOTONIC, &event, &timer_) == 0;
+    running_ = set_ && timer_settime(timer_, 0, &when, nullptr) == 0;
+  }
+  Deadline(const Deadline&) = delete;
+  Deadline& operator=(const Deadline&) = delete;
+  ~Deadline() {
+    if (set_) timer_delete(timer_);
+    sigaction(SIGALRM, &old_action_, nullptr);
+    sigprocmask(SIG_SETMASK, &old_mask_, nullptr);
+  }
+
+  bool running() const { return running_; }
+
+ private:
+  struct sigaction old_action_ {};
+  sigset_t old_mask_{};
+  timer_t timer_{};
+  bool set_ = false;
+  bool running_ = false;
+};
+
+int PortOfScheduler() {
+  const char* text = std::getenv("IPP_PORT");
+  const std::string_view digits = text != nullptr ? text : "";
+  int port = 0;
+  const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), port);
+  constexpr int kHighestPort = 65535;
+  if (error != std::errc() || end != digits.data() + digits.size() || port > kHighestPort) return 0;
+  return port;
+}
+
+/// The job's number when it is one; it goes into the request.
+int JobNumber(std::string_view text) {
+  int number = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+  return error == std::errc() && end == text.data() + text.size() ? number : 0;
+}
+
+bool IsLocal(const std::string& server) {
+  if (server.starts_with("/")) return true;
+  for (const char* name : kLoopback) {
+    if (server == name) return true;
+  }
+  return false;
+}
+
+ipp_t* NewRequest(int job, const char* user) {
+  ipp_t* request = ippNewRequest(IPP_OP_GET_JOB_ATTRIBUTES);
+  ippSetVersion(request, 2, 0);  // answers of older versions leave collections out
+  const std::string uri = "ipp://localhost/jobs/" + std::to_string(job);
+  ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr, uri.c_str());
+  ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, user);
+  ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr, "all");
+  return request;
+}
+
+/// Nobody is there to type one.
+const char* NoPassword(const char*, http_t*, const char*, const char*, void*) { return nullptr; }
+
+IppMessage Exchange(http_t* http, int job, const char* user, std::string* why) {
+  cupsSetPasswordCB2(&NoPassword, nullptr);
+  const IppMessage request(NewRequest(job, user));
+  const http_status_t sent = cupsSendRequest(http, request.get(), "/", ippLength(request.get()));
+  if (sent != HTTP_STATUS_CONTINUE && sent != HTTP_STATUS_OK) {
+    *why = "it does not take the request";
+    return nullptr;
+  }
+  IppMessage answer(cupsGetResponse(http, "/"));
+  if (!answer || ippGetState(answer.get()) != IPP_STATE_DATA) {
+    *why = "no answer in " + std::to_string(kRequestMilliseconds) + " ms";
+    return nullptr;
+  }
+  if (ippGetStatusCode(answer.get()) > IPP_STATUS_OK_CONFLICTING) {
+    *why = std::string("it answers ") + ippErrorString(ippGetStatusCode(answer.get()));
+    return nullptr;
+  }
+  return answer;
+}
+
+}  // namespace
+
+bool UnderScheduler() {
+  return std::getenv("CUPS_SERVER") != nullptr && std::getenv("CUPS_REQUESTROOT") != nullptr;
+}
+
+IppMessage RequestJobAttributes(const char* job_id, const char* user, std::string* why) {
+  const auto end = SteadyClock::now() + std::chrono::milliseconds(kRequestMilliseconds);
+  const char* named = std::getenv("CUPS_SERVER");
+  const std::string server = named != nullptr ? named : "";
+  const int port = PortOfScheduler();
+  const int job = JobNumber(job_id);
+  if (job < 1) {
+    *why = "the job has no number";
+    return nullptr;
+  }
+  if (!IsLocal(server) || (port == 0 && !server.starts_with("/"))) {
+    *why = "CUPS_SERVER and IPP_PORT name no scheduler of this machine";
+    return nullptr;
+  }
+  const Connection http(httpConnect2(server.c_str(), port, nullptr, AF_UNSPEC,
+                                     HTTP_ENCRYPTION_IF_REQUESTED, 1, kRequestMilliseconds,
+                                     nullptr));
+  if (http == nullptr || httpAddrLocalhost(httpGetAddress(http.get())) == 0) {
+    *why = "it cannot be reached";
+    return nullptr;
+  }
+  const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(end - SteadyClock::now());
+  const Deadline deadline(httpGetFd(http.get()), std::max(left, std::chrono::milliseconds(1)));
+  if (!deadline.running()) {
+    *why = "there is no timer";
+    return nullptr;
+  }
+  return Exchange(http.get(), job, user, why);
+}
+
+}  // namespace zarvo

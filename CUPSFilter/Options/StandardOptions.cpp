@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "CUPSFilter/Options/StandardOptions.h"
+
+#include <map>
+#include <string_view>
+
+#include "CUPSFilter/Options/SchedulerRequest.h"
+#include "Platform/Clock.h"
+
+namespace zarvo {
+namespace {
+
+/// Any one character may stand between a type letter and what it leads to; here it is always "_".
+std::string Canonical(std::string_view name) {
+  std::string canonical(name);
+  for (std::size_t at = canonical.find(".."); at != canonical.npos;
+       at = canonical.find("..", at + 2)) {
+    const char letter = at + 2 < canonical.size() ? canonical[at + 2] : '\0';
+    if ((letter == 'd' || letter == 'a') && at + 3 < canonical.size()) canonical[at + 3] = '_';
+  }
+  return canonical;
+}
+
+/// What stands above the attributes, by name.
+std::map<std::string, std::string_view> Outranking(const OptionList& chosen,
+                                                   const OptionList& own) {
+  std::map<std::string, std::string_view> values;
+  for (const OptionList* list : {&chosen, &own}) {
+    for (int i = 0; i < list->size(); ++i) {
+      const cups_option_t& option = list->data()[i];
+      if (std::string_view(option.name).find("..") != std::string_view::npos ||
+          std::string_view(option.name).starts_with("com."))
+        values.insert_or_assign(Canonical(option.name), option.value);
+    }
+  }
+  return values;
+}
+
+}  // namespace
+
+StandardJob ReadStandardJob(const char* job_id, const char* user, const OptionList& options) {
+  StandardJob job;
+  std::string why;
+  IppMessage message = UnderScheduler() ? RequestJobAttributes(job_id, user, &why) : nullptr;
+  const bool answered = message != nullptr;
+  if (!message) message.reset(ippNew());
+  for (ipp_attribute_t* known = ippFirstAttribute(message.get()); known != nullptr;
+       known = ippNextAttribute(message.get())) {
+    if (const char* name = ippGetName(known)) job.ownNames.insert(name);
+  }
+  OptionNames told = job.ownNames;
+  for (int i = 0; i < options.size(); ++i) {
+    const cups_option_t& option = options.data()[i];
+    if (!answered) job.ownNames.insert(option.name);
+    if (IsStandardAttribute(option.name) && told.insert(option.name).second)
+      cupsEncodeOption(message.get(), IPP_TAG_JOB, option.name, option.value);
+  }
+  job.ticket = MapStandardAttributes(message.get(), SystemClock().LocalSeconds());
+  if (!why.empty()) {
+    job.ticket.not_honoured.push_back({"collections such as media-col, cover-front or overrides",
+                                       "if the job has any, they are missing, because the "
+                                       "scheduler did not tell its attributes (" +
+                                           why + "); print again or use the PPD's options"});
+  }
+  return job;
+}
+
+OptionList StandardOptions(StandardTicket* ticket, OptionList* chosen, const OptionList& own) {
+  for (const StandardSetting& setting : ticket->settings) {
+    if (!setting.value.empty()) chosen->RemoveEmpty(setting.name.c_str());
+  }
+  const std::map<std::string, std::string_view> above = Outranking(*chosen, own);
+  OptionList options;
+  std::string last;
+  for (const StandardSetting& setting : ticket->settings) {
+    options.Add(setting.name.c_str(), setting.value.c_str());
+    const auto other = above.find(setting.name);
+    if (setting.quiet || other == above.end() || other->second == setting.value ||
+        setting.source == last)
+      continue;
+    last = setting.source;
+    ticket->not_honoured.push_back({last, "another option of the job says otherwise"});
+  }
+  return options;
+}
+
+}  // namespace zarvo
