@@ -65,13 +65,12 @@ std::optional<std::string> Attribute::Text(int index) const {
     case IPP_TAG_STRING: {
       int length = 0;
       const void* bytes = ippGetOctetString(attribute_, index, &length);
-      if (bytes == nullptr || length < 0) return std::nullopt;
+      if (bytes == nullptr || length <= 0) return "";
       return std::string(static_cast<const char*>(bytes), static_cast<std::size_t>(length));
     }
     default: {
       const char* text = ippGetString(attribute_, index, nullptr);
-      if (text == nullptr) return std::nullopt;
-      return text;
+      return text != nullptr ? text : "";
     }
   }
 }

@@ -142,8 +142,9 @@ class JobTypeMapper {
     const Attribute encryption = FindAttribute(job_, "job-password-encryption");
     const std::string method = encryption.Text().value_or("none");
     if (encryption && method != "none") {
-      mapping_->Refuse(Shown("job-password-encryption", method),
-                       "the printer takes the PIN itself; send it with the encryption none");
+      mapping_->Refuse(
+          Shown("job-password-encryption", method),
+          "the printer cannot read an encrypted PIN; send it with the encryption none");
       return;
     }
     const std::optional<std::string> pin = password.Text();
@@ -152,7 +153,8 @@ class JobTypeMapper {
     if (fax) return mapping_->Drop("job-password", "a fax has no PIN");
     if (!saved) {
       if (!Claim(kSecret, "job-password")) return;
-      Type(kJobTypeSecure);
+      // Saved jobs, which the job may ask for by its own options, keep a PIN as well.
+      mapping_->Neutral(JobKey(key::job_type::kJobType), kJobTypeSecure);
     }
     mapping_->From("job-password");
     if (!mapping_->Text(JobKey(key::job_type::kSecurePrintPassword), *pin))
