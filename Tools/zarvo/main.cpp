@@ -97,7 +97,8 @@ std::span<const Command> Commands() {
        "zarvo watermark list\n"
        "sudo zarvo watermark add-text DRAFT --angle 45 --color '#cc0000'\n"
        "sudo zarvo watermark add-image logo.png --scale 50\n"
-       "zarvo watermark show DRAFT --output draft.png",
+       "zarvo watermark show DRAFT --output draft.png\n"
+       "sudo zarvo watermark publish -q office",
        &SetUpWatermark},
       {"recipient", "Look after your fax recipients",
        "zarvo recipient add --first Ada --fax '+44 20 7946 0018'\n"

@@ -198,9 +198,10 @@ PreserveJobFiles No
         log = self.error_log.read_text() if self.error_log.exists() else "(no log)"
         raise RuntimeError(f"cupsd did not start: {log[-2000:]}")
 
-    def run(self, *command):
+    def run(self, *command, **variables):
         """Runs a spooler client against this spooler and gives its standard output."""
-        environment = {**os.environ, "CUPS_SERVER": f"127.0.0.1:{self.port}", "HOME": str(self.root)}
+        environment = {**os.environ, "CUPS_SERVER": f"127.0.0.1:{self.port}", "HOME": str(self.root),
+                       **variables}  # fmt: skip
         done = subprocess.run(command, env=environment, capture_output=True, text=True, timeout=180)
         if done.returncode != 0:
             raise RuntimeError(f"{command}: {done.stderr} {self.log()[-3000:]}")

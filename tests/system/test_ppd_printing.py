@@ -56,7 +56,8 @@ class Printing(unittest.TestCase):
     def setUpClass(cls):
         folder = pathlib.Path(cls.enterClassContext(tempfile.TemporaryDirectory(prefix="zarvo-")))
         folder.chmod(0o755)  # the filters run as another user
-        store = folder / "data/Zarvo"
+        cls.store = folder / "data"
+        store = cls.store / "Zarvo"
         store.mkdir(parents=True)
         (store / "com.zarvo.printing.watermarks.plist").write_bytes(
             (SOURCE / "ppd/watermarks.plist").read_bytes())
@@ -89,6 +90,17 @@ class Printing(unittest.TestCase):
                 head = job[: job.index("%!PS-Adobe")]
                 self.assertTrue(head.endswith("LANGUAGE = POSTSCRIPT\n"), head[-100:])
                 self.assertEqual([text for text in wanted if text not in head], [], head)
+
+    def test_stored_watermarks_become_choices(self):
+        title = "Ma\u00df: 100 %s 'A\\B' \u65e5\u672c"
+        store = {"ZARVO_APPLICATION_SUPPORT": str(self.store)}
+        for _ in range(2):  # what is published again stands there once
+            self.cupsd.run(BIN / "zarvo", "watermark", "add-text", "seen", "--name", title, **store)
+            self.cupsd.run(BIN / "zarvo", "watermark", "publish", "-q", "gs", **store)
+        ppd = (self.cupsd.root / "ppd/gs.ppd").read_bytes()
+        self.assertEqual(ppd.count(b"*Watermark Ma100sAB/Ma<DF><3A> 100 %s 'A\\B' ??: \"\"\n"), 1)
+        self.assertIn(f"*ja.Watermark Ma100sAB/{title.replace(':', '<3A>')}: ".encode(), ppd)
+        self.assertIn(b"(seen)", self.print("plain", "-o Watermark=Ma100sAB"))
 
     def test_every_page_arrives(self):
         """Fitted to the paper, with all its squares, and under the watermark."""

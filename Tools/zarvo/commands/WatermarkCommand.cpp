@@ -20,6 +20,8 @@
 #include "Source/TicketNames.h"
 #include "Source/WatermarkSupport.h"
 #include "Tools/zarvo/Command.h"
+#include "Tools/zarvo/system/PublishedChoices.h"
+#include "Tools/zarvo/system/Queues.h"
 #include "Tools/zarvo/system/Run.h"
 #include "Tools/zarvo/system/WatermarkFont.h"
 #include "Tools/zarvo/ticket/TicketText.h"
@@ -55,6 +57,7 @@ struct Options {
   std::optional<double> y;
   std::string place = "background";
   std::string output;
+  std::string queue;
 
   const char* collection() const { return fax ? kFaxImageCollection : kWatermarkCollection; }
 };
@@ -302,6 +305,37 @@ int Show(const Options& options) {
   return Deliver(scratch.File("page-1.png"), target);
 }
 
+/// The value in the quotes of a ZRVTicket attribute. A double quote would end the attribute.
+std::string Quoted(const std::string& name) {
+  std::string text = "'";
+  for (const char c : name) {
+    if (c == '\'' || c == '\\') text += '\\';
+    text += c;
+    if (c == '%') text += '%';
+  }
+  return text + "'";
+}
+
+int Publish(const Options& options) {
+  std::string error;
+  const QueuePpd queue(options.queue, &error);
+  if (queue.path().empty()) return Fail(options.queue, error);
+  std::string ppd;
+  if (!ReadInput(queue.path(), &ppd)) return kExitFailure;
+  std::vector<PublishedChoice> choices;
+  const std::vector<std::string> names = Names(options);
+  for (std::size_t i = 1; i < names.size(); ++i) {
+    if (names[i].find('"') != std::string::npos) {
+      Fail(names[i], "has a double quote, which no PPD can hold", "Give it another name");
+      continue;
+    }
+    choices.push_back({names[i], std::string(key::kWatermark) + "=" + Quoted(names[i])});
+  }
+  const std::string changed = PublishChoices(ppd, "Watermark", choices, &error);
+  if (changed.empty()) return Fail(options.queue, error);
+  return InstallPpd(options.queue, changed);
+}
+
 CLI::App* AddCommand(CLI::App& app, const char* name, const char* summary, Action* action,
                      const std::shared_ptr<Options>& options, int (*run)(const Options&)) {
   CLI::App* command = app.add_subcommand(name, summary);
@@ -352,6 +386,10 @@ void SetUpWatermark(CLI::App& app, Action* action) {
         ->capture_default_str();
   AddCommand(app, "remove", "Removes a watermark", action, options, &Remove)
       ->add_option("name", options->name, "which one")
+      ->required();
+  CLI::App* publish = app.add_subcommand("publish", "Offers the watermarks in a queue's dialogs");
+  publish->callback([=] { *action = [=] { return Publish(*options); }; });
+  publish->add_option("-q,--queue", options->queue, "queue, whose PPD gets them as choices")
       ->required();
   CLI::App* font =
       AddCommand(app, "font", "Stores a font that the printers lack", action, options, &Font);
