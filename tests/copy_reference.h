@@ -79,6 +79,7 @@ inline Copied ByLines(const Job& job) {
     if (counted > 0) continues = false;
     for (; counted > 0; --counted) {
       const int byte = std::getc(in.file);
+      if (byte == EOF && job.settings.pageHooks) break;
       if (byte == EOF) return {out.Content(), CopyResult::kEarlyEnd};
       const char c = static_cast<char>(byte);
       output.Write({&c, 1});

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CUPSFilter/Booklet/BookletRespool.h"
 
+#include <algorithm>
 #include <cstring>
 #include <string_view>
 
@@ -88,7 +89,9 @@ bool WriteBlank(_tag_Q7B_PS_BOOKLET_VARS* v, unsigned creep_offset) {
                    xPSBool(v->bInclInsertedBlanksWhenOutlining), creep_offset) < 0) {
     return false;
   }
-  return Write(v, "%%EndPageSetup\n\n") && Write(v, "showpage\n\n");
+  // A page may have left a dictionary behind that holds a showpage of its own.
+  return Write(v, "%%EndPageSetup\n\n") &&
+         Write(v, v->pPageHooks ? "userdict /showpage get exec\n\n" : "showpage\n\n");
 }
 
 /// Writes what follows a page's "%%BeginPageSetup": its size and its place on the sheet.
@@ -108,7 +111,9 @@ bool WritePageSetup(_tag_Q7B_PS_BOOKLET_VARS* v, int source, unsigned creep_offs
     v->iLastPageWidth = static_cast<int>(width);
     v->iLastPageLen = static_cast<int>(height);
   }
-  return !imposed || std::fprintf(v->hPrinter, "true %u Q7BBMps\n\n", creep_offset) > 0;
+  if (imposed && std::fprintf(v->hPrinter, "true %u Q7BBMps\n\n", creep_offset) < 0) return false;
+  if (v->pPageHooks) v->pPageHooks->WritePageStart(source - 1);
+  return true;
 }
 
 /// Hands on a long page's text unseen, up to the first comment that has a meaning. Returns 1 when
@@ -170,6 +175,7 @@ class FileRespooler {
   }
 
   int Run() {
+    if (v_->iDocumentStart > 0 && !CopyWhatIsAhead()) return -205;
     for (int line = 0; line < v_->iSepFileDiscardLineCount; ++line) {
       if (!ReadLine(line_, file_) && std::ferror(file_)) return -205;
     }
@@ -185,6 +191,19 @@ class FileRespooler {
   }
 
  private:
+  bool CopyWhatIsAhead() {
+    off_t left = v_->iDocumentStart;
+    while (left > 0) {
+      const auto wanted =
+          static_cast<std::size_t>(std::min(left, static_cast<off_t>(v_->pBlock.size())));
+      const std::size_t got = std::fread(v_->pBlock.data(), 1, wanted, file_);
+      if (got == 0) return false;
+      xWriteSpool(v_->hPrinter, v_->pBlock.data(), got);
+      left -= static_cast<off_t>(got);
+    }
+    return true;
+  }
+
   int HandleComment() {
     if (state_ == rsScanningForBeginProlog && xIsItThisDSC("%%BeginProlog", v_->szDsc)) {
       state_ = rsFinding1stPageStartAndSpoolingAllPages;
@@ -217,6 +236,10 @@ class FileRespooler {
     const int sheets = (v_->iPages - 1) / v_->iImagesPerSheet + 1;
     const int slots = sheets * v_->iImagesPerSheet;
     int status = 1;
+    if (v_->pPageHooks) {
+      xWriteSpool(v_->hPrinter, v_->szFeatures.data(), v_->szFeatures.size());
+      v_->pPageHooks->WriteForBooklet();
+    }
     for (int slot = 1; slot <= slots && std::ferror(v_->hPrinter) == 0; ++slot) {
       const int source = xMapToSrcPageNum(v_, slots, slot);
       status = xProcessAndRespoolOnePage(v_, file_, line_, sizeof line_, v_->iPages,

@@ -278,7 +278,7 @@ int xScanFileForPages(_tag_Q7B_PS_BOOKLET_VARS* lpbv) {
   lpbv->bIsBadMsBinderPS = 0;
   lpbv->adwPageSize[0] = 0;
   try {
-    CommentReader reader(lpbv->pwstrPSFileIn);
+    CommentReader reader(lpbv->pwstrPSFileIn, lpbv->iDocumentStart);
     if (!reader.IsOpen()) return -102;
     return PageScan(lpbv, &reader).Run();
   } catch (const std::bad_alloc&) {

@@ -34,19 +34,20 @@ std::size_t LastLineStart(std::string_view text) {
 
 }  // namespace
 
-CommentReader::CommentReader(const char* path)
-    : file_(std::fopen(path, "rb")), buffer_(kBufferSize) {
+CommentReader::CommentReader(const char* path, off_t start)
+    : file_(std::fopen(path, "rb")), start_(start), buffer_(kBufferSize) {
   if (!file_) return;
   // Blocks are read straight into the buffer above.
   std::setvbuf(file_.get(), nullptr, _IONBF, 0);
   seekable_ = ftello(file_.get()) >= 0;
+  if (start > 0 && !Rewind()) file_.reset();
 }
 
 bool CommentReader::Rewind() {
   position_ = end_ = 0;
-  offset_ = 0;
+  offset_ = start_;
   before_buffer_ = '\n';
-  return fseeko(file_.get(), 0, SEEK_SET) == 0;
+  return fseeko(file_.get(), start_, SEEK_SET) == 0;
 }
 
 bool CommentReader::Fill(std::size_t bytes) {

@@ -30,15 +30,15 @@ class CommentReader {
  public:
   static constexpr std::size_t kLineSize = 1024;
 
-  /// Opens the file; check IsOpen().
-  explicit CommentReader(const char* path);
+  /// Opens the file to read it from `start` on; check IsOpen().
+  explicit CommentReader(const char* path, off_t start = 0);
 
   bool IsOpen() const { return file_ != nullptr; }
   bool Failed() const { return std::ferror(file_.get()) != 0; }
 
   /// The offset of the next line, or -1 when the file has no positions (a pipe).
   off_t Tell() const { return seekable_ ? offset_ + static_cast<off_t>(position_) : -1; }
-  /// Goes back to the start of the file. Returns false when that fails.
+  /// Goes back to where it has begun. Returns false when that fails.
   bool Rewind();
 
   /// Reads the next line with its end and a NUL after it. Returns false at the end of the file and
@@ -61,6 +61,7 @@ class CommentReader {
   std::string_view Unread() const { return {buffer_.data() + position_, end_ - position_}; }
 
   FilePtr file_;
+  off_t start_;
   bool seekable_ = false;
   std::vector<char> buffer_;
   std::size_t position_ = 0;   ///< of the next unread byte in the buffer

@@ -1,12 +1,20 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CUPSFilter/Booklet/ImposeJob.h"
 
+#include <unistd.h>
+
 #include <algorithm>
+#include <cerrno>
 #include <cstdint>
+#include <cstring>
 #include <iterator>
+#include <memory>
 #include <string>
 
+#include "CUPSFilter/Booklet/PageRewriter.h"
+#include "CUPSFilter/Booklet/PageStructure.h"
 #include "CUPSFilter/Booklet/q7bbook32.h"
+#include "CUPSFilter/Watermark/PageHooks.h"
 #include "Platform/Log.h"
 #include "Source/CFAdditions.h"
 #include "Source/TicketNames.h"
@@ -61,10 +69,9 @@ int DuplexCode(const std::string& sides) {
   return sides == "two-sided-short-edge" ? 2 : 1;
 }
 
-}  // namespace
-
-bool ImposeJob(const Dictionary& ticket, const JobSettings& settings, const SpoolFile& spool,
-               JobOutput& output) {
+/// A booklet that takes its document from `spool`; that must outlive the record.
+_tag_Q7B_PS_BOOKLET_VARS Booklet(const Dictionary& ticket, const JobSettings& settings,
+                                 const SpoolFile& spool, JobOutput& output) {
   _tag_Q7B_PS_BOOKLET_VARS bv;
   bv.bDoBooklet = 1;
   bv.hPrinter = output.stream();
@@ -86,13 +93,147 @@ bool ImposeJob(const Dictionary& ticket, const JobSettings& settings, const Spoo
   bv.iMode = 1;
   bv.iGutterPoints = BookletDistance(ticket, key::kGutter, 2 * kBookletMargin);
   bv.iCreep10thPoints = BookletDistance(ticket, key::kCreep, 0);
+  return bv;
+}
 
+/// Tells why a job was not imposed. A failed write is told by whoever owns the output, and once is
+/// enough.
+void LogFailure(int code, JobOutput& output) {
+  if (output.error() == 0)
+    LogLine("ERROR: booklet: %s (code %d); %s", StageOf(code).failure, code, StageOf(code).remedy);
+}
+
+/// Copies the bytes at [begin, end) of a spooled job; returns whether they were there.
+bool CopyRange(const SpoolFile& spool, off_t begin, off_t end, JobOutput& output) {
+  char block[1 << 16];
+  while (begin < end) {
+    const auto wanted =
+        static_cast<std::size_t>(std::min(end - begin, static_cast<off_t>(sizeof block)));
+    const ssize_t got = pread(fileno(spool.stream()), block, wanted, begin);
+    if (got <= 0) return false;
+    output.Write({block, static_cast<std::size_t>(got)});
+    begin += got;
+  }
+  return true;
+}
+
+/// The documents of one job that cannot be imposed as they are.
+class RewrittenJob {
+ public:
+  RewrittenJob(const Dictionary& ticket, const JobSettings& settings, const SpoolFile& spool,
+               JobOutput& output)
+      : ticket_(ticket), settings_(settings), spool_(spool), output_(output) {
+    rewriter_.width = settings.mediaWidth;
+    rewriter_.height = settings.mediaLength;
+  }
+
+  /// Writes the whole job, each document as a booklet of its own. Returns an empty text, or cause
+  /// and remedy; the output then holds a part of it.
+  std::string Write(const std::vector<DocumentRange>& documents) {
+    off_t copied = 0;
+    int pages = 0;
+    for (const DocumentRange& document : documents) {
+      if (!CopyRange(spool_, copied, document.begin, output_)) return kReadFailed;
+      copied = document.end;
+      // Each leaves the next one a printer as it found it.
+      const bool last = &document == &documents.back();
+      if (!last) output_.Write("userdict /ZRVdocument save put\n");
+      const std::string failure = WriteDocument(document, &pages);
+      if (!failure.empty()) return failure;
+      if (!last) output_.Write("clear cleardictstack userdict /ZRVdocument get restore\n");
+    }
+    const off_t end = lseek(fileno(spool_.stream()), 0, SEEK_END);
+    if (!CopyRange(spool_, copied, end, output_)) return kReadFailed;
+    return pages > 0 ? "" : "no page comes out of the job; print it without booklet layout";
+  }
+
+ private:
+  std::string WriteDocument(const DocumentRange& document, int* pages) {
+    const std::unique_ptr<SpoolFile> source = SpoolFile::Create();
+    const std::unique_ptr<SpoolFile> rewritten = SpoolFile::Create();
+    if (!source || !rewritten) return std::strerror(errno) + std::string(kMakeRoom);
+    JobOutput slice(source->stream());
+    if (!CopyRange(spool_, document.begin, document.end, slice)) return kReadFailed;
+    if (const int error = slice.Flush()) return std::strerror(error) + std::string(kMakeRoom);
+    lseek(fileno(source->stream()), 0, SEEK_SET);
+    const std::string failure =
+        RewritePages(fileno(source->stream()), rewriter_, rewritten->stream());
+    if (!failure.empty()) return failure;
+
+    PageHooks hooks(settings_, output_);
+    _tag_Q7B_PS_BOOKLET_VARS bv = Booklet(ticket_, settings_, *rewritten, output_);
+    bv.pPageHooks = &hooks;
+    bv.szFeatures = ReadPageStructure(spool_.path().c_str(), document.begin, document.end).features;
+    const int imposed = xPostProcessAndRespoolJob(&bv);
+    if (imposed < 0) return "code " + std::to_string(imposed) + kMakeRoom;
+    *pages += imposed;
+    return "";
+  }
+
+  static constexpr char kReadFailed[] = "reading the spooled job failed; send it again";
+  static constexpr char kMakeRoom[] = "; make room in TMPDIR and send the job again";
+
+  const Dictionary& ticket_;
+  const JobSettings& settings_;
+  const SpoolFile& spool_;
+  JobOutput& output_;
+  PageRewriter rewriter_;
+};
+
+}  // namespace
+
+bool ImposeJob(const Dictionary& ticket, const JobSettings& settings, const SpoolFile& spool,
+               JobOutput& output) {
+  _tag_Q7B_PS_BOOKLET_VARS bv = Booklet(ticket, settings, spool, output);
   const int pages = xPostProcessAndRespoolJob(&bv);
-  // A failed write is told by whoever owns the output, and once is enough.
-  if (pages <= 0 && output.error() == 0)
-    LogLine("ERROR: booklet: %s (code %d); %s", StageOf(pages).failure, pages,
-            StageOf(pages).remedy);
+  if (pages <= 0) LogFailure(pages, output);
   return pages > 0;
+}
+
+bool ImposeDocuments(const Dictionary& ticket, const JobSettings& settings, const SpoolFile& spool,
+                     const std::vector<DocumentRange>& documents, JobOutput& output) {
+  if (documents.size() == 1 &&
+      ReadPageStructure(spool.path().c_str(), documents[0].begin, documents[0].end).reliable) {
+    PageHooks hooks(settings, output);
+    _tag_Q7B_PS_BOOKLET_VARS bv = Booklet(ticket, settings, spool, output);
+    bv.pPageHooks = &hooks;
+    bv.iDocumentStart = documents[0].begin;
+    const int pages = xPostProcessAndRespoolJob(&bv);
+    if (pages > 0) return true;
+    if (bv.iPass1Result > 0) {  // something has been written
+      LogFailure(pages, output);
+      return false;
+    }
+  }
+  // A job without any document has nothing that could be imposed.
+  if (documents.empty()) {
+    if (const int error = const_cast<SpoolFile&>(spool).CopyTo(output.stream())) output.Fail(error);
+    return true;
+  }
+  LogLine(
+      "INFO: booklet: the page comments of the job cannot be relied on, so its pages are written "
+      "anew first; that takes time");
+  std::vector<std::vector<DocumentRange> > attempts = {documents};
+  // What seems to be a document may be the beginning of the next one.
+  if (documents.size() > 1) attempts.push_back({{documents.front().begin, documents.back().end}});
+  std::string failure;
+  for (const std::vector<DocumentRange>& attempt : attempts) {
+    const std::unique_ptr<SpoolFile> imposed = SpoolFile::Create();
+    if (!imposed) {
+      failure = std::string(std::strerror(errno)) + "; make room in TMPDIR and send the job again";
+      break;
+    }
+    JobOutput whole(imposed->stream());
+    failure = RewrittenJob(ticket, settings, spool, whole).Write(attempt);
+    if (const int error = whole.Flush(); failure.empty() && error != 0)
+      failure = std::string(std::strerror(error)) + "; make room in TMPDIR and send the job again";
+    if (!failure.empty()) continue;
+    if (const int error = imposed->CopyTo(output.stream())) output.Fail(error);
+    return true;
+  }
+  LogLine("ERROR: booklet: the pages could not be written anew, nothing was printed: %s",
+          failure.c_str());
+  return false;
 }
 
 }  // namespace zarvo

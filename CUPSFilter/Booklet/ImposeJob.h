@@ -2,6 +2,9 @@
 // The last step of a booklet job.
 #pragma once
 
+#include <vector>
+
+#include "CUPSFilter/CopyPass/JobFrame.h"
 #include "CUPSFilter/JobOutput.h"
 #include "CUPSFilter/JobSettings.h"
 #include "CUPSFilter/SpoolFile.h"
@@ -14,5 +17,12 @@ namespace zarvo {
 /// output only. Returns whether the job was imposed.
 bool ImposeJob(const Dictionary& ticket, const JobSettings& settings, const SpoolFile& spool,
                JobOutput& output);
+
+/// The same for a job of any program. A single document whose page comments can be relied on is
+/// imposed as it is; any other is first written anew, which one log line tells. Each document of
+/// the job becomes a booklet of its own. When that fails nothing is written, one log line tells
+/// why, and false is returned.
+bool ImposeDocuments(const Dictionary& ticket, const JobSettings& settings, const SpoolFile& spool,
+                     const std::vector<DocumentRange>& documents, JobOutput& output);
 
 }  // namespace zarvo

@@ -6,7 +6,10 @@
 
 #include <cstdint>
 #include <cstdio>
+#include <string>
 #include <vector>
+
+#include "CUPSFilter/Watermark/PageHooks.h"
 
 namespace zarvo {
 
@@ -45,6 +48,11 @@ struct _tag_Q7B_PS_BOOKLET_VARS {
   int iPageletsPerPage = 0;                  ///< pages per sheet side
   int iMode = 0;                             ///< 1 outermost sheet first, 2 innermost sheet first
   int bChk4BadMSBinderPS = 0;  ///< look for jobs whose first page holds a whole second job
+  /// Of jobs that any program may have written; null for those of the printers' own dialog, which
+  /// keep their bytes. Not owned.
+  PageHooks* pPageHooks = nullptr;
+  off_t iDocumentStart = 0;  ///< where the document begins; what is ahead is copied as it is
+  std::string szFeatures;    ///< code for the printer's features, ahead of the first page
 
   // Set by the two passes.
   int bIsBadMsBinderPS = 0;  ///< such a job was found

@@ -9,6 +9,7 @@
 #include <cstring>
 
 #include "CUPSFilter/CopyPass/LineScan.h"
+#include "Platform/Log.h"
 
 namespace zarvo {
 namespace {
@@ -61,6 +62,11 @@ CopyPass::CopyPass(int input, CopyRules& rules, JobOutput& output, std::size_t b
 
 CopyResult CopyPass::Run() {
   while (!Failed() && !end_of_input_ && Fill()) ScanBuffer();
+  // A wrong count is no reason to lose what follows.
+  if (result_ == CopyResult::kEarlyEnd && rules_.FollowsStructure()) {
+    LogLine("DEBUG: the job ended inside binary data; its count may be wrong");
+    result_ = CopyResult::kDone;
+  }
   if (!Failed()) rules_.Finish();
   return result_;
 }

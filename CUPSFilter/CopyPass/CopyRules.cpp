@@ -58,7 +58,10 @@ bool NamesJobType(std::string_view line) {
 }  // namespace
 
 CopyRules::CopyRules(const JobSettings& settings, const Dictionary& ticket, JobOutput& output)
-    : settings_(settings), ticket_(ticket), output_(output), frame_(ticket, output) {
+    : settings_(settings),
+      ticket_(ticket),
+      output_(output),
+      frame_(ticket, output, settings.booklet) {
   if (settings.pageHooks) page_hooks_.emplace(settings, output);
   // Without memory for the table the job goes out, only without name and password.
   if (settings.zarvoJobPassword) job_type_match_ = InitializeHashTables() != 0;
@@ -68,8 +71,8 @@ CopyRules::~CopyRules() { DiscardHashTables(); }
 
 Landmark CopyRules::Classify(std::string_view line) const {
   if (!page_hooks_) return ClassifyLine(line);
-  const bool wanted = shape_.WatchesEveryLine() || DocumentShape::Concerns(line) ||
-                      page_hooks_->WatchesEveryLine() || page_hooks_->IsLandmark(line);
+  const bool wanted =
+      shape_.WatchesEveryLine() || DocumentShape::Concerns(line) || page_hooks_->WatchesEveryLine();
   return wanted ? Landmark::kStructure : ClassifyLine(line);
 }
 
@@ -164,6 +167,7 @@ std::int64_t CopyRules::CopyPart(std::string_view line) {
     case JobLine::kFirst:
       line = frame_.BeginDocument(line);
       if (frame_.documents() == 1) WriteCover();
+      frame_.NoteBegin();
       page_hooks_->BeginDocument();
       break;
     case JobLine::kDocument:
@@ -172,7 +176,7 @@ std::int64_t CopyRules::CopyPart(std::string_view line) {
   }
   page_hooks_->BeforeLine(line, shape_.OwnLine());
   const std::int64_t counted = Apply(ClassifyLine(line), line);
-  page_hooks_->AfterLine(line, shape_.OwnLine());
+  page_hooks_->AfterLine(line);
   return counted;
 }
 

@@ -14,6 +14,7 @@
 #include <memory>
 #include <optional>
 #include <string_view>
+#include <vector>
 
 #include "CUPSFilter/CopyPass/DocumentShape.h"
 #include "CUPSFilter/CopyPass/JobFrame.h"
@@ -70,6 +71,9 @@ class CopyRules {
 
   /// Whether only what NextStructure finds can be a landmark, not all that NextCandidate finds.
   bool FollowsStructure() const { return page_hooks_.has_value(); }
+
+  /// Where the documents are in the output, which is a file: of a booklet with page hooks.
+  const std::vector<DocumentRange>& documents() const { return frame_.ranges(); }
 
   /// Writes what goes after the last line. To be called when the input has ended.
   void Finish();

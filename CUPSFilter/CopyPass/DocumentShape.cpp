@@ -81,9 +81,10 @@ std::size_t DocumentShape::PartLength(std::string_view line) {
 
 JobLine DocumentShape::Take(std::string_view line) {
   if (state_ == State::kInside && LeadLength(line) > 0 && Concerns(line)) {
-    // A Ctrl-D in the midst of data is a byte like any other.
+    // A Ctrl-D in the midst of data is a byte like any other, and spoolers embed whole jobs.
     const std::string_view rest = line.substr(LeadLength(line));
-    if (line[0] == '\x04' && !rest.empty() && !rest.starts_with("%!")) return JobLine::kDocument;
+    const bool data = (!rest.empty() && !rest.starts_with("%!")) || HoldsDocument();
+    if (line[0] == '\x04' && data) return JobLine::kDocument;
     state_ = State::kPending;
   }
   own_line_ = open_.empty();
@@ -118,7 +119,11 @@ bool DocumentShape::BeginsDocument(std::string_view header) const {
   if (!header.starts_with("%!")) return false;
   if (!Contains(header, "EPSF")) return true;
   const bool in_page = has_pages_ && !trailer_;
-  return open_.find(kDocument) == open_.npos && (figure_ || !in_page);
+  return !HoldsDocument() && (figure_ || !in_page);
+}
+
+bool DocumentShape::HoldsDocument() const {
+  return open_.find(kDocument) != open_.npos || open_.find(kFile) != open_.npos;
 }
 
 void DocumentShape::TakeInside(std::string_view line) {
@@ -128,7 +133,7 @@ void DocumentShape::TakeInside(std::string_view line) {
     const char kind = KindOf(line.substr(7));
     if (kind != 0 && open_.size() < kDeepest && !(kind == kData && IsCounted(line))) open_ += kind;
   } else if (EndsPart(line)) {
-    if (open_.find(kDocument) != open_.npos || open_.find(kFile) != open_.npos) return;
+    if (HoldsDocument()) return;
     open_.clear();
     own_line_ = true;
     has_pages_ = has_pages_ || line.starts_with("%%Page:");

@@ -62,6 +62,7 @@ class DocumentShape {
   JobLine TakeOutside(std::string_view line);
   void TakeInside(std::string_view line);
   bool BeginsDocument(std::string_view header) const;
+  bool HoldsDocument() const;
 
   State state_ = State::kAhead;
   std::string open_;  // the kinds that have begun and not ended, the innermost last

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CUPSFilter/CopyPass/JobFrame.h"
 
+#include <unistd.h>
+
 #include <algorithm>
 
 #include "CUPSFilter/CopyPass/DocumentShape.h"
@@ -12,6 +14,8 @@ namespace {
 
 /// More than any driver writes between documents.
 constexpr std::size_t kMostKept = 64 * 1024;
+/// Nobody sends as many documents at once; of a job that does, the rest counts as one.
+constexpr std::size_t kMostRanges = 1000;
 
 /// The PJL lines of `kept` that set something for the job.
 std::string Settings(std::string_view kept) {
@@ -56,6 +60,7 @@ int JobFrame::CopyEnvelope(std::string_view line) {
 }
 
 std::string_view JobFrame::BeginDocument(std::string_view line) {
+  NoteEnd();
   const std::size_t lead = LeadLength(line);
   if (lead > 0) Keep(line.substr(0, lead));
   if (documents_++ > 0 && kept_.find(kUniversalExit) != kept_.npos) {
@@ -76,11 +81,25 @@ void JobFrame::GoOn() {
 }
 
 void JobFrame::End() {
+  NoteEnd();
   if (documents_ == 0)
     output_.Write(kept_);
   else if (!own_end_)
     WriteEnvelopeEnd(output_.stream());
   kept_.clear();
+}
+
+void JobFrame::NoteBegin() {
+  if (to_file_ && ranges_.size() < kMostRanges) ranges_.push_back({Position(), 0});
+}
+
+void JobFrame::NoteEnd() {
+  if (!ranges_.empty()) ranges_.back().end = Position();
+}
+
+off_t JobFrame::Position() {
+  output_.Flush();
+  return lseek(fileno(output_.stream()), 0, SEEK_CUR);
 }
 
 }  // namespace zarvo

@@ -2,13 +2,22 @@
 // What goes around the documents of one job.
 #pragma once
 
+#include <sys/types.h>
+
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "CUPSFilter/JobOutput.h"
 #include "Platform/Value.h"
 
 namespace zarvo {
+
+/// A document's bytes in a file.
+struct DocumentRange {
+  off_t begin;
+  off_t end;
+};
 
 /// Writes one envelope ahead of the first document and its end after the last, unless the job has
 /// an envelope itself. Of other PJL lines a job brings along, its settings go into the envelope;
@@ -16,7 +25,9 @@ namespace zarvo {
 /// `ticket` and `output` must outlive the object.
 class JobFrame {
  public:
-  JobFrame(const Dictionary& ticket, JobOutput& output) : ticket_(ticket), output_(output) {}
+  /// `to_file`: the output is a file, and where the documents are in it will be asked for.
+  JobFrame(const Dictionary& ticket, JobOutput& output, bool to_file)
+      : ticket_(ticket), output_(output), to_file_(to_file) {}
 
   /// A line ahead of, between or after documents. It is kept until the next one tells what it is.
   void Keep(std::string_view line);
@@ -29,11 +40,20 @@ class JobFrame {
   /// At the end of the job.
   void End();
 
+  /// The document's first line comes next, after whatever the caller has put ahead of it.
+  void NoteBegin();
+  const std::vector<DocumentRange>& ranges() const { return ranges_; }
+
   int documents() const { return documents_; }
 
  private:
+  void NoteEnd();
+  off_t Position();
+
   const Dictionary& ticket_;
   JobOutput& output_;
+  bool to_file_;
+  std::vector<DocumentRange> ranges_;
   std::string kept_;
   int documents_ = 0;
   bool own_envelope_ = false;

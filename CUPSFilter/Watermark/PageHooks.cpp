@@ -13,8 +13,6 @@ extern const std::string_view PageHookProcedures;
 
 namespace {
 
-constexpr std::string_view kLandmarks[] = {"%%EndSetup", "%%Page:", "%%BeginPageSetup"};
-
 void WriteFlag(FILE* output, const char* name, bool value) {
   std::fprintf(output, "/%s %s def\n", name, value ? "true" : "false");
 }
@@ -50,48 +48,30 @@ PageHooks::PageHooks(const JobSettings& settings, JobOutput& output)
       output_(output),
       needed_(settings.watermark || settings.invertImage || settings.flipHorizontal) {}
 
-bool PageHooks::IsLandmark(std::string_view line) const {
-  if (!needed_) return false;
-  for (const std::string_view landmark : kLandmarks) {
-    if (line.starts_with(landmark)) return true;
-  }
-  return false;
-}
-
-void PageHooks::BeginDocument() {
-  inserted_ = !needed_;
-  pages_ = 0;
-  page_set_up_ = true;
-}
-
-bool PageHooks::WatchesEveryLine() const { return !inserted_ && !settings_.booklet; }
+void PageHooks::BeginDocument() { inserted_ = !needed_ || settings_.booklet; }
 
 void PageHooks::BeforeLine(std::string_view line, bool own) {
-  const bool ends_setup = own && line.starts_with("%%EndSetup");
   if (inserted_) {
-    if (ends_setup && needed_ && !settings_.booklet) output_.Write("ZRVhooks /again get exec\n");
+    if (own && needed_ && !settings_.booklet && line.starts_with("%%EndSetup"))
+      output_.Write("ZRVhooks /again get exec\n");
     return;
   }
   // Header comments stay together, for whoever reads them next.
   const bool header = line.find_first_not_of("\r\n") == line.npos ||
                       (line.starts_with('%') && !line.starts_with("%%Begin"));
-  const bool here =
-      settings_.booklet ? ends_setup || (own && line.starts_with("%%Page:")) : !header;
-  if (here) Insert();
+  if (!header) Insert();
 }
 
-void PageHooks::AfterLine(std::string_view line, bool own) {
-  if (!own || !needed_) return;
-  if (!inserted_ && !settings_.booklet && line.starts_with("%%EndComments")) Insert();
-  if (line.starts_with("%%Page:")) {
-    ++pages_;
-    page_set_up_ = false;
-  }
-  if (line.starts_with("%%BeginPageSetup") && !page_set_up_) {
-    page_set_up_ = true;
-    if (settings_.booklet)
-      std::fprintf(output_.stream(), "%d ZRVhooks /bookletpage get exec\n", pages_ - 1);
-  }
+void PageHooks::AfterLine(std::string_view line) {
+  if (!inserted_ && line.starts_with("%%EndComments")) Insert();
+}
+
+void PageHooks::WriteForBooklet() {
+  if (needed_) Insert();
+}
+
+void PageHooks::WritePageStart(int page) {
+  if (needed_) std::fprintf(output_.stream(), "%d ZRVhooks /bookletpage get exec\n", page);
 }
 
 void PageHooks::Insert() {

@@ -15,10 +15,10 @@ namespace zarvo {
 /// write they are missing, and what is inserted there is lost or stops the job.
 bool PageHooksWanted(const Ppd& ppd);
 
-/// What one pass over a job inserts: into every document, before its prolog, procedures that the
-/// printer runs at the start and at the end of every page, and at the end of its set-up a call that
-/// has them run even where that changed the page device. In a booklet, where the device sees
-/// sheets, the procedures go after the imposition's own, and each page's set-up calls them.
+/// What is inserted into a job: into every document, before its prolog, procedures that the printer
+/// runs at the start and at the end of every page, and at the end of its set-up a call that has
+/// them run even where that changed the page device. In a booklet, where the device sees sheets,
+/// the copy pass inserts nothing; the imposition does, after its own procedures and at each page.
 /// `settings` and `output` must outlive it.
 class PageHooks {
  public:
@@ -26,14 +26,17 @@ class PageHooks {
 
   /// A document begins; its first line comes next.
   void BeginDocument();
-  /// Whether it has to be given the next line, whatever that holds,
-  bool WatchesEveryLine() const;
-  /// and whether it has to be given this one.
-  bool IsLandmark(std::string_view line) const;
+  /// Whether BeforeLine and AfterLine are to be called for every line, whatever it holds; they are
+  /// for what divides a document.
+  bool WatchesEveryLine() const { return !inserted_; }
   /// Write what goes before and after a line. `own` says that it is the document's own, not
   /// something embedded's.
   void BeforeLine(std::string_view line, bool own);
-  void AfterLine(std::string_view line, bool own);
+  void AfterLine(std::string_view line);
+
+  /// Ahead of a booklet's first page, and in the set-up of each page (counted from 0).
+  void WriteForBooklet();
+  void WritePageStart(int page);
 
  private:
   void Insert();
@@ -41,9 +44,7 @@ class PageHooks {
   const JobSettings& settings_;
   JobOutput& output_;
   bool needed_;
-  bool inserted_ = true;     // into this document
-  int pages_ = 0;            // of this document, begun so far
-  bool page_set_up_ = true;  // this page's set-up has been seen
+  bool inserted_ = true;  // into this document
 };
 
 }  // namespace zarvo

@@ -67,9 +67,6 @@ std::string StorePath(const Options& options) {
 }
 
 int CannotWrite(const Options& options) {
-  if (errno == EAGAIN)
-    return Fail(StorePath(options), "another program has been changing it for ten seconds",
-                "Try again when that has ended");
   return Fail(StorePath(options), "the store cannot be written",
               "Run the command as root, for example with sudo");
 }
@@ -81,6 +78,15 @@ std::vector<std::string> Names(const Options& options) {
   for (const Value& entry : list)
     names.push_back(entry.AsString() != nullptr ? *entry.AsString() : "");
   return names;
+}
+
+/// Puts the name at the end of the list, unless it is there.
+bool AddToList(const Options& options, const std::string& name) {
+  std::vector<std::string> names = Names(options);
+  if (names.empty()) names.emplace_back(kFirstEntry);
+  if (std::find(names.begin(), names.end(), name) == names.end()) names.push_back(name);
+  const Array list(names.begin(), names.end());
+  return saveWatermarkList(options.collection(), &list);
 }
 
 std::string Describe(const _WatermarkData& data) {
@@ -159,7 +165,8 @@ int Store(const Options& options, const _WatermarkData& data, const std::string&
   Data font;
   loadFontData(options.collection(), name, &font);
   if (!font.empty()) return Fail(name, "names a font of the store", "Take another name");
-  if (!addWatermark(options.collection(), data, kFirstEntry)) return CannotWrite(options);
+  if (!saveWatermarkData(options.collection(), data) || !AddToList(options, name))
+    return CannotWrite(options);
   return kExitOk;
 }
 
@@ -202,8 +209,7 @@ int AddImage(const Options& options) {
   const std::string name = options.name.empty() ? source.filename().string() : options.name;
   if (!MayBeNamed(options, name)) return kExitFailure;
   ChildRun decoding;
-  decoding.arguments = {DrawHelperPath(), "image", "ppm", source};
-  decoding.input = source;
+  decoding.arguments = {DrawHelperPath(), "image", source};
   decoding.output = "/dev/null";
   std::string log;
   if (!RunChild(decoding, &log)) {
@@ -241,12 +247,17 @@ bool Load(const Options& options, _WatermarkData* data) {
 
 int Remove(const Options& options) {
   _WatermarkData data{};
-  const std::vector<std::string> names = Names(options);
+  std::vector<std::string> names = Names(options);
   if (!MayBeNamed(options, options.name)) return kExitFailure;
   // A name whose entry is gone can still be taken off the list.
   if (std::find(names.begin(), names.end(), options.name) == names.end() && !Load(options, &data))
     return kExitFailure;
-  if (!dropWatermark(options.collection(), options.name, &data)) return CannotWrite(options);
+  const bool stored = loadWatermarkData(options.collection(), &options.name, &data) == 1;
+  std::erase(names, options.name);
+  const Array list(names.begin(), names.end());
+  if ((stored && !removeWatermarkData(options.collection(), options.name)) ||
+      !saveWatermarkList(options.collection(), &list))
+    return CannotWrite(options);
   const fs::path image = data.filePath;
   std::error_code error;
   if (data.filePath[0] != '\0' && image.parent_path() == fs::path(StorePath(options)).parent_path())
@@ -266,8 +277,9 @@ int Font(const Options& options) {
   if (!MayBeNamed(options, name)) return kExitFailure;
   if (loadWatermarkData(options.collection(), &name, &data) == 1)
     return Fail(name, "names a watermark", "Give another --name");
-  if (!addWatermarkFont(options.collection(), name, *font, kFirstEntry))
-    return CannotWrite(options);
+  // The store takes fonts only once it is there.
+  if (Names(options).empty() && !AddToList(options, kFirstEntry)) return CannotWrite(options);
+  if (!storeFontData(options.collection(), name, *font)) return CannotWrite(options);
   std::printf("%s\n", PrintableText(name).c_str());
   return kExitOk;
 }
