@@ -2,15 +2,19 @@
 // The filter: one job from the spooler's arguments to the exit status.
 #include <cups/cups.h>
 #include <fcntl.h>
+#include <sys/prctl.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <memory>
 #include <new>
 #include <optional>
+#include <string>
 #include <vector>
 
 #include "CUPSFilter/Booklet/ImposeJob.h"
@@ -32,7 +36,11 @@
 #include "Platform/Log.h"
 #include "Platform/Process.h"
 #include "Platform/ScratchFolder.h"
+#include "Platform/SpoolerUser.h"
 #include "Platform/UniqueFd.h"
+#include "Source/DrawHelper.h"
+#include "Source/FaxCover.h"
+#include "Source/Preferences.h"
 
 namespace zarvo {
 namespace {
@@ -187,9 +195,51 @@ void OpenStandardDescriptors() {
   }
 }
 
+/// Options, and with them a PIN, are in this process's memory: it is dumped nowhere, and shown to
+/// no other process of the spooler's user.
+void HideMemory() {
+  const rlimit none{0, 0};
+  setrlimit(RLIMIT_CORE, &none);
+#ifndef __SANITIZE_ADDRESS__
+  // (The leak sanitizer looks into its own process.)
+  prctl(PR_SET_DUMPABLE, 0);
+#endif
+}
+
+/// Whether all that a job started by hand names is open to the user.
+bool ReachesEverything(const SpoolerUser& user, const char* input_name) {
+  const auto is_open = [&user](const std::string& path, int access) {
+    return ::access(path.c_str(), F_OK) != 0 || SpoolerMay(user, path, access);
+  };
+  const char* ppd = std::getenv("PPD");
+  return (input_name == nullptr || is_open(input_name, R_OK)) &&
+         (ppd == nullptr || is_open(ppd, R_OK)) && is_open(TemporaryFolder(), W_OK | X_OK) &&
+         is_open(CopyPreferenceFileURL(kWatermarkCollection).value_or("/"), R_OK) &&
+         is_open(CopyPreferenceFileURL(kFaxImageCollection).value_or("/"), R_OK) &&
+         is_open(DrawHelperPath(), X_OK);
+}
+
+/// Goes to the spooler's user when root has started this. Only root itself can have done so by
+/// hand, on files of its own: then it stays root when the job could not be printed otherwise.
+/// False, and one log line, when it cannot.
+bool LeaveRoot(const char* input_name) {
+  if (geteuid() != 0) return true;
+  const std::optional<SpoolerUser> user = FindSpoolerUser();
+  const bool by_spooler = std::getenv("SOFTWARE") != nullptr;  // which sets it for all its filters
+  if (!by_spooler && (!user || !ReachesEverything(*user, input_name))) return true;
+  if (user && BecomeSpoolerUser(*user)) return true;
+  LogLine(
+      "ERROR: unable to leave root - %s; correct User and Group in cups-files.conf, they name the "
+      "spooler's user",
+      user ? std::strerror(errno) : "no such user");
+  return false;
+}
+
 int Main(int argc, char** argv) {
   std::setvbuf(stderr, nullptr, _IONBF, 0);
   OpenStandardDescriptors();
+  if (!LeaveRoot(argc == 7 ? argv[6] : nullptr)) return kFailure;
+  HideMemory();
   // A printer connection that goes away, or a file at its limit, shows as a failed write, not as a
   // silent death.
   std::signal(SIGPIPE, SIG_IGN);

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Platform/AtomicFile.h"
 
+#include <dirent.h>
 #include <fcntl.h>
+#include <limits.h>
 #include <sys/file.h>
 #include <sys/stat.h>
 
@@ -10,9 +12,13 @@
 #include <cstdio>
 #include <cstdlib>
 #include <thread>
+#include <utility>
 
 namespace zarvo {
 namespace {
+
+constexpr std::string_view kSuffix = ".zarvo-XXXXXX";
+constexpr std::string_view kSuffixStart = ".zarvo-";
 
 std::string FolderOf(const std::string& path) {
   const std::size_t slash = path.rfind('/');
@@ -20,12 +26,67 @@ std::string FolderOf(const std::string& path) {
   return slash == 0 ? "/" : path.substr(0, slash);
 }
 
-mode_t PermissionsFor(const std::string& path, mode_t mode) {
+std::string NameOf(const std::string& path) {
+  const std::size_t slash = path.rfind('/');
+  return slash == std::string::npos ? path : path.substr(slash + 1);
+}
+
+/// What the path leads to, through symbolic links that may lead to nothing yet.
+std::string TargetOf(std::string path) {
+  constexpr int kMostLinks = 40;  // as the kernel has it
+  for (int i = 0; i < kMostLinks; ++i) {
+    char link[PATH_MAX];
+    const ssize_t length = ::readlink(path.c_str(), link, sizeof link);
+    if (length <= 0) break;
+    const std::string target(link, static_cast<std::size_t>(length));
+    path = target[0] == '/' ? target : FolderOf(path) + '/' + target;
+  }
+  return path;
+}
+
+/// Gives the new file what the old one has, or `mode` when there is none.
+int SetOwnership(int fd, const std::string& path, mode_t mode) {
   struct stat existing {};
-  if (::stat(path.c_str(), &existing) == 0) return existing.st_mode & 0777;
-  const mode_t mask = ::umask(0);
-  ::umask(mask);
-  return mode & ~mask;
+  if (::stat(path.c_str(), &existing) != 0) return ::fchmod(fd, mode) == 0 ? 0 : errno;
+  mode = existing.st_mode & 0777;
+  if (::fchown(fd, existing.st_uid, existing.st_gid) != 0 &&
+      ::fchown(fd, static_cast<uid_t>(-1), existing.st_gid) != 0) {
+    // What the old group might do is not for the new one, unless everybody may.
+    mode = (mode & 0707) | (mode & 0007) << 3;
+  }
+  return ::fchmod(fd, mode) == 0 ? 0 : errno;
+}
+
+/// Removes the temporary files of writers that were killed. A living writer has its own locked.
+void RemoveLeftFiles(const std::string& folder) {
+  DIR* entries = ::opendir(folder.c_str());
+  if (entries == nullptr) return;
+  while (const dirent* entry = ::readdir(entries)) {
+    const std::string_view name = entry->d_name;
+    if (name.size() < kSuffix.size() || name[0] != '.' ||
+        !name.substr(name.size() - kSuffix.size()).starts_with(kSuffixStart))
+      continue;
+    const std::string path = folder + '/' + std::string(name);
+    const UniqueFd file(::open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+    if (file && ::flock(file.get(), LOCK_EX | LOCK_NB) == 0) ::unlink(path.c_str());
+  }
+  ::closedir(entries);
+}
+
+/// A new temporary file, locked; `path` gets its name.
+UniqueFd MakeTemporary(const std::string& folder, const std::string& name, std::string* path) {
+  constexpr int kTries = 10;  // somebody who clears up may take one away before it is locked
+  for (int i = 0; i < kTries; ++i) {
+    *path = folder + "/." + name + std::string(kSuffix);
+    UniqueFd fd(::mkostemp(path->data(), O_CLOEXEC));
+    if (!fd) return fd;
+    struct stat info {};
+    if (::flock(fd.get(), LOCK_EX | LOCK_NB) == 0 && ::fstat(fd.get(), &info) == 0 &&
+        info.st_nlink == 1)
+      return fd;
+  }
+  errno = EAGAIN;
+  return UniqueFd();
 }
 
 int WriteAll(int fd, std::string_view bytes) {
@@ -41,7 +102,7 @@ int WriteAll(int fd, std::string_view bytes) {
 int FillAndRename(int fd, const std::string& temporary, const std::string& path,
                   std::string_view bytes, mode_t mode) {
   if (const int error = WriteAll(fd, bytes)) return error;
-  if (::fchmod(fd, mode) != 0) return errno;
+  if (const int error = SetOwnership(fd, path, mode)) return error;
   // Without this a power cut after the rename could leave an empty file under the final name.
   if (::fsync(fd) != 0) return errno;
   if (std::rename(temporary.c_str(), path.c_str()) != 0) return errno;
@@ -51,14 +112,13 @@ int FillAndRename(int fd, const std::string& temporary, const std::string& path,
 }  // namespace
 
 int WriteFileAtomically(const std::string& path, std::string_view bytes, mode_t mode) {
-  const std::string folder = FolderOf(path);
-  const std::size_t slash = path.rfind('/');
-  const std::string name = slash == std::string::npos ? path : path.substr(slash + 1);
-  std::string temporary = folder + "/." + name + ".XXXXXX";
-  const UniqueFd fd(::mkostemp(temporary.data(), O_CLOEXEC));
+  const std::string target = TargetOf(path);
+  const std::string folder = FolderOf(target);
+  RemoveLeftFiles(folder);
+  std::string temporary;
+  const UniqueFd fd = MakeTemporary(folder, NameOf(target), &temporary);
   if (!fd) return errno;
-  if (const int error =
-          FillAndRename(fd.get(), temporary, path, bytes, PermissionsFor(path, mode))) {
+  if (const int error = FillAndRename(fd.get(), temporary, target, bytes, mode)) {
     ::unlink(temporary.c_str());
     return error;
   }
@@ -68,12 +128,25 @@ int WriteFileAtomically(const std::string& path, std::string_view bytes, mode_t 
   return 0;
 }
 
-std::optional<std::string> ReadWholeFile(const std::string& path, std::size_t max_bytes) {
+UniqueFd OpenRegularFile(const std::string& path) {
   // Non-blocking, because opening a named pipe would wait for a writer.
-  const UniqueFd fd(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
-  if (!fd) return std::nullopt;
+  UniqueFd fd(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
   struct stat info {};
-  if (::fstat(fd.get(), &info) != 0) return std::nullopt;
+  if (fd && ::fstat(fd.get(), &info) == 0 && !S_ISREG(info.st_mode)) {
+    fd.reset();
+    errno = EINVAL;
+  }
+  return fd;
+}
+
+std::optional<std::string> ReadWholeFile(const std::string& path, std::size_t max_bytes) {
+  const UniqueFd fd = OpenRegularFile(path);
+  return fd ? ReadWholeFile(fd.get(), max_bytes) : std::nullopt;
+}
+
+std::optional<std::string> ReadWholeFile(int fd, std::size_t max_bytes) {
+  struct stat info {};
+  if (::fstat(fd, &info) != 0) return std::nullopt;
   if (!S_ISREG(info.st_mode)) {
     errno = EINVAL;
     return std::nullopt;
@@ -83,7 +156,7 @@ std::optional<std::string> ReadWholeFile(const std::string& path, std::size_t ma
     content.resize(static_cast<std::size_t>(info.st_size) + 1);
     std::size_t length = 0;
     while (length < content.size()) {
-      const ssize_t got = ::read(fd.get(), content.data() + length, content.size() - length);
+      const ssize_t got = ::read(fd, content.data() + length, content.size() - length);
       if (got < 0 && errno == EINTR) continue;
       if (got < 0) return std::nullopt;
       if (got == 0) break;
@@ -99,13 +172,42 @@ std::optional<std::string> ReadWholeFile(const std::string& path, std::size_t ma
   return std::nullopt;
 }
 
-FolderLock::FolderLock(const std::string& folder)
-    : folder_(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
+FolderLock::FolderLock(const std::string& folder) : path_(folder + '/' + kLockFile) {
   using namespace std::chrono_literals;
   const auto deadline = std::chrono::steady_clock::now() + 10s;
-  while (folder_ && ::flock(folder_.get(), LOCK_EX | LOCK_NB) != 0 &&
-         (errno == EWOULDBLOCK || errno == EINTR) && std::chrono::steady_clock::now() < deadline)
-    std::this_thread::sleep_for(5ms);
+  for (;;) {
+    UniqueFd file(::open(path_.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, 0600));
+    if (!file) {
+      error_ = errno;
+      return;
+    }
+    // Who may write the folder may lock it, and nobody else.
+    struct stat of_folder {
+    }, opened{}, named{};
+    if (::stat(folder.c_str(), &of_folder) == 0 && ::fstat(file.get(), &opened) == 0 &&
+        opened.st_uid == ::geteuid()) {
+      const mode_t others = of_folder.st_mode & 0022;
+      [[maybe_unused]] const int owned =
+          ::fchown(file.get(), static_cast<uid_t>(-1), of_folder.st_gid);
+      ::fchmod(file.get(), 0600 | others | others << 1);
+    }
+    const bool locked = ::flock(file.get(), LOCK_EX | LOCK_NB) == 0;
+    // The holder before may have taken the file away meanwhile.
+    if (locked && ::fstat(file.get(), &opened) == 0 && ::stat(path_.c_str(), &named) == 0 &&
+        opened.st_ino == named.st_ino && opened.st_dev == named.st_dev) {
+      file_ = std::move(file);
+      return;
+    }
+    if (std::chrono::steady_clock::now() >= deadline) {
+      error_ = EAGAIN;
+      return;
+    }
+    if (!locked) std::this_thread::sleep_for(5ms);
+  }
+}
+
+FolderLock::~FolderLock() {
+  if (file_) ::unlink(path_.c_str());
 }
 
 }  // namespace zarvo

@@ -13,27 +13,44 @@
 
 namespace zarvo {
 
-/// Replaces the file at `path` with `bytes`: writes a temporary file ("." NAME "." and six random
-/// characters) in the same folder, syncs it to the disk and renames it over the target. Of two
-/// writers the last one to rename wins, whole. A file that was there keeps its permission bits; a
-/// new one gets `mode` less the umask. Returns 0, or the error number of the step that failed; the
+/// Replaces the file at `path`, or the one that a symbolic link there leads to, with `bytes`:
+/// writes a temporary file ("." NAME ".zarvo-" and six random characters) in the same folder, syncs
+/// it to the disk and renames it over the target. Of two writers the last one to rename wins,
+/// whole. A file that was there keeps its owner, group and permission bits, as far as the writer
+/// may give them; a new one gets `mode`, whatever the umask. Temporary files that killed writers
+/// have left in the folder are removed. Returns 0, or the error number of the step that failed; the
 /// old file is then untouched and no temporary file stays behind.
 int WriteFileAtomically(const std::string& path, std::string_view bytes, mode_t mode);
 
 /// The content of the regular file at `path`. Nothing, with errno set, when it cannot be read, is
 /// no regular file (EINVAL) or is longer than `max_bytes` (EFBIG).
 std::optional<std::string> ReadWholeFile(const std::string& path, std::size_t max_bytes);
+/// The same of an open file, from where it stands.
+std::optional<std::string> ReadWholeFile(int fd, std::size_t max_bytes);
+/// The regular file at `path`, open for reading; none, with errno set, else.
+UniqueFd OpenRegularFile(const std::string& path);
 
 /// Keeps other holders of the same folder's lock out for the life of the object: for changes that
-/// read a file, alter it and write it back. The lock is advisory and leaves no file behind. Waits
-/// at most ten seconds and then goes on without it, so that a stuck program cannot block the
-/// others for ever; the writes are whole either way. A folder that cannot be opened is not locked.
+/// read a file, alter it and write it back. The lock is advisory. It is a file of its own
+/// (kLockFile) that only those can open who may write the folder, and that goes with the object;
+/// one that a killed program has left is taken over. Waits at most ten seconds for another holder.
 class FolderLock {
  public:
+  static constexpr char kLockFile[] = ".zarvo-lock";
+
   explicit FolderLock(const std::string& folder);
+  ~FolderLock();
+  FolderLock(const FolderLock&) = delete;
+  FolderLock& operator=(const FolderLock&) = delete;
+
+  /// False when the lock could not be had; error() tells why, EAGAIN being another holder.
+  explicit operator bool() const { return static_cast<bool>(file_); }
+  int error() const { return error_; }
 
  private:
-  UniqueFd folder_;
+  std::string path_;
+  UniqueFd file_;
+  int error_ = 0;
 };
 
 }  // namespace zarvo

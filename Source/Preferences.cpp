@@ -29,9 +29,12 @@ bool IsFolder(const std::string& path) {
   return ::stat(path.c_str(), &info) == 0 && S_ISDIR(info.st_mode);
 }
 
+/// A new folder gets the mode whatever the umask: jobs of the spooler's user must get at the shared
+/// one.
 bool FindOrMakeFolder(const std::string& path, mode_t mode) {
-  return IsFolder(path) || ::mkdir(path.c_str(), mode) == 0 ||
-         (errno == EEXIST && IsFolder(path));  // another process was faster
+  if (IsFolder(path)) return true;
+  if (::mkdir(path.c_str(), mode) == 0) return ::chmod(path.c_str(), mode) == 0;
+  return errno == EEXIST && IsFolder(path);  // another process was faster
 }
 
 /// An absolute path from the environment; anything else in the variable is ignored.
@@ -94,7 +97,10 @@ bool ChangeSharedFile(std::string_view file_name, MissingFile missing,
   const std::optional<std::string> path = CopyPreferenceFileURL(file_name);
   if (!path) return false;
   const FolderLock lock(*SharedFolder());
-
+  if (!lock) {
+    errno = lock.error();
+    return false;
+  }
   Dictionary dictionary;
   const std::optional<std::string> bytes = ReadWholeFile(*path, kMaxPropertyListBytes);
   if (!bytes && errno != ENOENT) return false;
@@ -106,11 +112,13 @@ bool ChangeSharedFile(std::string_view file_name, MissingFile missing,
   } else if (missing == MissingFile::kDoNothing) {
     return false;
   }
+  errno = 0;
   if (!change(dictionary)) return false;
   const std::optional<std::string> xml = SerializePropertyList(Value(std::move(dictionary)));
   if (!xml) return false;
   if (bytes && !is_usable) std::rename(path->c_str(), (*path + ".damaged").c_str());
-  return WriteFileAtomically(*path, *xml, kSharedFileMode) == 0;
+  errno = WriteFileAtomically(*path, *xml, kSharedFileMode);
+  return errno == 0;
 }
 
 std::optional<Dictionary> CopyUserPreferences(std::string_view file_name) {

@@ -31,7 +31,8 @@ enum class MissingFile { kStartEmpty, kDoNothing };
 /// piece; other writers are kept out meanwhile. `change` returns false to leave the file as it is.
 /// A missing file is treated as `missing` says. A damaged one is kept beside the new one, as
 /// FILE_NAME.damaged, when a new one is started, else left alone. Returns true when the file was
-/// written.
+/// written; else errno tells why, where the system did: EAGAIN when another program keeps the files
+/// locked for ten seconds.
 bool ChangeSharedFile(std::string_view file_name, MissingFile missing,
                       const std::function<bool(Dictionary&)>& change);
 

@@ -99,6 +99,18 @@ bool ChangeCollection(const char* collection, MissingFile missing,
   return collection != nullptr && ChangeSharedFile(collection, missing, change);
 }
 
+/// What a watermark is stored under.
+std::string NameIn(const Dictionary& entry, const _WatermarkData& watermark) {
+  return *DictionaryGetString(entry, watermark.isTextWatermark != 0 ? "textString" : "filename");
+}
+
+/// The list of names within the file, made when it is missing or no list.
+Array& ListIn(Dictionary& file) {
+  Value& list = file[kListKey];
+  if (list.AsArray() == nullptr) list = Value(Array());
+  return *list.AsArray();
+}
+
 /// Sets or, without a value, removes an entry other than the list of names.
 bool ChangeEntry(const char* collection, const std::optional<std::string>& name,
                  MissingFile missing, std::optional<Value> value) {
@@ -173,9 +185,50 @@ std::optional<Dictionary> WatermarkToDictionary(const _WatermarkData& wmData) {
 bool saveWatermarkData(const char* inCollection, const _WatermarkData& wmData) {
   std::optional<Dictionary> entry = WatermarkToDictionary(wmData);
   if (!entry) return false;
-  const std::string name =
-      *DictionaryGetString(*entry, wmData.isTextWatermark != 0 ? "textString" : "filename");
+  const std::string name = NameIn(*entry, wmData);
   return ChangeEntry(inCollection, name, MissingFile::kStartEmpty, Value(*std::move(entry)));
+}
+
+bool addWatermark(const char* collection, const _WatermarkData& watermark, const char* first) {
+  std::optional<Dictionary> entry = WatermarkToDictionary(watermark);
+  if (!entry) return false;
+  const std::string name = NameIn(*entry, watermark);
+  if (name == kListKey) return false;
+  return ChangeCollection(collection, MissingFile::kStartEmpty, [&](Dictionary& file) {
+    if (DictionaryGetData(file, name) != nullptr) return false;
+    file.insert_or_assign(name, Value(*std::move(entry)));
+    Array& list = ListIn(file);
+    if (list.empty()) list.emplace_back(first);
+    if (std::find(list.begin(), list.end(), Value(name)) == list.end()) list.emplace_back(name);
+    return true;
+  });
+}
+
+bool addWatermarkFont(const char* collection, const std::string& name, const Data& font,
+                      const char* first) {
+  const std::optional<std::string> key = MakeString(name);
+  if (!key || *key == kListKey) return false;
+  return ChangeCollection(collection, MissingFile::kStartEmpty, [&](Dictionary& file) {
+    Array& list = ListIn(file);
+    if (list.empty()) list.emplace_back(first);
+    if (file.contains(*key) && DictionaryGetData(file, *key) == nullptr) return false;
+    file.insert_or_assign(*key, Value(font));
+    return true;
+  });
+}
+
+bool dropWatermark(const char* collection, const std::string& name, _WatermarkData* removed) {
+  const std::optional<std::string> stored = MakeString(name);
+  *removed = _WatermarkData{};
+  if (!stored || *stored == kListKey) return false;
+  return ChangeCollection(collection, MissingFile::kDoNothing, [&](Dictionary& file) {
+    if (const Dictionary* entry = DictionaryGetDictionary(file, *stored)) {
+      WatermarkFromDictionary(*entry, removed);
+      file.erase(*stored);
+    }
+    std::erase(ListIn(file), Value(*stored));
+    return true;
+  });
 }
 
 bool removeWatermarkData(const char* inCollection, const std::string& inWatermarkName) {

@@ -66,6 +66,18 @@ int loadWatermarkData(const char* inCollection, const std::string* inWatermarkNa
 /// names. A watermark that is named like the list is not stored.
 bool saveWatermarkData(const char* inCollection, const _WatermarkData& wmData);
 
+/// Stores one watermark as saveWatermarkData does and puts its name at the end of the list, unless
+/// it is there, all in one change: no other program sees, or loses, one without the other. A list
+/// that is started begins with `first`. An entry that holds a font is not replaced.
+bool addWatermark(const char* collection, const _WatermarkData& watermark, const char* first);
+/// Stores a font as storeFontData does, in a file that is started as addWatermark does. An entry
+/// that is no font is not replaced.
+bool addWatermarkFont(const char* collection, const std::string& name, const Data& font,
+                      const char* first);
+/// Takes a name off the list, and removes the watermark that is stored under it, in one change.
+/// `removed` gets what was stored, or zeros.
+bool dropWatermark(const char* collection, const std::string& name, _WatermarkData* removed);
+
 /// The stored form of a watermark and back. The dictionary is missing when a text is not UTF-8;
 /// reading treats the record as loadWatermarkData does.
 std::optional<Dictionary> WatermarkToDictionary(const _WatermarkData& wmData);

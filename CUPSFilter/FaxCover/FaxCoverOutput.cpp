@@ -11,8 +11,6 @@
 #include <utility>
 
 #include "Platform/Log.h"
-#include "Platform/Process.h"
-#include "Platform/PropertyList.h"
 #include "Source/DrawHelper.h"
 #include "Source/FaxCover.h"
 
@@ -39,16 +37,10 @@ bool CopyStream(FILE* input, FILE* output, std::size_t max_bytes) {
 
 /// Lets the helper draw the cover into the file. False, with one log line written, on failure.
 bool DrawPdf(const FaxCover& cover, SpoolFile& pdf) {
-  const std::optional<std::string> description = SerializePropertyList(FaxCoverToDictionary(cover));
-  if (!description) {
-    LogLeftOut("the watermark holds characters that no text may hold; type its text again");
-    return false;
-  }
-  const UniqueFd input = OpenMemoryFile(*description);
-  std::optional<Process> helper = input ? StartDrawHelper({"faxcover"}, input.get()) : std::nullopt;
+  std::string problem;
+  std::optional<FaxCoverDrawing> helper = FaxCoverDrawing::Start(cover, &problem);
   if (!helper) {
-    LogLeftOut(DrawHelperPath() + " cannot be started: " + std::strerror(errno) +
-               "; install the package zarvo again");
+    LogLeftOut(problem);
     return false;
   }
   FILE* drawn = helper->output();

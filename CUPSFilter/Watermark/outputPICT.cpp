@@ -1,12 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CUPSFilter/Watermark/outputPICT.h"
 
-#include <sys/wait.h>
-
 #include <algorithm>
 #include <array>
-#include <cerrno>
-#include <csignal>
 #include <cstring>
 #include <string>
 #include <vector>
@@ -72,22 +68,6 @@ bool sendImageData(FILE* pixels, const Rectangle& rectangle, FILE* ofp) {
   return complete;
 }
 
-void LogImageFailure(const char* path, const std::string& reason) {
-  LogLine("INFO: Unable to use watermark image \"%s\" - %s; save it anew as PNG or JPEG", path,
-          reason.c_str());
-}
-
-/// Logs why the helper gave less than an image, unless it has done so itself.
-void LogHelperFailure(const char* path, Process& helper) {
-  const int status = helper.Wait();
-  if (WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL)
-    LogImageFailure(path, "decoding it took too long or too much memory");
-  else if (WIFSIGNALED(status))
-    LogImageFailure(path, std::string("decoding it failed: ") + strsignal(WTERMSIG(status)));
-  else if (WEXITSTATUS(status) != 1)
-    LogImageFailure(path, "the decoder gave no image");
-}
-
 }  // namespace
 
 void convertByteToHex(std::uint8_t byte, char* digits) {
@@ -124,19 +104,15 @@ void outputImageWatermark(const _WatermarkData* wmData, FILE* ofp) {
         "INFO: the watermark has neither text nor an image; choose it anew in the print dialog");
     return;
   }
-  std::optional<Process> helper = StartDrawHelper({"image", path});
-  if (!helper) {
-    LogLine("INFO: Unable to start %s - %s; reinstall the printer driver to print image watermarks",
-            DrawHelperPath().c_str(), std::strerror(errno));
-    return;
-  }
+  std::optional<Process> helper = StartImageDecoder(path, "ppm");
+  if (!helper) return;
   FILE* pixels = helper->output();
   switch (pixels != nullptr ? WritePpmImage(pixels, ofp) : ImageResult::kNoImage) {
     case ImageResult::kWritten:
       break;
     case ImageResult::kNoImage:
     case ImageResult::kIncomplete:
-      LogHelperFailure(path, *helper);
+      LogDecoderFailure(path, *helper);
       break;
     case ImageResult::kTooLarge:
       LogImageFailure(path, "it has more than " + std::to_string(kMaxColumns) + " by " +

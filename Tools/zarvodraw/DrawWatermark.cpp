@@ -9,9 +9,7 @@
 #include <numbers>
 #include <string>
 
-#include "Platform/Log.h"
 #include "Tools/zarvodraw/DrawableText.h"
-#include "Tools/zarvodraw/ImageFile.h"
 
 namespace zarvo {
 namespace {
@@ -68,63 +66,28 @@ void DrawText(cairo_t* context, const cairo_rectangle_t& area, const _WatermarkD
   pango_cairo_show_layout_line(context, pango_layout_get_line_readonly(layout.get(), 0));
 }
 
-using Surface = std::unique_ptr<cairo_surface_t, decltype(&cairo_surface_destroy)>;
-
-/// The image with its transparency; in an error state when memory is short.
-Surface MakeSurface(const GdkPixbuf* image) {
-  const int width = gdk_pixbuf_get_width(image);
-  const int height = gdk_pixbuf_get_height(image);
-  const bool has_alpha = gdk_pixbuf_get_has_alpha(image);
-  const int channels = gdk_pixbuf_get_n_channels(image);
-  const auto stride = static_cast<std::size_t>(gdk_pixbuf_get_rowstride(image));
-  Surface surface(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, height),
-                  &cairo_surface_destroy);
-  if (cairo_surface_status(surface.get()) != CAIRO_STATUS_SUCCESS) return surface;
-  unsigned char* to = cairo_image_surface_get_data(surface.get());
-  const auto to_stride = static_cast<std::size_t>(cairo_image_surface_get_stride(surface.get()));
-  const guchar* from = gdk_pixbuf_read_pixels(image);
-  for (int y = 0; y < height; ++y, from += stride, to += to_stride) {
-    auto* pixel = reinterpret_cast<std::uint32_t*>(to);
-    for (const guchar* source = from; source != from + width * channels; source += channels) {
-      const std::uint32_t alpha = has_alpha ? source[3] : 255;
-      const auto premultiplied = [alpha](guchar value) { return (value * alpha + 127) / 255; };
-      *pixel++ = alpha << 24 | premultiplied(source[0]) << 16 | premultiplied(source[1]) << 8 |
-                 premultiplied(source[2]);
-    }
-  }
-  cairo_surface_mark_dirty(surface.get());
-  return surface;
-}
-
-void DrawImage(cairo_t* context, const cairo_rectangle_t& area, const _WatermarkData& watermark) {
-  std::string error;
-  const Image image = DecodeImage(watermark.filePath, &error);
-  if (!image) {
-    LogLine("INFO: Unable to use watermark image \"%s\" - %s; save it anew as PNG or JPEG",
-            watermark.filePath, error.c_str());
-    return;
-  }
-  const Surface surface = MakeSurface(image.get());
+void DrawImage(cairo_t* context, const cairo_rectangle_t& area, const _WatermarkData& watermark,
+               cairo_surface_t* image) {
   cairo_translate(context, area.x + area.width / 2, area.y + area.height / 2);
   cairo_scale(context, watermark.scale / 100.0, watermark.scale / 100.0);
-  cairo_set_source_surface(context, surface.get(), -gdk_pixbuf_get_width(image.get()) / 2.0,
-                           -gdk_pixbuf_get_height(image.get()) / 2.0);
+  cairo_set_source_surface(context, image, -cairo_image_surface_get_width(image) / 2.0,
+                           -cairo_image_surface_get_height(image) / 2.0);
   cairo_paint(context);
 }
 
 }  // namespace
 
-void DrawWatermark(cairo_t* context, const cairo_rectangle_t& area,
-                   const _WatermarkData& watermark) {
-  const auto draw = [&](auto function) {
+void DrawWatermark(cairo_t* context, const cairo_rectangle_t& area, const _WatermarkData& watermark,
+                   cairo_surface_t* image) {
+  const auto draw = [&](auto function, auto... more) {
     cairo_save(context);
     cairo_rectangle(context, area.x, area.y, area.width, area.height);
     cairo_clip(context);
-    function(context, area, watermark);
+    function(context, area, watermark, more...);
     cairo_restore(context);
   };
   // A size of nothing would put the context into an error state, and the whole page with it.
-  if (watermark.filename[0] != '\0' && watermark.scale > 0) draw(&DrawImage);
+  if (image != nullptr && watermark.scale > 0) draw(&DrawImage, image);
   if (watermark.textString[0] != '\0' && watermark.fontSize > 0) draw(&DrawText);
 }
 

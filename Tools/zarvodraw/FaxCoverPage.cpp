@@ -95,19 +95,19 @@ cairo_status_t WriteToStream(void* stream, const unsigned char* data, unsigned l
 }
 
 void DrawWatermarkLayer(cairo_t* context, const cairo_rectangle_t& media_box,
-                        const _WatermarkData& watermark) {
+                        const _WatermarkData& watermark, cairo_surface_t* image) {
   const double alpha = std::clamp(watermark.density / 100.0, 0.0, 1.0);
   // An invisible layer would still make converters turn the whole page into one big picture.
-  if (alpha == 0 || (watermark.textString[0] == '\0' && watermark.filename[0] == '\0')) return;
+  if (alpha == 0 || (watermark.textString[0] == '\0' && image == nullptr)) return;
   cairo_push_group(context);
-  DrawWatermark(context, media_box, watermark);
+  DrawWatermark(context, media_box, watermark, image);
   cairo_pop_group_to_source(context);
   cairo_paint_with_alpha(context, alpha);
 }
 
 }  // namespace
 
-cairo_status_t DrawFaxCover(std::FILE* consumer, const FaxCover& cover) {
+cairo_status_t DrawFaxCover(std::FILE* consumer, const FaxCover& cover, cairo_surface_t* image) {
   const cairo_rectangle_t media_box{0, 0, cover.width, cover.height};
   const cairo_rectangle_t draw_box{kInset, kInset, cover.width - 2 * kInset,
                                    cover.height - 2 * kInset};
@@ -134,7 +134,7 @@ cairo_status_t DrawFaxCover(std::FILE* consumer, const FaxCover& cover) {
     DrawFaxCoverNotes(context.get(), draw_box, pen_x, pen_y, cover.notes);
   cairo_restore(context.get());
 
-  DrawWatermarkLayer(context.get(), media_box, cover.watermark);
+  DrawWatermarkLayer(context.get(), media_box, cover.watermark, image);
   cairo_show_page(context.get());
   cairo_surface_finish(surface.get());
   const cairo_status_t status = cairo_status(context.get());

@@ -18,9 +18,11 @@ using Fixed = std::int32_t;
 constexpr Fixed kFixedOne = 1 << 16;
 
 /// Draws one page onto `consumer` as a PDF document: sender, recipients and notes from the top
-/// down, above them the watermark at its density. What does not fit on the page is left out.
-/// Returns the last status of the drawing library; the stream's own errors are in its ferror().
-cairo_status_t DrawFaxCover(std::FILE* consumer, const FaxCover& cover);
+/// down, above them the watermark at its density, its image in `image` (null for none). What does
+/// not fit on the page is left out. Returns the last status of the drawing library; the stream's
+/// own errors are in its ferror().
+cairo_status_t DrawFaxCover(std::FILE* consumer, const FaxCover& cover,
+                            cairo_surface_t* image = nullptr);
 
 // The pen and the draw box are in points from the sheet's lower left corner, which has to be the
 // context's origin; the context itself counts downwards, as the drawing library does.

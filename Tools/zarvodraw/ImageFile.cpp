@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Tools/zarvodraw/ImageFile.h"
 
+#include <unistd.h>
+
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
@@ -42,6 +44,16 @@ constexpr Format kFormats[] = {
     {"GIF89a", "gif", nullptr},
     {"BM", "bmp", nullptr},
 };
+
+constexpr std::size_t kLongestSignature = 8;
+
+/// Null when the file is none of them.
+const Format* FindFormat(std::string_view file) {
+  const auto* format =
+      std::find_if(std::begin(kFormats), std::end(kFormats),
+                   [&](const Format& row) { return file.starts_with(row.signature); });
+  return format != std::end(kFormats) ? format : nullptr;
+}
 
 bool TooLarge(int width, int height) { return std::int64_t{width} * height > kMaxImagePixels; }
 
@@ -110,24 +122,30 @@ class Decoder {
 
 }  // namespace
 
-Image DecodeImage(const char* path, std::string* error) {
-  const std::optional<std::string> file = ReadWholeFile(path, kMaxFileBytes);
-  if (!file) {
+void PrepareDecoder(int file) {
+  char head[kLongestSignature];
+  const ssize_t length = ::pread(file, head, sizeof head, 0);
+  const Format* format =
+      length > 0 ? FindFormat({head, static_cast<std::size_t>(length)}) : nullptr;
+  if (format != nullptr) Decoder decoder(format->loader);
+}
+
+Image DecodeImage(int file, std::string* error) {
+  const std::optional<std::string> content = ReadWholeFile(file, kMaxFileBytes);
+  if (!content) {
     *error = errno == EINVAL ? "it is not a regular file" : std::strerror(errno);
     return nullptr;
   }
-  const auto* format =
-      std::find_if(std::begin(kFormats), std::end(kFormats),
-                   [&](const Format& row) { return file->starts_with(row.signature); });
-  if (format == std::end(kFormats)) {
+  const Format* format = FindFormat(*content);
+  if (format == nullptr) {
     *error = "it is not a PNG, JPEG, TIFF, GIF or BMP image";
     return nullptr;
   }
-  if (format->is_whole != nullptr && !format->is_whole(*file)) {
+  if (format->is_whole != nullptr && !format->is_whole(*content)) {
     *error = "its end is missing";
     return nullptr;
   }
-  return Decoder(format->loader).Run(*file, error);
+  return Decoder(format->loader).Run(*content, error);
 }
 
 }  // namespace zarvo

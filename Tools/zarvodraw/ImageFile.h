@@ -18,9 +18,13 @@ struct PixbufDeleter {
 };
 using Image = std::unique_ptr<GdkPixbuf, PixbufDeleter>;
 
-/// The first picture of a PNG, JPEG, TIFF, GIF or BMP file, 8 bits per component, with or without
-/// an alpha channel that is not premultiplied. The kind is told by the content, not by the name.
-/// Null, and the reason in `error`, when the file cannot be read whole and without errors.
-Image DecodeImage(const char* path, std::string* error);
+/// Loads the program that decodes the kind of image in the open file, for those who cannot load it
+/// later. Looks at the file's first bytes only.
+void PrepareDecoder(int file);
+
+/// The first picture of an open PNG, JPEG, TIFF, GIF or BMP file, 8 bits per component, with or
+/// without an alpha channel that is not premultiplied. The kind is told by the content, not by the
+/// name. Null, and the reason in `error`, when the file cannot be read whole and without errors.
+Image DecodeImage(int file, std::string* error);
 
 }  // namespace zarvo

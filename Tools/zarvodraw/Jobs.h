@@ -9,12 +9,19 @@ constexpr int kJobDone = 0;
 constexpr int kJobFailed = 1;  // and logged: the caller need not log it again
 constexpr int kBadUsage = 2;
 
-/// image FILE: decodes a PNG, JPEG, TIFF, GIF or BMP image and writes it as a binary PPM of 8 bits
-/// per component, transparent parts over white.
+/// image FORM NAME: decodes the PNG, JPEG, TIFF, GIF or BMP image on standard input. FORM "ppm"
+/// writes it as a binary PPM, transparent parts over white, "pam" as a PAM with its transparency;
+/// both have 8 bits per component. NAME is what log lines call it.
 int RunImageJob(char** arguments);
 
 /// faxcover: reads the description of a fax cover sheet, a property list, from standard input and
-/// writes the sheet as a PDF document of one page.
+/// writes the sheet as a PDF document of one page. A watermark's image is read as a PAM from
+/// kDataFd.
 int RunFaxCoverJob(char** arguments);
+
+/// check TASK: locks itself in as for decoding an "image" or drawing a "page", tries what is
+/// forbidden then, and writes a line for each layer ("on" or "off") and each attempt ("refused" or
+/// "possible").
+int RunCheckJob(char** arguments);
 
 }  // namespace zarvo

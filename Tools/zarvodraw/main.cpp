@@ -5,6 +5,7 @@
 #include <cstring>
 
 #include "Platform/Log.h"
+#include "Tools/zarvodraw/Confinement.h"
 #include "Tools/zarvodraw/Jobs.h"
 
 namespace {
@@ -16,8 +17,9 @@ struct Job {
 };
 
 constexpr Job kJobs[] = {
-    {"image", 1, &zarvo::RunImageJob},
+    {"image", 2, &zarvo::RunImageJob},
     {"faxcover", 0, &zarvo::RunFaxCoverJob},
+    {"check", 1, &zarvo::RunCheckJob},
 };
 
 /// What the drawing libraries have to say goes to the spooler's log like everything else.
@@ -31,6 +33,7 @@ GLogWriterOutput LogFromLibrary(GLogLevelFlags, const GLogField* fields, gsize c
 }  // namespace
 
 int main(int argc, char** argv) {
+  zarvo::LeaveRoot();
   g_log_set_writer_func(&LogFromLibrary, nullptr, nullptr);
   for (const Job& job : kJobs)
     if (argc == job.arguments + 2 && std::strcmp(argv[1], job.name) == 0) return job.run(argv + 2);

@@ -73,7 +73,8 @@ def pictures(data):
 
 
 def read_png(path):
-    return pictures(run([BIN / "zarvodraw", "image", path]))[0]
+    with open(path, "rb") as file:
+        return pictures(run([BIN / "zarvodraw", "image", "ppm", path], stdin=file))[0]
 
 
 def draw(job, *options, dpi=72):
@@ -88,8 +89,9 @@ def ghostscript(device, document, *options):
                 f"-sDEVICE={device}", *options, "-"], document)  # fmt: skip
 
 
-def run(command, data=None, **environment):
-    done = subprocess.run(list(map(str, command)), input=data, capture_output=True, timeout=120,
+def run(command, data=None, stdin=None, **environment):
+    done = subprocess.run(list(map(str, command)), capture_output=True, timeout=120,
+                          **({"stdin": stdin} if stdin else {"input": data}),
                           env=os.environ | environment)  # fmt: skip
     if done.returncode != 0:
         raise RuntimeError(f"{command}: {done.stderr[-2000:]} {done.stdout[-2000:]}")

@@ -42,7 +42,7 @@ FEATURES = {
 }
 
 NEVER_STARTED = 127  # the system's program loader gave up
-OTHERS_SAY = "error while loading shared libraries|^Fontconfig (error|warning)"
+OTHERS_SAY = "error while loading shared libraries|^Error in GnuTLS|^Fontconfig (error|warning)"
 
 injected = 0
 

@@ -34,12 +34,8 @@ int Preview(const Options& options) {
   ticket->emplace(key::kFaxRecipientList, Array());
   const std::optional<FaxCover> cover = FaxCoverFromTicket(*ticket);
   if (!cover) return Fail(options.settings, "asks for no cover sheet");
-  const auto description = SerializePropertyList(FaxCoverToDictionary(*cover));
-  if (!description) return Fail(options.settings, "holds characters that no text may hold");
-  const UniqueFd input = OpenMemoryFile(*description);
-  std::optional<Process> helper = StartDrawHelper({"faxcover"}, input.get());
-  if (!helper)
-    return Fail(DrawHelperPath(), std::strerror(errno), "Install the package zarvo-filter again");
+  std::optional<FaxCoverDrawing> helper = FaxCoverDrawing::Start(*cover, &error);
+  if (!helper) return Fail("cover sheet", error);
   std::string pdf;
   char block[65536];
   while (const std::size_t got = std::fread(block, 1, sizeof block, helper->output()))

@@ -6,6 +6,7 @@
 #include <set>
 
 #include "Platform/AddressBook.h"
+#include "Platform/AtomicFile.h"
 #include "Platform/Log.h"
 #include "Platform/Text.h"
 #include "Source/CFAdditions.h"
@@ -168,6 +169,10 @@ int Edit(const Options& options) {
 }
 
 int Remove(const Options& options) {
+  const FolderLock lock(AddressBookFolder());  // groups are read, changed and written
+  if (!lock && lock.error() == EAGAIN)
+    return Fail(AddressBookFolder(), "another program has been changing it for ten seconds",
+                "Try again when that has ended");
   std::vector<AddressBookRecord> records = AddressBookRecords();
   for (const std::string& who : options.who) {
     const AddressBookRecord* record = TheOne(records, who);

@@ -67,6 +67,9 @@ std::string StorePath(const Options& options) {
 }
 
 int CannotWrite(const Options& options) {
+  if (errno == EAGAIN)
+    return Fail(StorePath(options), "another program has been changing it for ten seconds",
+                "Try again when that has ended");
   return Fail(StorePath(options), "the store cannot be written",
               "Run the command as root, for example with sudo");
 }
@@ -78,15 +81,6 @@ std::vector<std::string> Names(const Options& options) {
   for (const Value& entry : list)
     names.push_back(entry.AsString() != nullptr ? *entry.AsString() : "");
   return names;
-}
-
-/// Puts the name at the end of the list, unless it is there.
-bool AddToList(const Options& options, const std::string& name) {
-  std::vector<std::string> names = Names(options);
-  if (names.empty()) names.emplace_back(kFirstEntry);
-  if (std::find(names.begin(), names.end(), name) == names.end()) names.push_back(name);
-  const Array list(names.begin(), names.end());
-  return saveWatermarkList(options.collection(), &list);
 }
 
 std::string Describe(const _WatermarkData& data) {
@@ -165,8 +159,7 @@ int Store(const Options& options, const _WatermarkData& data, const std::string&
   Data font;
   loadFontData(options.collection(), name, &font);
   if (!font.empty()) return Fail(name, "names a font of the store", "Take another name");
-  if (!saveWatermarkData(options.collection(), data) || !AddToList(options, name))
-    return CannotWrite(options);
+  if (!addWatermark(options.collection(), data, kFirstEntry)) return CannotWrite(options);
   return kExitOk;
 }
 
@@ -209,7 +202,8 @@ int AddImage(const Options& options) {
   const std::string name = options.name.empty() ? source.filename().string() : options.name;
   if (!MayBeNamed(options, name)) return kExitFailure;
   ChildRun decoding;
-  decoding.arguments = {DrawHelperPath(), "image", source};
+  decoding.arguments = {DrawHelperPath(), "image", "ppm", source};
+  decoding.input = source;
   decoding.output = "/dev/null";
   std::string log;
   if (!RunChild(decoding, &log)) {
@@ -247,17 +241,12 @@ bool Load(const Options& options, _WatermarkData* data) {
 
 int Remove(const Options& options) {
   _WatermarkData data{};
-  std::vector<std::string> names = Names(options);
+  const std::vector<std::string> names = Names(options);
   if (!MayBeNamed(options, options.name)) return kExitFailure;
   // A name whose entry is gone can still be taken off the list.
   if (std::find(names.begin(), names.end(), options.name) == names.end() && !Load(options, &data))
     return kExitFailure;
-  const bool stored = loadWatermarkData(options.collection(), &options.name, &data) == 1;
-  std::erase(names, options.name);
-  const Array list(names.begin(), names.end());
-  if ((stored && !removeWatermarkData(options.collection(), options.name)) ||
-      !saveWatermarkList(options.collection(), &list))
-    return CannotWrite(options);
+  if (!dropWatermark(options.collection(), options.name, &data)) return CannotWrite(options);
   const fs::path image = data.filePath;
   std::error_code error;
   if (data.filePath[0] != '\0' && image.parent_path() == fs::path(StorePath(options)).parent_path())
@@ -277,9 +266,8 @@ int Font(const Options& options) {
   if (!MayBeNamed(options, name)) return kExitFailure;
   if (loadWatermarkData(options.collection(), &name, &data) == 1)
     return Fail(name, "names a watermark", "Give another --name");
-  // The store takes fonts only once it is there.
-  if (Names(options).empty() && !AddToList(options, kFirstEntry)) return CannotWrite(options);
-  if (!storeFontData(options.collection(), name, *font)) return CannotWrite(options);
+  if (!addWatermarkFont(options.collection(), name, *font, kFirstEntry))
+    return CannotWrite(options);
   std::printf("%s\n", PrintableText(name).c_str());
   return kExitOk;
 }
