@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Tools/zarvo/Terminal.h"
 
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
@@ -34,6 +35,13 @@ Progress::~Progress() {
 void Progress::Stage(std::string what) {
   const std::lock_guard lock(mutex_);
   what_ = std::move(what);
+  done_ = total_ = 0;
+}
+
+void Progress::Count(std::uint64_t done, std::uint64_t total) {
+  const std::lock_guard lock(mutex_);
+  done_ = done;
+  total_ = std::max(done, total);
 }
 
 void Progress::Show(const std::stop_token& stop) {
@@ -43,7 +51,9 @@ void Progress::Show(const std::stop_token& stop) {
   while (!changed_.wait_for(lock, stop, 1s, [&stop] { return stop.stop_requested(); })) {
     const auto seconds =
         std::chrono::duration_cast<std::chrono::seconds>(std::chrono::steady_clock::now() - start);
-    std::fprintf(stderr, "\r\033[K%s ... %ld s", what_.c_str(), static_cast<long>(seconds.count()));
+    std::string line = what_;
+    if (done_ > 0) line += ", page " + std::to_string(done_) + " of " + std::to_string(total_);
+    std::fprintf(stderr, "\r\033[K%s ... %ld s", line.c_str(), static_cast<long>(seconds.count()));
     shown_ = true;
   }
 }

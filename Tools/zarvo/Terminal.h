@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <condition_variable>
+#include <cstdint>
 #include <mutex>
 #include <string>
 #include <thread>
@@ -35,12 +36,17 @@ class Progress {
   /// What is being done from now on.
   void Stage(std::string what);
 
+  /// How much of it has been done, in pages; `total` is 0 when nobody knows.
+  void Count(std::uint64_t done, std::uint64_t total);
+
  private:
   void Show(const std::stop_token& stop);
 
   std::mutex mutex_;
   std::condition_variable_any changed_;
   std::string what_;
+  std::uint64_t done_ = 0;
+  std::uint64_t total_ = 0;
   bool shown_ = false;
   std::jthread thread_;  // none when nobody watches
 };

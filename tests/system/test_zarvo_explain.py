@@ -60,6 +60,13 @@ class Explain(ZarvoTest):
             "the XML ticket does not end": good.replace(b"</jtml>", b"</jtlm>"),
             "unknown code OID_VAL_JOB_TYPE_HOLD": good.replace(b"TYPE_SECURE_PRINT", b"TYPE_HOLD"),
             "unknown setting JOB_PASSWROD": good.replace(b"PASSWORD", b"PASSWROD"),
+            "2 job envelopes": good.replace(b"showpage\n%%Page", b"showpage\n\x1b%-12345X@PJL JOB\n"
+                                            b"@PJL ENTER LANGUAGE = POSTSCRIPT\n%%Page"),
+            "PostScript job 1 of 2: the printer stops before the first page: Error: /typecheck":
+                good.replace(b"moveto", b"\x1b%-12345Xfalse (a) add moveto", 1)
+                .replace(b"/Helvetica", b"false (a) add /Helvetica", 1),
+            "no page is printed": good.replace(b"showpage", b"% no page"),
+            "not laid out as a booklet": good.replace(b">20<", b">110<"),
             "no PJL envelope": document(1).encode(),
             "no PostScript document": b"",
             "finishing: unknown code 77": good.replace(b">20<", b">77<"),

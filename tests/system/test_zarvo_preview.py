@@ -40,17 +40,35 @@ class Preview(ZarvoTest):
         plan = self.run_zarvo("preview", self.path("eight.ps", marked(8)), "-s", settings, "-p", str(PPD),
                               "--output", "sheet.png", "--resolution", "72")
         self.assertEqual(plan.splitlines()[0],
-                         "sheet.png: 4 sheet sides on 2 sheets, booklet, A4, 210 x 297 mm")
-        # The outer sheet: 8 and 1 on its front, 2 and 7 on its back; the first page is the lower
-        # one, because pages are turned clockwise.
+                         "sheet-1.png to sheet-4.png: 4 sheet sides on 2 sheets, booklet, A4, "
+                         "210 x 297 mm")
+        # The outer sheet, upright: 8 and 1 on its front, 2 and 7 on its back.
         bars = []
         for side in range(1, 5):
             sheet = read_png(self.scratch / f"sheet-{side}.png")
-            self.assertEqual((sheet.width, sheet.height), (595, 842))
-            for half in ((0, 0, 1, 0.5), (0, 0.5, 1, 1)):
+            self.assertEqual((sheet.width, sheet.height), (842, 595))
+            for half in ((0, 0, 0.5, 1), (0.5, 0, 1, 1)):
                 bars.append(sheet.count("blue", *half))
                 self.assertGreater(sheet.count("red", *half), 500)
         self.assertEqual([round(bar / bars[1]) for bar in bars], [8, 1, 2, 7, 6, 3, 4, 5])
+
+    def test_what_explain_finds_wrong(self):
+        """A page that paints its own ground hides the mark behind it; what a person is to know
+        about the rest stands in the margin of the first page."""
+        self.run_zarvo("watermark", "add-text", "DRAFT", "--color", "#cc0000")
+        ground = document(3, (595, 842)).replace("/Helvetica", "1 setgray clippath fill 0 setgray /Helvetica", 1)
+        hooked = pathlib.Path(self.path("hooks.ppd", PPD.read_text() + '*ZRVPageHooks: True\n'))
+        settings = self.path("s.json", {
+            "watermark.Watermark": "DRAFT", "watermark.Option": "background",
+            "JTMLOptions": {"JTMLOptionAll": True}, "FinishingOptions": 4, "FinishingStaple1Value": 5,
+            "PageSize": "A4"})
+        plan = self.run_zarvo("preview", self.path("j.ps", ground), "-s", settings, "-p", str(hooked),
+                              "--output", "p.png", "--resolution", "36", status=1)
+        self.assertIn("cannot be seen on page 1,", self.errors)
+        self.assertIn('watermark "DRAFT", behind the page\n  stapled top left', plan)
+        pages = [read_png(self.scratch / f"p-{page}.png") for page in (1, 2, 3)]
+        self.assertEqual([page.count("red") > 50 for page in pages], [False, True, True])
+        self.assertEqual([page.height > 421 for page in pages], [True, False, False])
 
     def test_covers_and_inserts_are_named_in_their_place(self):
         settings = self.path("s.json", {
@@ -82,12 +100,15 @@ class Preview(ZarvoTest):
         opener = pathlib.Path(self.path("xdg-open", '#!/bin/sh\ncp "$1" shown.pdf\n'))
         opener.chmod(0o755)
         self.environment["PATH"] += f":{self.scratch}"
+        self.run_zarvo("preview", "-", "--open", stdin=out.stdout, status=2)
+        self.assertIn("no display", self.errors)
+        self.environment["DISPLAY"] = ":0"
         self.run_zarvo("preview", "-", "--open", stdin=out.stdout)
         self.assertEqual(len(page_text(self.scratch / "shown.pdf")), 2)
         self.run_zarvo("preview", "in.pdf", "--open", "--output", "-", status=2)
         endless = self.path("endless.ps", "%!PS-Adobe-3.0\n%%Page: 1 1\n{} loop\n%%EOF\n")
         drawing = subprocess.Popen([BIN / "zarvo", "preview", endless], env=self.environment)
-        while not list(self.scratch.glob("zarvo-*/job.ps")):
+        while not list(self.scratch.glob("zarvo-*/piece-*.pdf")):
             time.sleep(0.05)
         drawing.send_signal(signal.SIGINT)
         self.assertEqual(drawing.wait(30), -signal.SIGINT)
@@ -102,6 +123,8 @@ class Preview(ZarvoTest):
             (good, ["-p", self.path("bad.ppd", "no PPD")], "bad.ppd"),
             (good, ["-s", self.path("bad.json", '{"a b": {"c": 1}}')], "a b"),
             (good, ["--output", "/missing/x.pdf"], "/missing"),
+            (good, ["--output", "x.jpg"], "neither in .pdf nor in .png"),
+            ("PK\3\4mimetypeapplication/vnd.oasis.opendocument.text", [], "libreoffice-writer-nogui"),
         ):
             with self.subTest(cause):
                 self.run_zarvo("preview", self.path("job", content), *options, status=2)

@@ -9,46 +9,22 @@
 #include "Platform/Log.h"
 #include "Tools/zarvo/Command.h"
 #include "Tools/zarvo/Terminal.h"
-#include "Tools/zarvo/job/JobFile.h"
-#include "Tools/zarvo/job/Words.h"
+#include "Tools/zarvo/job/Findings.h"
+#include "Tools/zarvo/system/Run.h"
 
 namespace zarvo::tool {
 namespace {
 
 using nlohmann::ordered_json;
 
+// A job that takes longer to draw is told as far as that.
+constexpr std::chrono::milliseconds kLongestLook = std::chrono::minutes(2);
+
 struct Options {
   std::string file = "-";
   bool json = false;
+  bool quick = false;
 };
-
-struct StreamCloser {
-  void operator()(std::FILE* stream) const { std::fclose(stream); }
-};
-
-/// Everything there is to say about one job.
-struct Report {
-  JobFile job;
-  Explanation ticket;
-  Explanation header;
-  std::vector<std::string> findings;
-};
-
-void CheckFrame(Report* report) {
-  const JobFile& job = report->job;
-  const PostScriptFacts& postscript = job.postscript;
-  const auto wrong = [report](const char* text) { report->findings.emplace_back(text); };
-  if (job.ticket_cut) wrong("the XML ticket does not end");
-  if (job.pjl_cut) wrong("more PJL lines than any job needs");
-  if (job.stray_lines > 0) wrong("the job header holds a line that is no PJL");
-  if (job.pjl.empty()) wrong("no PJL envelope: the printer takes it for plain PostScript");
-  if (job.envelopes > job.ends) wrong("the end of the job (PJL EOJ) is missing");
-  if (job.envelopes > 1) wrong("more than one job envelope");
-  if (postscript.documents == 0) wrong("no PostScript document");
-  if (postscript.documents > 0 && !postscript.ended) wrong("the PostScript does not end (%%EOF)");
-  if (postscript.documents > 0 && postscript.pages == 0)
-    wrong("no page comments: pages cannot be counted, and nothing can be drawn on them");
-}
 
 std::vector<std::string> SizeList(const PostScriptFacts& facts) {
   std::vector<std::string> list;
@@ -58,17 +34,27 @@ std::vector<std::string> SizeList(const PostScriptFacts& facts) {
 }
 
 /// The facts of the document itself, in the form of the others.
-std::vector<Statement> DocumentStatements(const PostScriptFacts& facts) {
+std::vector<Statement> DocumentStatements(const JobReport& report) {
+  const PostScriptFacts& facts = report.job.postscript;
   std::vector<Statement> statements;
   const auto say = [&](const char* name, std::string value) {
-    statements.push_back({name, std::move(value), "", 0});
+    if (!value.empty()) statements.push_back({name, std::move(value), "", 0});
   };
-  say(facts.booklet ? "sheet sides" : "pages", std::to_string(facts.pages));
+  say("title", facts.title);
+  say("owner", facts.owner);
+  const std::uint64_t drawn = DrawnPages(report);
+  std::string pages = std::to_string(drawn);
+  if (drawn != facts.pages && facts.pages > 0)
+    pages += " (its comments tell of " + std::to_string(facts.pages) + ")";
+  say(facts.booklet ? "sheet sides" : "pages", pages);
   if (facts.booklet) say("layout", "booklet, two pages on each sheet side");
+  if (facts.copies > 0) say("copies", std::to_string(facts.copies));
   for (const std::string& size : SizeList(facts)) say("page size", size);
   if (facts.documents > 1) say("documents", std::to_string(facts.documents));
-  if (facts.text_overlay) say("watermark", "text that the page shows through");
-  if (facts.image_watermark) say("watermark", "image");
+  if (report.job.jobs.size() > 1) say("PostScript jobs", std::to_string(report.job.jobs.size()));
+  for (const std::string& mark : MarkWords(facts)) say("watermark", mark);
+  if (facts.negative) say("negative", "yes");
+  if (facts.mirrored) say("mirrored", "yes");
   say("size", std::to_string(facts.bytes) + " bytes");
   return statements;
 }
@@ -80,19 +66,19 @@ void PrintStatements(const char* title, const std::vector<Statement>& statements
   for (const Statement& statement : statements) {
     std::string line(2 + 2 * static_cast<std::size_t>(statement.level), ' ');
     line += statement.name;
-    if (!statement.value.empty()) line += ": " + statement.value;
+    if (!statement.Words().empty()) line += ": " + statement.Words();
     std::printf("%s\n", PrintableText(line).c_str());
   }
 }
 
-void PrintReport(const Report& report) {
+void PrintReport(const JobReport& report, const std::vector<std::string>& findings) {
   const Palette palette(ColorWanted(STDOUT_FILENO));
   PrintStatements("Job header", report.header.statements, palette);
   PrintStatements("XML ticket", report.ticket.statements, palette);
-  PrintStatements("Document", DocumentStatements(report.job.postscript), palette);
-  if (report.findings.empty()) return;
+  PrintStatements("Document", DocumentStatements(report), palette);
+  if (findings.empty()) return;
   std::printf("%sWhat looks wrong%s\n", palette.bold, palette.plain);
-  for (const std::string& finding : report.findings)
+  for (const std::string& finding : findings)
     std::printf("  %s%s%s\n", palette.bad, PrintableText(finding).c_str(), palette.plain);
 }
 
@@ -101,56 +87,88 @@ ordered_json ToJson(const std::vector<Statement>& statements) {
   for (const Statement& statement : statements) {
     list.push_back({{"name", statement.name},
                     {"value", statement.value},
+                    {"words", statement.Words()},
                     {"code", statement.code},
                     {"level", statement.level}});
   }
   return list;
 }
 
-void PrintJson(const Report& report) {
+void PrintJson(const JobReport& report, const std::vector<std::string>& findings) {
   const PostScriptFacts& facts = report.job.postscript;
   const ordered_json json = {{"header", ToJson(report.header.statements)},
                              {"ticket", ToJson(report.ticket.statements)},
                              {"document",
-                              {{"pages", facts.pages},
+                              {{"title", facts.title},
+                               {"owner", facts.owner},
+                               {"pages", DrawnPages(report)},
+                               {"page_comments", facts.pages},
                                {"booklet", facts.booklet},
+                               {"copies", facts.copies},
                                {"documents", facts.documents},
+                               {"postscript_jobs", report.job.jobs.size()},
                                {"bytes", facts.bytes},
                                {"page_sizes", SizeList(facts)},
-                               {"text_overlay", facts.text_overlay},
-                               {"image_watermark", facts.image_watermark}}},
-                             {"findings", report.findings}};
+                               {"watermarks", MarkWords(facts)},
+                               {"negative", facts.negative},
+                               {"mirrored", facts.mirrored}}},
+                             {"findings", findings}};
   // Names come from the job and need not be valid UTF-8.
   std::printf("%s\n", json.dump(2, ' ', false, ordered_json::error_handler_t::replace).c_str());
 }
 
+/// Has the pages drawn, unless there is nobody to do it.
+void Look(const PostScriptFiles& split, Progress* progress, JobReport* report) {
+  if (FindProgram("gs").empty()) {
+    std::fprintf(stderr, "zarvo: the pages are not looked at: Ghostscript is not installed\n");
+    return;
+  }
+  auto left = kLongestLook;
+  for (std::size_t i = 0; i < split.files.size(); ++i) {
+    progress->Stage("Looking at the pages");
+    const auto start = std::chrono::steady_clock::now();
+    report->looks.push_back(LookAtPages(split.files[i], report->job.jobs[i], left));
+    left -= std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() -
+                                                                  start);
+    if (left.count() > 0 && report->looks.back().whole) continue;
+    report->looks.clear();
+    std::fprintf(stderr, "zarvo: the pages are not looked at: drawing them takes too long\n");
+    return;
+  }
+}
+
 int Explain(const Options& options) {
-  std::unique_ptr<std::FILE, StreamCloser> file;
+  Stream file;
   std::FILE* input = stdin;
   if (options.file != "-") {
     file.reset(std::fopen(options.file.c_str(), "rbe"));
     if (!file) return Fail(options.file, std::strerror(errno));
     input = file.get();
   }
-  Report report;
+  const ScratchFolder scratch;
+  if (!scratch) return Fail("TMPDIR", "no folder for temporary files can be made");
+  JobReport report;
   {
     Progress progress;
     progress.Stage("Reading the job");
-    report.job = ReadJobFile(input, nullptr);
+    PostScriptFiles split;
+    const std::string failure = SplitJob(input, scratch, {}, &split);
+    if (!failure.empty()) return Fail(options.file, failure);
+    const JobKind kind = KindOfJob(split.facts.start, options.file);
+    if (kind == JobKind::kPdf || kind == JobKind::kOffice)
+      return Fail(options.file, std::string("is ") + KindWords(kind) + ", no job of the filter yet",
+                  "\"zarvo preview\" shows what becomes of it");
+    report = ReportOn(std::move(split.facts));
+    if (!options.quick) Look(split, &progress, &report);
   }
-  if (std::ferror(input) != 0) return Fail(options.file, std::strerror(errno));
-  report.header = ExplainPjl(report.job.pjl);
-  if (!report.job.ticket.empty()) report.ticket = ExplainTicketXml(report.job.ticket);
-  CheckFrame(&report);
-  for (const Explanation* part : {&report.header, &report.ticket})
-    report.findings.insert(report.findings.end(), part->findings.begin(), part->findings.end());
+  const std::vector<std::string> findings = Findings(report);
   if (options.json) {
-    PrintJson(report);
+    PrintJson(report, findings);
   } else {
-    PrintReport(report);
+    PrintReport(report, findings);
   }
   if (std::fflush(stdout) != 0) return Fail("(stdout)", std::strerror(errno));
-  return report.findings.empty() ? kExitOk : kExitFindings;
+  return findings.empty() ? kExitOk : kExitFindings;
 }
 
 }  // namespace
@@ -160,6 +178,8 @@ void SetUpExplain(CLI::App& app, Action* action) {
   app.add_option("file", options->file, "a job that the filter wrote; - for standard input")
       ->capture_default_str();
   app.add_flag("--json", options->json, "for programs");
+  app.add_flag("--quick", options->quick,
+               "read the job only, do not draw its pages to look at them");
   app.callback([=] { *action = [=] { return Explain(*options); }; });
 }
 

@@ -10,15 +10,20 @@
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
-#include <fstream>
 #include <memory>
+#include <thread>
+#include <tuple>
 
-#include "Platform/AtomicFile.h"
+#include "CUPSFilter/Options/PpdTicket.h"
 #include "Platform/Log.h"
 #include "Tools/zarvo/Command.h"
 #include "Tools/zarvo/Terminal.h"
+#include "Tools/zarvo/job/Findings.h"
 #include "Tools/zarvo/job/JobOptions.h"
+#include "Tools/zarvo/job/Notes.h"
 #include "Tools/zarvo/job/Sheets.h"
+#include "Tools/zarvo/system/Convert.h"
+#include "Tools/zarvo/system/DrawSheets.h"
 #include "Tools/zarvo/system/Queues.h"
 #include "Tools/zarvo/system/Run.h"
 
@@ -34,24 +39,37 @@ struct Options {
   JobOptions options;
   std::string output;
   int resolution = 100;
+  int copies = 0;
   bool open = false;
 };
 
-enum class JobKind { kPostScript, kPrinterReady, kPdf, kUnknown };
+bool EndsIn(const std::string& name, const char* ending) {
+  std::string lower(name);
+  std::transform(lower.begin(), lower.end(), lower.begin(),
+                 [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+  return lower.ends_with(ending);
+}
 
-JobKind KindOf(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
-  std::string start(1024, '\0');
-  file.read(start.data(), static_cast<std::streamsize>(start.size()));
-  start.resize(static_cast<std::size_t>(file.gcount()));
-  if (start.starts_with("\033%-12345X") || start.starts_with("@PJL")) return JobKind::kPrinterReady;
-  if (start.starts_with("%!")) return JobKind::kPostScript;
-  // Other programs' headers may stand ahead of a PDF file.
-  return start.find("%PDF-") != std::string::npos ? JobKind::kPdf : JobKind::kUnknown;
+bool WritesPictures(const std::string& output) { return EndsIn(output, ".png"); }
+
+/// Whether something can be written under that name: a PDF file, pictures, or whatever a device or
+/// a pipe takes.
+bool CanWrite(const std::string& output) {
+  std::error_code error;
+  const fs::file_type type = fs::status(output, error).type();
+  return output == "-" || EndsIn(output, ".pdf") || WritesPictures(output) ||
+         type == fs::file_type::character || type == fs::file_type::fifo;
+}
+
+bool IsSet(const char* variable) {
+  const char* value = std::getenv(variable);
+  return value != nullptr && *value != '\0';
 }
 
 /// Shows a file on the desktop. Returns an exit status.
 int Show(const std::string& file) {
+  if (!IsSet("DISPLAY") && !IsSet("WAYLAND_DISPLAY"))
+    return Fail(file, "is written, but there is no display to show it on");
   std::string program = FindProgram("xdg-open");
   std::string argument = file;
   char* const arguments[] = {program.data(), argument.data(), nullptr};
@@ -68,12 +86,13 @@ int Show(const std::string& file) {
   return Fail(file, "cannot be shown here", "Install the package xdg-utils, or open it yourself");
 }
 
-/// One preview, from the job to its sheets. Every step gives an empty text or why it failed.
+/// One preview, from the job to its sheets.
 class Preview {
  public:
   Preview(const Options& options, std::string option_text, std::string ppd)
       : options_(options), option_text_(std::move(option_text)), ppd_(std::move(ppd)) {}
 
+  /// An exit status.
   int Run() {
     if (!scratch_) return Fail("TMPDIR", "no folder for temporary files can be made");
     std::error_code error;
@@ -81,216 +100,260 @@ class Preview {
     const fs::file_type type = fs::status(options_.job, error).type();
     if (options_.job == "-" || type == fs::file_type::fifo || type == fs::file_type::character) {
       // It can be read only once.
-      job_file_ = File("job");
+      job_file_ = scratch_.File("job");
       const int status = Deliver(options_.job == "-" ? "/dev/stdin" : options_.job, job_file_);
       if (status != kExitOk) return status;
     }
-    std::string failure = Draw();
+    const std::string failure = DrawAll();
+    if (status_ == kExitFailure) return status_;  // told already
     if (!failure.empty()) return Fail(Title(), failure);
-    const int status = DeliverSheets();
-    if (status == kExitOk && options_.output != "-") PrintPlan();
-    return status;
+    const std::vector<std::string> findings = Findings(report_);
+    if (options_.output != "-") PrintPlan();
+    if (!complaints_.empty()) Tell("the filter says: " + complaints_);
+    for (const std::string& finding : findings) Tell(Title() + ": " + finding);
+    return findings.empty() ? kExitOk : kExitFindings;
   }
 
-  /// What there is to look at.
-  std::string FirstFile() const { return first_.empty() ? options_.output : first_; }
+  /// What there is to look at; empty when nothing has been written.
+  const std::string& FirstFile() const { return first_; }
 
  private:
-  std::string Draw() {
-    Progress progress;
-    progress.Stage("Converting the job");
-    std::string failure = Convert();
-    progress.Stage("Filtering the job");
-    if (failure.empty()) failure = Filter();
-    if (failure.empty()) failure = TakePostScript(File("job.prn"), File("job.ps"), &job_);
-    progress.Stage("Drawing the sheets");
-    if (failure.empty()) failure = Render(File("job.ps"), "pdfwrite", 0, File("pages.pdf"));
-    if (!failure.empty()) return failure;
-    if (!job_.ticket.empty()) ticket_ = ExplainTicketXml(job_.ticket);
-    sheets_ = FindSpecialSheets(ticket_);
-    failure = AddSpecialSheets();
-    if (failure.empty() && WantsPng())
-      failure = Render(File("sheets.pdf"), "png16m", options_.resolution, File("sheet-%d.png"));
-    return failure;
+  static void Tell(const std::string& text) {
+    std::fprintf(stderr, "zarvo: %s\n", PrintableText(text).c_str());
   }
 
-  std::string File(const char* name) const { return scratch_.File(name); }
-
-  bool WantsPng() const { return options_.output.ends_with(".png"); }
-
-  /// What the spooler would do ahead of the filter.
-  std::string Convert() {
-    const JobKind kind = KindOf(job_file_);
-    if (kind == JobKind::kUnknown) return "is neither PostScript nor PDF";
-    std::error_code error;
-    if (kind == JobKind::kPrinterReady) {
-      fs::copy_file(job_file_, File("input.ps"), error);
-      return error ? error.message() : "";
-    }
-    const bool pdf = kind == JobKind::kPdf;
-    ChildRun chain;
-    chain.output = File("input.ps");
-    std::string log;
-    if (const std::string program = FindProgram("cupsfilter"); !program.empty()) {
-      chain.arguments = {program,
-                         "-i",
-                         pdf ? "application/pdf" : "application/postscript",
-                         "-m",
-                         "application/vnd.cups-postscript",
-                         "-t",
-                         Title()};
-      if (!ppd_.empty()) chain.arguments.insert(chain.arguments.end(), {"-p", ppd_});
-      if (!option_text_.empty())
-        chain.arguments.insert(chain.arguments.end(), {"-o", option_text_});
-      chain.arguments.push_back(job_file_);
-      if (RunChild(chain, &log) && fs::file_size(File("input.ps"), error) > 0) return "";
-    }
-    if (!pdf) {
-      fs::copy_file(job_file_, File("input.ps"), fs::copy_options::overwrite_existing, error);
-      return error ? error.message() : "";
-    }
-    const std::string poppler = FindProgram("pdftops");
-    if (poppler.empty())
-      return "no program can convert PDF; install the package cups-filters or poppler-utils";
-    chain.arguments = {poppler, "-level3", job_file_, "-"};
-    return RunChild(chain, &log) ? "" : "cannot be converted: " + ErrorLines(log);
-  }
-
-  std::string Filter() {
-    if (ppd_.empty()) {
-      unsetenv("PPD");
-    } else {
-      setenv("PPD", ppd_.c_str(), 1);
-    }
-    const char* user = std::getenv("USER");
-    ChildRun filter;
-    filter.arguments = {FilterPath(),    "1", user != nullptr ? user : "zarvo",
-                        Title(),         "1", option_text_,
-                        File("input.ps")};
-    filter.output = File("job.prn");
-    std::string log;
-    if (!RunChild(filter, &log)) return filter.arguments[0] + ": " + ErrorLines(log);
-    // A job that printed without its watermark is a job to hear about.
-    if (const std::string lost = Complaints(log); !lost.empty())
-      std::fprintf(stderr, "zarvo: the filter says: %s\n", PrintableText(lost).c_str());
-    return "";
-  }
+  bool WantsPictures() const { return WritesPictures(options_.output); }
 
   std::string Title() const {
     return options_.job == "-" ? "(stdin)" : fs::path(options_.job).filename().string();
   }
 
-  /// Puts a page for each blank cover and each insert among the pages. In a booklet the pages of
-  /// the document are not those of the sheets: there they are only named.
-  std::string AddSpecialSheets() {
-    std::vector<std::string> pieces;
-    unsigned next = 1;
-    const unsigned last = static_cast<unsigned>(job_.postscript.pages);
-    const auto pages = [&](unsigned to) {
-      if (to < next) return;
-      pieces.insert(pieces.end(), {"-dFirstPage=" + std::to_string(next),
-                                   "-dLastPage=" + std::to_string(to), File("pages.pdf")});
-      next = to + 1;
-    };
+  /// As lp: its own option wins over one in the text of the options.
+  int CopiesWanted() const {
+    if (options_.copies > 0) return options_.copies;
+    const OptionList list = OptionList::Parse(option_text_.c_str());
+    const char* copies = cupsGetOption("copies", list.size(), list.data());
+    constexpr int kMost = 9999;
+    return std::clamp(copies != nullptr ? std::atoi(copies) : 1, 1, kMost);
+  }
+
+  std::string DrawAll() {
+    Progress progress;
+    progress.Stage("Converting the job");
+    JobSource source;
+    source.file = job_file_;
+    source.title = Title();
+    source.ppd = ppd_;
+    source.options = option_text_;
+    source.copies = CopiesWanted();
+    PostScriptFiles split;
+    const std::string failure = MakeJob(
+        source, scratch_,
+        [&progress](std::uint64_t done, std::uint64_t total) { progress.Count(done, total); },
+        &split, &complaints_);
+    if (!failure.empty()) return failure;
+    if (split.files.empty()) return "the job holds no PostScript";
+    report_ = ReportOn(split.facts);
+    special_ = FindSpecialSheets(report_.ticket);
+    if (FindProgram("gs").empty())
+      return "Ghostscript is not installed; install the package ghostscript";
+    return WantsPictures() ? DrawAsPictures(split, &progress) : DrawAsPdf(split, &progress);
+  }
+
+  std::string DrawAsPdf(const PostScriptFiles& split, Progress* progress) {
+    std::string failure = DrawAllPages(split, progress);
+    if (!failure.empty()) return failure;
+    progress->Stage("Putting the sheets together");
+    const std::string sheets = scratch_.File("sheets.pdf");
+    failure = WriteSheetPdf(sides_, 0, sides_.size(), sheets);
+    if (!failure.empty()) return failure;
+    status_ = Deliver(sheets, options_.output);
+    first_ = options_.output;
+    return "";
+  }
+
+  std::string DrawAsPictures(const PostScriptFiles& split, Progress* progress) {
+    // While the first pages turn into pictures, the others are drawn.
+    std::size_t shown = 0;
+    std::vector<SheetSide> ahead;
+    {
+      progress->Stage("Drawing the first pages");
+      const std::vector<DrawnPage> pages = DrawFirstPages(split, scratch_);
+      ahead = ArrangeSides(pages, report_.job.postscript.pages);
+      while (shown < ahead.size() && !(ahead[shown].file.empty() && ahead[shown].text.empty()))
+        ++shown;
+      if (pages.empty()) shown = 0;
+    }
     std::string failure;
-    const auto add = [&](SpecialSheet::Place place) {
+    {
+      std::jthread pictures;
+      std::string picture_failure;
+      if (shown > 0) {
+        pictures = std::jthread([&] { picture_failure = Pictures(ahead, 0, shown, nullptr); });
+      }
+      failure = DrawAllPages(split, progress);
+      if (pictures.joinable()) pictures.join();
+      if (failure.empty()) failure = picture_failure;
+    }
+    if (!failure.empty() || status_ == kExitFailure) return failure;
+    progress->Stage("Drawing the sheets");
+    return Pictures(sides_, std::min(shown, sides_.size()), sides_.size(), progress);
+  }
+
+  std::string Pictures(const std::vector<SheetSide>& sides, std::size_t first, std::size_t last,
+                       Progress* progress) {
+    return DrawPictures(sides, first, last, options_.resolution, scratch_,
+                        [&, this](std::size_t side, const std::string& picture) {
+                          const std::string name = PictureName(side, sides.size());
+                          if (Deliver(picture, name) != kExitOk) status_ = kExitFailure;
+                          if (side == 0) first_ = name;
+                          ++pictures_;
+                          if (progress != nullptr) progress->Count(pictures_, sides.size());
+                        });
+  }
+
+  std::string PictureName(std::size_t side, std::size_t sides) const {
+    fs::path name = options_.output;
+    if (sides > 1)
+      name.replace_filename(name.stem().string() + "-" + std::to_string(side + 1) +
+                            name.extension().string());
+    return name;
+  }
+
+  /// Draws the pages and arranges them as sides.
+  std::string DrawAllPages(const PostScriptFiles& split, Progress* progress) {
+    progress->Stage("Drawing the pages");
+    const std::uint64_t total = report_.job.postscript.pages;
+    std::uint64_t done = 0;
+    const std::vector<DrawnPage> pages = DrawPages(
+        split, scratch_, [&] { progress->Count(++done, total); }, &report_.looks);
+    if (pages.empty()) return NoPage();
+    LookForMarks(split, progress);
+    sides_ = ArrangeSides(pages, pages.size());
+    return "";
+  }
+
+  std::string NoPage() const {
+    for (const PageLook& look : report_.looks) {
+      if (!look.fault.empty()) return "Ghostscript cannot draw the job: " + look.fault;
+    }
+    return "the printer would print no page of this job";
+  }
+
+  /// Marks that lie behind the page may be hidden by it.
+  void LookForMarks(const PostScriptFiles& split, Progress* progress) {
+    for (std::size_t i = 0; i < split.files.size(); ++i) {
+      if (!report_.job.jobs[i].HasMarkBehind()) continue;
+      progress->Stage("Looking for the watermark");
+      report_.looks[i].hidden =
+          LookAtPages(split.files[i], report_.job.jobs[i], kLongestRun).hidden;
+    }
+  }
+
+  /// The sides in their order, with a sheet for each blank cover and each insert among the pages.
+  /// In a booklet the pages of the document are not those of the sheets: there they are only noted.
+  /// `total` is how many pages there will be; of those that are missing the side has no file.
+  std::vector<SheetSide> ArrangeSides(const std::vector<DrawnPage>& pages, std::uint64_t total) {
+    const PostScriptFacts& facts = report_.job.postscript;
+    std::vector<SheetSide> sides;
+    std::size_t next = 0;
+    const auto add_pages = [&](std::uint64_t to) {
+      for (; next < to; ++next) {
+        SheetSide side;
+        if (next < pages.size()) {
+          side.file = pages[next].file;
+          side.page = pages[next].page;
+        }
+        if (facts.booklet) side.turn = facts.booklet_reversed ? 90 : 270;
+        sides.push_back(std::move(side));
+      }
+    };
+    const auto add_sheets = [&](SpecialSheet::Place place) {
       std::vector<const SpecialSheet*> here;
-      for (const SpecialSheet& sheet : sheets_) {
-        if (sheet.place == place && sheet.blank) here.push_back(&sheet);
+      for (const SpecialSheet& sheet : special_) {
+        if (sheet.place == place && sheet.blank && !facts.booklet) here.push_back(&sheet);
       }
       std::stable_sort(here.begin(), here.end(),
                        [](const auto* a, const auto* b) { return a->after_page < b->after_page; });
       for (const SpecialSheet* sheet : here) {
-        if (place == SpecialSheet::Place::kInsert) pages(std::min(sheet->after_page, last));
-        const std::string file = File(("sheet" + std::to_string(pieces.size()) + ".ps").c_str());
-        if (WriteFileAtomically(file, SheetPage(*sheet, Width(), Height()), 0600) != 0)
-          failure = std::strerror(errno);
-        pieces.insert(pieces.end(), {"-dFirstPage=1", "-dLastPage=1", file});
+        if (place == SpecialSheet::Place::kInsert)
+          add_pages(std::min<std::uint64_t>(sheet->after_page, total));
+        SheetSide side;
+        side.text = sheet->text;
+        std::tie(side.width, side.height) = MainSize();
+        sides.push_back(std::move(side));
       }
     };
-    if (last > 0 && !job_.postscript.booklet) {
-      add(SpecialSheet::Place::kFront);
-      add(SpecialSheet::Place::kInsert);
-      pages(last);
-      add(SpecialSheet::Place::kBack);
-    }
-    constexpr std::size_t kPiece = 3;
-    if (pieces.size() <= kPiece || !failure.empty()) {
-      std::error_code error;
-      fs::rename(File("pages.pdf"), File("sheets.pdf"), error);
-      return failure;
-    }
-    return Join(pieces);
+    add_sheets(SpecialSheet::Place::kFront);
+    const std::size_t front = sides.size();
+    add_sheets(SpecialSheet::Place::kInsert);
+    add_pages(total);
+    add_sheets(SpecialSheet::Place::kBack);
+    AddNotes(front, &sides);
+    return sides;
   }
 
-  std::string Join(const std::vector<std::string>& pieces) {
-    ChildRun gs;
-    gs.arguments = {FindProgram("gs"),
-                    "-q",
-                    "-dBATCH",
-                    "-dNOPAUSE",
-                    "-dSAFER",
-                    "-sDEVICE=pdfwrite",
-                    "-dAutoRotatePages=/None",
-                    "-sOutputFile=" + File("sheets.pdf")};
-    gs.arguments.insert(gs.arguments.end(), pieces.begin(), pieces.end());
-    std::string log;
-    return RunChild(gs, &log) ? "" : "covers and inserts cannot be added: " + ErrorLines(log);
+  /// `front` is where the first page's side is at the earliest.
+  void AddNotes(std::size_t front, std::vector<SheetSide>* sides) const {
+    for (const PageNote& note : NotesOn(report_)) {
+      std::uint64_t page = 0;
+      for (std::size_t i = front; i < sides->size(); ++i) {
+        SheetSide& side = (*sides)[i];
+        if (!side.text.empty()) continue;
+        ++page;
+        if (page == note.page || report_.job.postscript.booklet) {
+          side.notes.push_back(note.text);
+          break;
+        }
+      }
+    }
   }
-
-  int Width() const { return MainSize().first; }
-  int Height() const { return MainSize().second; }
 
   /// The size that most pages have.
   std::pair<int, int> MainSize() const {
-    const auto& sizes = job_.postscript.page_sizes;
+    const auto& sizes = report_.job.postscript.page_sizes;
     const auto most =
         std::max_element(sizes.begin(), sizes.end(),
                          [](const auto& a, const auto& b) { return a.second < b.second; });
     return most == sizes.end() ? std::pair(612, 792) : most->first;
   }
 
-  int DeliverSheets() {
-    if (!WantsPng()) return Deliver(File("sheets.pdf"), options_.output);
-    const fs::path target = options_.output;
-    for (int sheet = 1; fs::exists(File(("sheet-" + std::to_string(sheet) + ".png").c_str()));
-         ++sheet) {
-      fs::path name = target;
-      const bool only = !fs::exists(File("sheet-2.png"));
-      if (!only)
-        name.replace_filename(target.stem().string() + "-" + std::to_string(sheet) + ".png");
-      const int status = Deliver(File(("sheet-" + std::to_string(sheet) + ".png").c_str()), name);
-      if (status != kExitOk) return status;
-      first_ = sheet == 1 ? name.string() : first_;
-    }
-    return kExitOk;
-  }
-
   bool TwoSided() const {
-    if (job_.postscript.booklet) return true;
-    return std::any_of(ticket_.statements.begin(), ticket_.statements.end(), [](const auto& s) {
+    if (report_.job.postscript.booklet || report_.job.postscript.two_sided) return true;
+    const std::vector<Statement>& statements = report_.ticket.statements;
+    return std::any_of(statements.begin(), statements.end(), [](const auto& s) {
       return s.code == "sides" && s.level == 0 && s.value.starts_with("two");
     });
   }
 
+  /// The files that have been written.
+  std::string Written() const {
+    if (!WantsPictures()) return options_.output;
+    const std::string first = PictureName(0, sides_.size());
+    return sides_.size() == 1 ? first
+                              : first + " to " + PictureName(sides_.size() - 1, sides_.size());
+  }
+
   void PrintPlan() const {
-    const PostScriptFacts& facts = job_.postscript;
-    const std::uint64_t sheets = TwoSided() ? (facts.pages + 1) / 2 : facts.pages;
+    const PostScriptFacts& facts = report_.job.postscript;
+    const std::uint64_t pages = DrawnPages(report_);
+    const std::uint64_t sheets = TwoSided() ? (pages + 1) / 2 : pages;
     const auto plural = [](std::uint64_t count, const char* what) {
       return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
     };
-    std::string line = options_.output + ": " +
-                       plural(facts.pages, facts.booklet ? "sheet side" : "page") + " on " +
-                       plural(sheets, "sheet") + (facts.booklet ? ", booklet" : "");
-    if (facts.pages == 0) line = options_.output + ": the job does not say where its pages begin";
+    std::string line = Written() + ": " + plural(pages, facts.booklet ? "sheet side" : "page") +
+                       " on " + plural(sheets, "sheet") + (facts.booklet ? ", booklet" : "");
     if (facts.page_sizes.size() == 1) {
       const auto [width, height] = facts.page_sizes.begin()->first;
       line += ", " + PointSizeWords(width, height);
     }
     std::printf("%s\n", PrintableText(line).c_str());
-    for (const SpecialSheet& sheet : sheets_)
+    for (const SpecialSheet& sheet : special_)
       std::printf("  %s\n", PrintableText(sheet.text).c_str());
-    if (facts.text_overlay || facts.image_watermark) std::printf("  watermark\n");
+    for (const std::string& mark : MarkWords(facts))
+      std::printf("  %s\n", PrintableText("watermark " + mark).c_str());
+    for (const PageNote& note : NotesOn(report_))
+      std::printf("  %s\n", PrintableText(note.text).c_str());
   }
 
   const Options& options_;
@@ -298,10 +361,13 @@ class Preview {
   std::string ppd_;
   ScratchFolder scratch_;
   std::string job_file_;
-  JobFile job_;
-  Explanation ticket_;
-  std::vector<SpecialSheet> sheets_;
+  JobReport report_;
+  std::vector<SpecialSheet> special_;
+  std::vector<SheetSide> sides_;
+  std::string complaints_;
   std::string first_;
+  std::size_t pictures_ = 0;
+  int status_ = kExitOk;
 };
 
 int RunPreview(Options options) {
@@ -326,22 +392,30 @@ int RunPreview(Options options) {
   if (options.output.empty())
     options.output =
         options.job == "-" ? "preview.pdf" : fs::path(options.job).stem().string() + "-preview.pdf";
+  if (!CanWrite(options.output))
+    return Fail(options.output, "ends neither in .pdf nor in .png",
+                "These two are what a preview can be written as");
   Preview preview(options, *text, ppd);
   const int status = preview.Run();
-  return status == kExitOk && options.open ? Show(preview.FirstFile()) : status;
+  if (!options.open || preview.FirstFile().empty() || status == kExitFailure) return status;
+  const int shown = Show(preview.FirstFile());
+  return shown == kExitOk ? status : shown;
 }
 
 }  // namespace
 
 void SetUpPreview(CLI::App& app, Action* action) {
   const auto options = std::make_shared<Options>();
-  app.add_option("job", options->job, "PostScript or PDF file; - for standard input")->required();
+  app.add_option("job", options->job,
+                 "file to look at: whatever lp takes, and office documents; - for standard input")
+      ->required();
   CLI::Option* queue = app.add_option("-q,--queue", options->queue, "take this queue's PPD");
   app.add_option("-p,--ppd", options->ppd, "take this PPD file")->excludes(queue);
   app.add_option("-o", options->options.options, "an option, as for lp; may be repeated")
       ->allow_extra_args(false);
   app.add_option("-s,--settings", options->options.settings,
                  "settings in the readable form; - for standard input");
+  app.add_option("-n,--copies", options->copies, "number of copies")->check(CLI::PositiveNumber);
   app.add_option("--output", options->output,
                  "PDF or PNG file to write, by its name's end; - for PDF on standard output; "
                  "else JOB-preview.pdf");

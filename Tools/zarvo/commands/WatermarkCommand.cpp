@@ -20,6 +20,7 @@
 #include "Source/TicketNames.h"
 #include "Source/WatermarkSupport.h"
 #include "Tools/zarvo/Command.h"
+#include "Tools/zarvo/system/Ghostscript.h"
 #include "Tools/zarvo/system/PublishedChoices.h"
 #include "Tools/zarvo/system/Queues.h"
 #include "Tools/zarvo/system/Run.h"
@@ -296,10 +297,15 @@ int Show(const Options& options) {
   std::string log;
   if (!RunChild(filter, &log)) return Fail(filter.arguments[0], ErrorLines(log));
   if (const std::string lost = Complaints(log); !lost.empty()) return Fail(options.name, lost);
-  JobFile job;
-  std::string failure = TakePostScript(scratch.File("job.prn"), scratch.File("job.ps"), &job);
-  if (failure.empty())
-    failure = Render(scratch.File("job.ps"), "png16m", 72, scratch.File("page-%d.png"));
+  const Stream made(std::fopen(scratch.File("job.prn").c_str(), "rbe"));
+  PostScriptFiles split;
+  std::string failure = made ? SplitJob(made.get(), scratch, {}, &split) : std::strerror(errno);
+  Drawing drawing;
+  drawing.inputs = split.files;
+  drawing.device = "png16m";
+  drawing.output = scratch.File("page-%d.png");
+  drawing.resolution = 72;
+  if (failure.empty()) failure = Draw(drawing);
   if (!failure.empty()) return Fail(options.name, failure);
   const std::string target = options.output.empty() ? options.name + ".png" : options.output;
   return Deliver(scratch.File("page-1.png"), target);

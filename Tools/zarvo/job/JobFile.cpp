@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -12,6 +13,7 @@ namespace zarvo::tool {
 namespace {
 
 constexpr std::string_view kExitSequence = "\033%-12345X";
+constexpr char kEndOfTransmission = '\4';
 constexpr std::size_t kLongestLine = 64 * 1024;
 
 bool Contains(std::string_view line, std::string_view text) {
@@ -25,7 +27,8 @@ std::string_view WithoutLineEnd(std::string_view line) {
 
 class Reader {
  public:
-  Reader(std::FILE* input, std::FILE* copy) : input_(input), copy_(copy), buffer_(kLongestLine) {}
+  Reader(std::FILE* input, const PostScriptSink& sink)
+      : input_(input), sink_(sink), buffer_(kLongestLine) {}
 
   JobFile Read() {
     std::string_view line;
@@ -38,6 +41,7 @@ class Reader {
       }
       first = false;
     }
+    Sum();
     return std::move(job_);
   }
 
@@ -46,6 +50,7 @@ class Reader {
     unsigned long length = buffer_.size();
     if (psgets(buffer_.data(), &length, input_) == nullptr) return false;
     *line = {buffer_.data(), length};
+    if (job_.start.size() < kKindBytes) job_.start += line->substr(0, kKindBytes);
     return true;
   }
 
@@ -71,73 +76,60 @@ class Reader {
   }
 
   void ReadLine(std::string_view line) {
-    bool left_postscript = false;
-    while (line.starts_with(kExitSequence)) {
-      line.remove_prefix(kExitSequence.size());
-      left_postscript = true;
+    // The universal exit is heard wherever it stands.
+    for (std::size_t exit; (exit = line.find(kExitSequence)) != std::string_view::npos;) {
+      if (exit > 0) ReadPlainLine(line.substr(0, exit));
+      line.remove_prefix(exit + kExitSequence.size());
+      LeavePostScript();
+      in_postscript_ = false;
     }
-    if (left_postscript) in_postscript_ = false;
+    while (line.starts_with(kEndOfTransmission)) {
+      line.remove_prefix(1);
+      LeavePostScript();
+    }
+    if (!line.empty()) ReadPlainLine(line);
+  }
+
+  void LeavePostScript() { reader_.reset(); }
+
+  void ReadPlainLine(std::string_view line) {
     if (!in_postscript_ && line.starts_with("@PJL")) return ReadPjl(WithoutLineEnd(line));
-    if (!in_postscript_ && WithoutLineEnd(line).empty()) return;
+    if (!reader_ && WithoutLineEnd(line).empty()) return;
     if (in_header_ && !Contains(line, "%!")) {
       ++job_.stray_lines;
       return;
     }
     in_header_ = false;
     in_postscript_ = true;
+    if (!reader_) BeginPostScript();
+    const std::uint64_t offset = facts_->bytes;
     Copy(line);
-    if (depth_ == 0 || line.starts_with("%%End")) ReadDocumentLine(line);
-    if (line.starts_with("%%BeginDocument")) ++depth_;
+    reader_->Line(line, offset);
     SkipCounted(line);
+  }
+
+  void BeginPostScript() {
+    if (job_.jobs.size() < kMaxPostScriptJobs) {
+      job_.jobs.emplace_back();
+      if (sink_.begin) sink_.begin();
+    } else {
+      job_.jobs_cut = true;
+    }
+    facts_ = &job_.jobs.back();
+    reader_.emplace(facts_);
   }
 
   void ReadPjl(std::string_view line) {
     if (line == "@PJL JOB" || line.starts_with("@PJL JOB ")) ++job_.envelopes;
     if (line.starts_with("@PJL EOJ")) ++job_.ends;
-    in_header_ = !line.starts_with("@PJL ENTER LANGUAGE") && !line.starts_with("@PJL EOJ");
     in_postscript_ = line.starts_with("@PJL ENTER LANGUAGE");
+    in_header_ = !in_postscript_ && !line.starts_with("@PJL EOJ");
     pjl_bytes_ += line.size();
     if (job_.pjl.size() < kMaxPjlLines && pjl_bytes_ <= kMaxPjlBytes) {
       job_.pjl.emplace_back(line);
     } else {
       job_.pjl_cut = true;
     }
-  }
-
-  void ReadDocumentLine(std::string_view line) {
-    PostScriptFacts& facts = job_.postscript;
-    if (line.starts_with("%%EndDocument") && depth_ > 0) --depth_;
-    if (line.starts_with("%%Page:")) ++facts.pages;
-    if (line.starts_with("%!PS-Adobe")) {
-      ++facts.documents;
-      facts.ended = false;
-    }
-    if (line.starts_with("%%EOF")) facts.ended = true;
-    if (line.starts_with("%%ZRVPagelet:")) {
-      facts.booklet = true;
-    } else if (line.starts_with("/TransparentOverlayPattern ")) {
-      facts.text_overlay = true;
-    } else if (Contains(line, " array /picstr exch def")) {
-      facts.image_watermark = true;
-    }
-    ReadPageSize(line);
-  }
-
-  void ReadPageSize(std::string_view line) {
-    constexpr std::string_view kKey = "/PageSize";
-    const std::size_t key = line.find(kKey);
-    if (key == std::string_view::npos) return;
-    const std::size_t open = line.find_first_not_of(' ', key + kKey.size());
-    if (open == std::string_view::npos || line[open] != '[') return;
-    // The buffer holds a zero byte after every line, which ends the numbers too.
-    char* end = nullptr;
-    const double width = std::strtod(line.data() + open + 1, &end);
-    const double height = std::strtod(end, &end);
-    constexpr double kLargest = 1e6;
-    if (!(width > 0 && width < kLargest && height > 0 && height < kLargest)) return;
-    auto& sizes = job_.postscript.page_sizes;
-    const std::pair size(static_cast<int>(width + 0.5), static_cast<int>(height + 0.5));
-    if (sizes.contains(size) || sizes.size() < kMaxPageSizes) ++sizes[size];
   }
 
   /// Counted data may hold anything, landmarks included.
@@ -157,24 +149,55 @@ class Reader {
   }
 
   void Copy(std::string_view bytes) {
-    job_.postscript.bytes += bytes.size();
-    if (copy_ != nullptr) std::fwrite(bytes.data(), 1, bytes.size(), copy_);
+    facts_->bytes += bytes.size();
+    if (sink_.write) sink_.write(bytes);
+  }
+
+  /// Takes the facts of all PostScript jobs together.
+  void Sum() {
+    PostScriptFacts& sum = job_.postscript;
+    for (const PostScriptFacts& facts : job_.jobs) {
+      if (sum.title.empty()) sum.title = facts.title;
+      if (sum.owner.empty()) sum.owner = facts.owner;
+      sum.bytes += facts.bytes;
+      sum.pages += facts.pages;
+      sum.announced += facts.announced;
+      sum.documents += facts.documents;
+      sum.ended = facts.ended;
+      sum.booklet |= facts.booklet;
+      sum.booklet_reversed |= facts.booklet_reversed;
+      sum.two_sided |= facts.two_sided;
+      sum.copies = std::max(sum.copies, facts.copies);
+      sum.marks_on_first_page |= facts.marks_on_first_page;
+      sum.negative |= facts.negative;
+      sum.mirrored |= facts.mirrored;
+      for (const MarkFacts& mark : facts.marks) {
+        if (sum.marks.size() < kMaxMarks &&
+            std::find(sum.marks.begin(), sum.marks.end(), mark) == sum.marks.end())
+          sum.marks.push_back(mark);
+      }
+      for (const auto& [size, times] : facts.page_sizes) {
+        if (sum.page_sizes.contains(size) || sum.page_sizes.size() < kMaxPageSizes)
+          sum.page_sizes[size] += times;
+      }
+    }
   }
 
   std::FILE* input_;
-  std::FILE* copy_;
+  const PostScriptSink& sink_;
   std::vector<char> buffer_;
   JobFile job_;
+  PostScriptFacts* facts_ = nullptr;      // of the PostScript that is being read
+  std::optional<DocumentReader> reader_;  // of the same; none outside of PostScript
   std::size_t pjl_bytes_ = 0;
   bool in_header_ = false;
   bool in_postscript_ = false;
-  int depth_ = 0;  // of embedded documents
 };
 
 }  // namespace
 
-JobFile ReadJobFile(std::FILE* input, std::FILE* postscript) {
-  return Reader(input, postscript).Read();
+JobFile ReadJobFile(std::FILE* input, const PostScriptSink& sink) {
+  return Reader(input, sink).Read();
 }
 
 }  // namespace zarvo::tool

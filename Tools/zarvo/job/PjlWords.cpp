@@ -226,7 +226,8 @@ class Explainer {
     long height = 0;
     if (std::sscanf(value.c_str(), "%ld %ld", &width, &height) != 2 || width <= 0 || height <= 0)
       Wrong(std::string(attribute.words) + ": no size that the printer knows");
-    return std::to_string(width) + " x " + std::to_string(height) + " mm";
+    constexpr long kHundredths = 100;
+    return SizeWords(width * kHundredths, height * kHundredths);
   }
 
   bool secure_ = false;

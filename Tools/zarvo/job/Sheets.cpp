@@ -4,8 +4,6 @@
 #include <cstdlib>
 #include <span>
 
-#include "CUPSFilter/Header/PjlText.h"
-
 namespace zarvo::tool {
 namespace {
 
@@ -26,7 +24,7 @@ void ReadCover(std::span<const Statement> members, SpecialSheet* sheet) {
   for (const Statement& member : members) {
     if (member.code == "cover-type")
       sheet->blank = member.value == "print-none" || member.value == "no-cover";
-    if (TellsThePaper(member.code)) sheet->text += ", " + member.value;
+    if (TellsThePaper(member.code)) sheet->text += ", " + member.Words();
   }
   if (sheet->blank) sheet->text += ", not printed";
 }
@@ -43,7 +41,7 @@ void ReadInserts(std::span<const Statement> members, std::vector<SpecialSheet>* 
       sheet->text = std::to_string(sheet->count) + (sheet->count == 1 ? " sheet" : " sheets") +
                     " after page " + std::to_string(sheet->after_page);
     } else if (sheet != nullptr && TellsThePaper(member.code)) {
-      sheet->text += ", " + member.value;
+      sheet->text += ", " + member.Words();
     }
   }
 }
@@ -69,17 +67,6 @@ std::vector<SpecialSheet> FindSpecialSheets(const Explanation& ticket) {
     }
   }
   return sheets;
-}
-
-std::string SheetPage(const SpecialSheet& sheet, int width, int height) {
-  const std::string w = std::to_string(width);
-  const std::string h = std::to_string(height);
-  return "%!PS-Adobe-3.0\n<< /PageSize [" + w + " " + h +
-         "] >> setpagedevice\n0.95 1 1 setrgbcolor 0 0 " + w + " " + h +
-         " rectfill 0.4 setgray [6 4] 0 setdash 1 setlinewidth 12 12 " + w + " 24 sub " + h +
-         " 24 sub rectstroke /Helvetica 14 selectfont (" + PostScriptText(sheet.text) +
-         ") dup stringwidth pop 2 div " + w + " 2 div exch sub " + h + " 2 div moveto show\n" +
-         "showpage\n%%EOF\n";
 }
 
 }  // namespace zarvo::tool

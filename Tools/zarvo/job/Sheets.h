@@ -22,7 +22,4 @@ struct SpecialSheet {
 /// The covers and inserts of an explained XML ticket.
 std::vector<SpecialSheet> FindSpecialSheets(const Explanation& ticket);
 
-/// A PostScript page of this size (points) that stands for the sheet.
-std::string SheetPage(const SpecialSheet& sheet, int width, int height);
-
 }  // namespace zarvo::tool

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <algorithm>
 #include <charconv>
+#include <cstdlib>
 #include <cstring>
 #include <pugixml.hpp>
 #include <span>
@@ -16,7 +17,9 @@ enum class Kind {
   kSecret,   // never shown
   kGroup,    // has elements of its own
   kSize,     // x-dimension and y-dimension, 1/100 mm
-  kRange,    // lower-bound and upper-bound
+  kCodes,    // a set of numbers that are told in one line
+  kDots,     // a resolution across and along the feed
+  kTenths,   // tenths of a millimetre
 };
 
 struct Element {
@@ -24,6 +27,7 @@ struct Element {
   const char* words;
   Kind kind = Kind::kText;
   std::string_view keywords = "";  // each with one blank before and after it
+  const char* unit = "";           // of a number
 };
 
 constexpr std::string_view kProfileKeywords =
@@ -73,17 +77,14 @@ constexpr Element kElements[] = {
     {"color-effects-type", "colour", kKeyword, " monochrome-grayscale color "},
     {"finishings-col", "finishing", kGroup},
     {"finishing-template", "template"},
-    {"finishings", "finishing", kGroup,
+    {"finishings", "finishing", kCodes,
      " 3 13 20 21 22 23 28 29 30 31 32 33 34 35 50 52 90 91 92 93 94 95 96 110 111 1000 1001 1003 "
      "1004 1005 1008 1011 1012 "},
     {"job-message-to-operator", "message to the operator"},
     {"job-recipient-name", "printed for"},
     {"job-sheet-message", "message on the banner page"},
     {"job-accounting-data", "additional accounting data", kSecret},
-    {"printer-resolution", "resolution", kGroup},
-    {"cross-feed", "across the feed"},
-    {"feed-direction", "along the feed"},
-    {"units", "unit", kKeyword, " 3 "},
+    {"printer-resolution", "resolution", kDots},
     {"trc", "tone reproduction curve", kGroup},
     {"trc-name", "name"},
     {"undefined-source-rgb-images", "profile of RGB images", kKeyword, kProfileKeywords},
@@ -116,15 +117,15 @@ constexpr Element kElements[] = {
     {"forms-col", "background form", kGroup},
     {"form-name", "name"},
     {"form-cycle-start", "pages in a cycle"},
-    {"forms-x-image-shift", "offset to the right, 1/100 mm"},
-    {"forms-y-image-shift", "offset upwards, 1/100 mm"},
+    {"forms-x-image-shift", "offset to the right", kTenths},
+    {"forms-y-image-shift", "offset upwards", kTenths},
     {"job-accounting-user-id", "accounting user", kSecret},
     {"job-account-id", "account", kSecret},
     {"page-ranges", "pages", kGroup},
-    {"x-side1-image-shift", "shift to the right, side 1, 1/100 mm"},
-    {"x-side2-image-shift", "shift to the right, side 2, 1/100 mm"},
-    {"y-side1-image-shift", "shift upwards, side 1, 1/100 mm"},
-    {"y-side2-image-shift", "shift upwards, side 2, 1/100 mm"},
+    {"x-side1-image-shift", "shift to the right, side 1", kTenths},
+    {"x-side2-image-shift", "shift to the right, side 2", kTenths},
+    {"y-side1-image-shift", "shift upwards, side 1", kTenths},
+    {"y-side2-image-shift", "shift upwards, side 2", kTenths},
     {"cover-front", "front cover", kGroup},
     {"cover-back", "back cover", kGroup},
     {"cover-type", "printed sides", kKeyword,
@@ -142,7 +143,7 @@ constexpr Element kElements[] = {
     {"media-pre-printed", "printed already", kKeyword, " blank pre-printed letter-head "},
     {"media-recycled", "recycled", kKeyword, " none standard "},
     {"media-order-count", "sheets in a set"},
-    {"media-weight-metric", "weight, g/m2"},
+    {"media-weight-metric", "weight", kText, "", " g/m2"},
     {"media-description", "description"},
     {"media-hole-count", "holes"},
     {"media-color", "colour"},
@@ -177,26 +178,65 @@ struct CodeName {
 };
 constexpr CodeName kFinishings[] = {
     {3, "none"},
-    {13, "booklet"},
-    {20, "staple, top left"},
-    {21, "staple, bottom left"},
-    {22, "staple, top right"},
-    {23, "staple, bottom right"},
-    {28, "two staples, left"},
-    {29, "two staples, top"},
-    {30, "two staples, right"},
-    {31, "two staples, bottom"},
-    {32, "three staples, left"},
-    {33, "three staples, top"},
-    {34, "three staples, right"},
-    {35, "three staples, bottom"},
-    {50, "bind, left"},
-    {52, "bind, right"},
-    {110, "fold and staple"},
-    {111, "fold"},
+    {13, "folded to a booklet"},
+    {20, "stapled top left"},
+    {21, "stapled bottom left"},
+    {22, "stapled top right"},
+    {23, "stapled bottom right"},
+    {28, "two staples at the left"},
+    {29, "two staples at the top"},
+    {30, "two staples at the right"},
+    {31, "two staples at the bottom"},
+    {32, "three staples at the left"},
+    {33, "three staples at the top"},
+    {34, "three staples at the right"},
+    {35, "three staples at the bottom"},
+    {50, "bound at the left"},
+    {52, "bound at the right"},
+    {90, "two holes"},
+    {91, "three holes"},
+    {92, "four holes"},
+    {93, "punched at the left"},
+    {94, "punched at the top"},
+    {95, "punched at the right"},
+    {96, "punched at the bottom"},
+    {110, "folded in the middle and stapled there"},
+    {111, "folded in the middle"},
+    {1000, "C fold"},
+    {1001, "Z fold"},
+    {1003, "fold 1003 of the printer"},
+    {1004, "fold 1004 of the printer"},
+    {1005, "fold 1005 of the printer"},
+    {1008, "fold 1008 of the printer"},
+    {1011, "fold 1011 of the printer"},
+    {1012, "fold 1012 of the printer"},
 };
 constexpr CodeName kOrientations[] = {
     {3, "portrait"}, {4, "landscape"}, {5, "reverse landscape"}, {6, "reverse portrait"}};
+
+struct KeywordWords {
+  std::string_view keyword;
+  const char* words;
+};
+// Keywords that are no words yet; of others only the hyphens are in the way.
+constexpr KeywordWords kKeywordWords[] = {
+    {"one-sided", "one side of each sheet"},
+    {"two-sided-long-edge", "both sides, turned over the long edge"},
+    {"two-sided-short-edge", "both sides, turned over the short edge"},
+    {"print-none", "none"},
+    {"print-front", "the outside"},
+    {"print-back", "the inside"},
+    {"print-both", "both"},
+    {"no-cover", "no cover"},
+    {"offset-set", "each set"},
+    {"offset-subset", "each subset"},
+    {"offset-job", "each job"},
+    {"rotate-180", "by 180 degrees"},
+    {"rotate-0", "no"},
+    {"monochrome-grayscale", "shades of gray"},
+    {"save-only", "kept on the printer, not printed"},
+    {"print-save", "printed, and kept on the printer"},
+};
 
 const Element* FindElement(std::string_view name) {
   for (const Element& element : kElements) {
@@ -241,8 +281,10 @@ class Explainer {
   Explanation explanation;
 
  private:
-  void Say(const char* name, std::string value, std::string_view code, int level) {
-    explanation.statements.push_back({name, std::move(value), std::string(code), level});
+  void Say(const char* name, std::string value, std::string_view code, int level,
+           std::string words = "") {
+    explanation.statements.push_back(
+        {name, std::move(value), std::string(code), level, std::move(words)});
   }
 
   /// Not every level is told on a level of its own, so they are counted apart.
@@ -267,11 +309,18 @@ class Explainer {
     }
     switch (element->kind) {
       case kGroup:
+        if (PlainSet(node, *element, level)) break;
         Say(element->words, "", name, level);
         for (const pugi::xml_node& child : node.children()) Node(child, element, level + 1);
         break;
       case kSize:
         Size(node, *element, level);
+        break;
+      case kCodes:
+        Codes(node, *element, level);
+        break;
+      case kDots:
+        Dots(node, *element, level);
         break;
       case kSecret:
         Say(element->words, *node.child_value() == '\0' ? "empty" : "set", name, level);
@@ -281,26 +330,79 @@ class Explainer {
     }
   }
 
+  /// A set of nothing but plain values and ranges is told in one line.
+  bool PlainSet(const pugi::xml_node& node, const Element& element, int level) {
+    std::string text;
+    std::string words;
+    for (const pugi::xml_node& child : node.children()) {
+      if (child.type() != pugi::node_element) continue;
+      const bool range = std::strcmp(child.attribute("syntax").value(), "rangeOfInteger") == 0;
+      if (std::strcmp(child.name(), "value") != 0 || (!range && HasElements(child))) return false;
+      const std::string value = range ? Range(child) : child.child_value();
+      if (!range && !element.keywords.empty() && !Lists(element.keywords, value))
+        Wrong(std::string(element.words) + ": unknown code " + value);
+      text += (text.empty() ? "" : ", ") + value;
+      words += (words.empty() ? "" : ", ") + (range ? value : KeywordText(value));
+    }
+    if (text.empty()) return false;
+    Say(element.words, text, element.name, level, words);
+    return true;
+  }
+
+  static bool HasElements(const pugi::xml_node& node) {
+    return !node.find_child(
+                    [](const pugi::xml_node& child) { return child.type() == pugi::node_element; })
+                .empty();
+  }
+
+  /// All codes of a set in one line: holes have two of them, where and how many.
+  void Codes(const pugi::xml_node& node, const Element& element, int level) {
+    std::string codes;
+    std::string words;
+    for (const pugi::xml_node& child : node.children()) {
+      if (child.type() != pugi::node_element) continue;
+      const std::string code = child.child_value();
+      const char* known = FindName(kFinishings, code);
+      if (!Lists(element.keywords, code))
+        Wrong(std::string(element.words) + ": unknown code " + code);
+      if (Lists(" " + codes + " ", code)) continue;
+      codes += (codes.empty() ? "" : " ") + code;
+      words += (words.empty() ? "" : ", ") + (known != nullptr ? known : "the code " + code);
+    }
+    Say(element.words, codes, element.name, level, words);
+  }
+
+  void Dots(const pugi::xml_node& node, const Element& element, int level) {
+    const std::string across = node.child_value("cross-feed");
+    const std::string along = node.child_value("feed-direction");
+    const std::string unit = node.child_value("units");
+    if (unit != "3") Wrong(std::string(element.words) + ": unknown unit " + unit);
+    Say(element.words, across == along ? across : across + " x " + along, element.name, level,
+        (across == along ? across : across + " x " + along) + " dots per inch");
+  }
+
   /// A member of a set: a range, a collection, or one value of the parent's kind.
   void Member(const pugi::xml_node& node, const Element* parent, int level) {
     if (parent == nullptr) return Wrong("a value stands outside a set");
     if (std::strcmp(node.attribute("syntax").value(), "rangeOfInteger") == 0)
       return Say("from", Range(node), "value", level);
-    if (node.child("lower-bound") || node.find_child([](const pugi::xml_node& child) {
-          return child.type() == pugi::node_element;
-        })) {
+    if (HasElements(node)) {
       for (const pugi::xml_node& child : node.children()) Node(child, parent, level);
       return;
     }
     const std::string text = node.child_value();
-    const char* words = parent->name == "finishings" ? FindName(kFinishings, text) : nullptr;
-    Say("value", words != nullptr ? words : Coded(*parent, text), "value", level);
+    Say("value", text, "value", level, KeywordText(text));
     if (!parent->keywords.empty() && !Lists(parent->keywords, text))
       Wrong(std::string(parent->words) + ": unknown code " + text);
   }
 
-  static std::string Coded(const Element& parent, const std::string& text) {
-    return parent.name == "finishings" ? "the printer's finishing " + text : text;
+  static std::string KeywordText(const std::string& keyword) {
+    for (const KeywordWords& row : kKeywordWords) {
+      if (row.keyword == keyword) return row.words;
+    }
+    std::string words = keyword;
+    std::replace(words.begin(), words.end(), '-', ' ');
+    return words;
   }
 
   std::string Range(const pugi::xml_node& node) {
@@ -315,10 +417,21 @@ class Explainer {
     const bool named = std::strcmp(node.attribute("syntax").value(), "name") == 0;
     if (element.kind == kKeyword && !named && !Lists(element.keywords, text))
       Wrong(std::string(element.words) + ": unknown code " + text);
+    std::string words;
+    if (element.kind == kKeyword && !named) words = KeywordText(text);
+    if (element.kind == kTenths) words = Millimetres(text);
+    if (*element.unit != '\0') words = text + element.unit;
     if (element.name == "orientation-requested") {
-      if (const char* words = FindName(kOrientations, text)) text = words;
+      if (const char* known = FindName(kOrientations, text)) words = known;
     }
-    Say(element.words, text, element.name, level);
+    Say(element.words, text, element.name, level, words);
+  }
+
+  static std::string Millimetres(const std::string& tenths) {
+    const long value = std::atol(tenths.c_str());
+    const long rest = std::labs(value % 10);
+    return (value < 0 ? "-" : "") + std::to_string(std::labs(value / 10)) +
+           (rest != 0 ? "." + std::to_string(rest) : "") + " mm";
   }
 
   void Size(const pugi::xml_node& node, const Element& element, int level) {

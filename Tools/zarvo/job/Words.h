@@ -11,9 +11,12 @@ namespace zarvo::tool {
 /// One thing that a job tells the printer.
 struct Statement {
   std::string name;   ///< what it is about, in words
-  std::string value;  ///< what it says, in words; of a PIN or an account only that it is set
+  std::string value;  ///< what it says, as it stands; of a PIN or an account only that it is set
   std::string code;   ///< the PJL attribute or the XML element
   int level = 0;      ///< how deep it is nested
+  std::string words = "";  ///< what the value means, where it does not say so itself
+
+  const std::string& Words() const { return words.empty() ? value : words; }
 };
 
 /// Statements, and what looks wrong with them.

@@ -24,25 +24,20 @@ namespace fs = std::filesystem;
 
 constexpr std::size_t kMaxLog = 1 << 20;
 
-struct StreamCloser {
-  void operator()(std::FILE* stream) const { std::fclose(stream); }
-};
-using Stream = std::unique_ptr<std::FILE, StreamCloser>;
-
-/// Copies all of `input`. False when either side fails.
-bool CopyAll(std::FILE* input, std::FILE* output) {
-  char block[65536];
-  while (const std::size_t got = std::fread(block, 1, sizeof block, input)) {
-    if (std::fwrite(block, 1, got, output) != got) return false;
+/// Hands on what a program says, line by line and as a whole.
+void ReadLines(std::FILE* output, const std::function<void(std::string_view)>& hear,
+               std::string* said) {
+  std::string line;
+  for (int c; (c = std::getc(output)) != EOF;) {
+    if (said->size() < kMaxLog) *said += static_cast<char>(c);
+    if (!hear) continue;
+    if (c == '\n') {
+      hear(line);
+      line.clear();
+    } else if (line.size() < kMaxLog) {
+      line += static_cast<char>(c);
+    }
   }
-  return std::ferror(input) == 0 && std::fflush(output) == 0;
-}
-
-std::string ReadLog(int file) {
-  std::string log(kMaxLog, '\0');
-  const ssize_t length = pread(file, log.data(), log.size(), 0);
-  log.resize(length > 0 ? static_cast<std::size_t>(length) : 0);
-  return log;
 }
 
 }  // namespace
@@ -63,6 +58,21 @@ ScratchFolder::~ScratchFolder() {
   fs::remove_all(path_, error);
 }
 
+bool CopyAll(std::FILE* input, std::FILE* output) {
+  char block[65536];
+  while (const std::size_t got = std::fread(block, 1, sizeof block, input)) {
+    if (std::fwrite(block, 1, got, output) != got) return false;
+  }
+  return std::ferror(input) == 0 && std::fflush(output) == 0;
+}
+
+std::string ReadLog(int file) {
+  std::string log(kMaxLog, '\0');
+  const ssize_t length = pread(file, log.data(), log.size(), 0);
+  log.resize(length > 0 ? static_cast<std::size_t>(length) : 0);
+  return log;
+}
+
 bool RunChild(const ChildRun& run, std::string* log) {
   if (NotedTermination() != 0) return false;
   UniqueFd input;
@@ -79,6 +89,8 @@ bool RunChild(const ChildRun& run, std::string* log) {
   options.input_fd = input.get();
   options.error_fd = errors.get();
   options.wall_clock = run.limit;
+  options.cpu_seconds = run.cpu_seconds;
+  options.address_space = run.address_space;
   std::optional<Process> process = Process::Start(options);
   if (!process) {
     *log = run.arguments[0] + ": cannot be started: " + std::strerror(errno);
@@ -88,9 +100,7 @@ bool RunChild(const ChildRun& run, std::string* log) {
   bool copied = false;
   std::string said;
   if (run.output.empty()) {
-    for (int c; (c = std::getc(process->output())) != EOF;) {
-      if (said.size() < kMaxLog) said += static_cast<char>(c);
-    }
+    ReadLines(process->output(), run.line, &said);
     copied = std::ferror(process->output()) == 0;
   } else if (output) {
     copied = CopyAll(process->output(), output.get());
@@ -149,45 +159,37 @@ std::string Complaints(const std::string& log) {
   return complaints;
 }
 
-std::string Render(const std::string& input, const std::string& device, int resolution,
-                   const std::string& output) {
-  const std::string program = FindProgram("gs");
-  if (program.empty()) return "Ghostscript is not installed; install the package ghostscript";
-  ChildRun run;
-  run.arguments = {program,
-                   "-q",
-                   "-dBATCH",
-                   "-dNOPAUSE",
-                   "-dSAFER",
-                   "-dAutoRotatePages=/None",
-                   "-sDEVICE=" + device,
-                   "-sOutputFile=" + output};
-  if (device != "pdfwrite") {
-    // Drawn finer than asked for and averaged: a see-through watermark is a pattern of dots, which
-    // a coarse raster would lose.
-    const int finer = resolution <= 300 ? 3 : 1;
-    run.arguments.insert(run.arguments.end(), {"-r" + std::to_string(resolution * finer),
-                                               "-dDownScaleFactor=" + std::to_string(finer)});
-  }
-  run.arguments.push_back(input);
-  // What the document prints may hold anything; only what the interpreter says counts.
-  std::string log;
-  if (RunChild(run, &log)) return "";
-  const std::size_t error = log.find("Error: ");
-  const std::size_t end = log.find('\n', error);
-  return "Ghostscript cannot draw the job: " +
-         (error == std::string::npos ? ErrorLines(log) : log.substr(error, end - error));
-}
-
-std::string TakePostScript(const std::string& job, const std::string& postscript, JobFile* facts) {
-  const Stream input(std::fopen(job.c_str(), "rbe"));
-  const Stream output(std::fopen(postscript.c_str(), "wbe"));
-  if (!input || !output) return std::strerror(errno);
-  *facts = ReadJobFile(input.get(), output.get());
-  if (std::ferror(input.get()) != 0 || std::fflush(output.get()) != 0 ||
-      std::ferror(output.get()) != 0)
-    return std::strerror(errno);
-  return facts->postscript.bytes == 0 ? "the job holds no PostScript" : "";
+std::string SplitJob(std::FILE* job, const ScratchFolder& scratch,
+                     const std::function<void(std::uint64_t, std::uint64_t)>& page,
+                     PostScriptFiles* split) {
+  Stream output;
+  std::string failure;
+  std::uint64_t pages = 0;
+  std::uint64_t announced = 0;
+  PostScriptSink sink;
+  const auto close = [&] {
+    if (output && (std::fflush(output.get()) != 0 || std::ferror(output.get()) != 0))
+      failure = std::strerror(errno);
+  };
+  sink.begin = [&] {
+    close();
+    const std::string file = scratch.File("job-" + std::to_string(split->files.size() + 1) + ".ps");
+    split->files.push_back(file);
+    output.reset(std::fopen(file.c_str(), "wbe"));
+    if (!output) failure = file + ": " + std::strerror(errno);
+  };
+  sink.write = [&](std::string_view bytes) {
+    if (output) std::fwrite(bytes.data(), 1, bytes.size(), output.get());
+    if (!page || !bytes.starts_with("%%Page")) return;
+    if (bytes.starts_with("%%Pages:")) {
+      announced += std::strtoul(std::string(bytes.substr(8, 20)).c_str(), nullptr, 10);
+    } else if (bytes.starts_with("%%Page:")) {
+      page(++pages, announced);
+    }
+  };
+  split->facts = ReadJobFile(job, sink);
+  close();
+  return std::ferror(job) != 0 ? std::strerror(errno) : failure;
 }
 
 int Deliver(const std::string& file, const std::string& target) {

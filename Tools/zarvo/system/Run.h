@@ -3,13 +3,23 @@
 #pragma once
 
 #include <chrono>
+#include <cstdint>
+#include <cstdio>
 #include <filesystem>
+#include <functional>
+#include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "Tools/zarvo/job/JobFile.h"
 
 namespace zarvo::tool {
+
+struct StreamCloser {
+  void operator()(std::FILE* stream) const { std::fclose(stream); }
+};
+using Stream = std::unique_ptr<std::FILE, StreamCloser>;
 
 /// A folder for intermediate files, for the user's eyes only, removed with all it holds.
 class ScratchFolder {
@@ -27,11 +37,18 @@ class ScratchFolder {
   std::filesystem::path path_;
 };
 
+/// The time that a program of ours may take at most.
+constexpr std::chrono::milliseconds kLongestRun = std::chrono::minutes(10);
+
 struct ChildRun {
   std::vector<std::string> arguments;  ///< the program's path first
   std::string input;                   ///< file that it reads as standard input; empty for none
   std::string output;                  ///< file that its standard output goes to; empty for none
-  std::chrono::milliseconds limit = std::chrono::minutes(10);
+  /// Gets each line of its standard output, without its end, when that goes to no file.
+  std::function<void(std::string_view)> line = {};
+  std::chrono::milliseconds limit = kLongestRun;
+  unsigned cpu_seconds = 0;         ///< 0 for no limit
+  std::uint64_t address_space = 0;  ///< bytes; 0 for no limit
 };
 
 /// Runs a program to its end. True when it ended with 0. `log` gets what it wrote to standard
@@ -45,6 +62,9 @@ std::string FindProgram(const std::string& name);
 /// The filter: beside the tool (a build tree), else where the spooler has it.
 std::string FilterPath();
 
+/// What a program wrote into a file for its standard error, at most a megabyte.
+std::string ReadLog(int file);
+
 /// The lines of a log that tell of errors, without their prefix; its end when there are none.
 std::string ErrorLines(const std::string& log);
 
@@ -52,15 +72,21 @@ std::string ErrorLines(const std::string& log);
 /// lines' prefixes; empty when all went well.
 std::string Complaints(const std::string& log);
 
-/// Renders a PostScript or PDF file by Ghostscript. `device` is "pdfwrite" or "png16m"; a PNG
-/// `output` holds "%d" for the page's number and has `resolution` dots per inch. Returns an empty
-/// text, or why it failed.
-std::string Render(const std::string& input, const std::string& device, int resolution,
-                   const std::string& output);
+/// A job's PostScript, taken apart as the printer does.
+struct PostScriptFiles {
+  JobFile facts;
+  std::vector<std::string> files;  ///< one for each of facts.jobs
+};
 
-/// Takes the PostScript out of a job that the filter wrote, into the file `postscript`. `facts`
-/// tells what the job holds. Returns an empty text, or why it failed.
-std::string TakePostScript(const std::string& job, const std::string& postscript, JobFile* facts);
+/// Takes the PostScript out of a job, each job into a file of its own. `page` (may be empty) hears
+/// of each page comment: how many there were, and how many the document announces or 0. Returns an
+/// empty text, or why it failed.
+std::string SplitJob(std::FILE* job, const ScratchFolder& scratch,
+                     const std::function<void(std::uint64_t, std::uint64_t)>& page,
+                     PostScriptFiles* split);
+
+/// Copies all of `input`. False when either side fails.
+bool CopyAll(std::FILE* input, std::FILE* output);
 
 /// Copies a file to `target`, or to standard output for "-". Returns an exit status.
 int Deliver(const std::string& file, const std::string& target);

@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Tools/zarvo/job/Findings.h"
+
+#include <algorithm>
+
+namespace zarvo::tool {
+namespace {
+
+constexpr std::size_t kMostRanges = 10;
+
+void CheckFrame(const JobFile& job, std::vector<std::string>* findings) {
+  const PostScriptFacts& postscript = job.postscript;
+  const auto wrong = [findings](std::string text) { findings->push_back(std::move(text)); };
+  if (job.ticket_cut) wrong("the XML ticket does not end");
+  if (job.pjl_cut) wrong("more PJL lines than any job needs");
+  if (job.stray_lines > 0) wrong("the job header holds a line that is no PJL");
+  if (job.pjl.empty()) wrong("no PJL envelope: the printer takes it for plain PostScript");
+  if (job.envelopes > job.ends) wrong("the end of the job (PJL EOJ) is missing");
+  if (job.envelopes > 1)
+    wrong(std::to_string(job.envelopes) +
+          " job envelopes: the printer takes it for as many jobs and starts anew at each");
+  if (job.jobs_cut) wrong("more PostScript jobs than can be told apart");
+  if (postscript.documents == 0) wrong("no PostScript document");
+  if (postscript.documents > 0 && !postscript.ended) wrong("the PostScript does not end (%%EOF)");
+  if (postscript.documents > 0 && postscript.pages == 0)
+    wrong("no page comments: pages cannot be counted, and nothing can be drawn on them");
+}
+
+/// Which of several PostScript jobs is meant; empty when there is only one.
+std::string Which(const JobReport& report, std::size_t job) {
+  if (report.looks.size() < 2) return "";
+  return "PostScript job " + std::to_string(job + 1) + " of " +
+         std::to_string(report.looks.size()) + ": ";
+}
+
+void CheckPages(const JobReport& report, std::vector<std::string>* findings) {
+  if (!report.looks.empty() && DrawnPages(report) == 0) findings->push_back("no page is printed");
+  for (std::size_t i = 0; i < report.looks.size(); ++i) {
+    const PageLook& look = report.looks[i];
+    const std::string which = Which(report, i);
+    if (!look.fault.empty() && look.whole)
+      findings->push_back(which + "the printer stops " +
+                          (look.pages == 0 ? std::string("before the first page")
+                                           : "after page " + std::to_string(look.pages)) +
+                          ": " + look.fault);
+    // What follows the end of a document is often no more than comments.
+    if (look.pages == 0 && look.whole && look.fault.empty() && report.job.jobs[i].documents > 0 &&
+        DrawnPages(report) > 0)
+      findings->push_back(which + "no page is printed");
+    if (!look.hidden.empty()) {
+      const bool all = look.hidden.size() == look.pages;
+      findings->push_back(which + "the watermark behind the page cannot be seen on " +
+                          (all ? std::string("any page") : "page " + PageList(look.hidden)) +
+                          ", where the document paints its own ground; put it over the page "
+                          "(WMPlace=Overlay)");
+    }
+  }
+}
+
+/// Folding in the middle asks for pages that are laid out for it.
+void CheckFold(const JobReport& report, std::vector<std::string>* findings) {
+  if (report.job.postscript.booklet) return;
+  for (const Statement& statement : report.ticket.statements) {
+    if (statement.code != "finishings") continue;
+    for (const char* fold : {"13", "110", "111"}) {
+      if ((" " + statement.value + " ").find(" " + std::string(fold) + " ") == std::string::npos)
+        continue;
+      findings->push_back(
+          "the sheets are folded in the middle, but the pages are not laid out as a booklet; add "
+          "BookletLayout");
+      return;
+    }
+  }
+}
+
+}  // namespace
+
+JobReport ReportOn(JobFile job) {
+  JobReport report;
+  report.job = std::move(job);
+  report.header = ExplainPjl(report.job.pjl);
+  if (!report.job.ticket.empty()) report.ticket = ExplainTicketXml(report.job.ticket);
+  return report;
+}
+
+std::vector<std::string> Findings(const JobReport& report) {
+  std::vector<std::string> findings;
+  CheckFrame(report.job, &findings);
+  CheckFold(report, &findings);
+  CheckPages(report, &findings);
+  for (const Explanation* part : {&report.header, &report.ticket})
+    findings.insert(findings.end(), part->findings.begin(), part->findings.end());
+  return findings;
+}
+
+std::uint64_t DrawnPages(const JobReport& report) {
+  if (report.looks.empty()) return report.job.postscript.pages;
+  std::uint64_t pages = 0;
+  for (const PageLook& look : report.looks) pages += look.pages;
+  return pages;
+}
+
+std::string PageList(const std::vector<std::uint64_t>& pages) {
+  std::vector<std::string> ranges;
+  for (std::size_t i = 0; i < pages.size();) {
+    std::size_t end = i + 1;
+    while (end < pages.size() && pages[end] == pages[end - 1] + 1) ++end;
+    if (ranges.size() == kMostRanges) {
+      ranges.emplace_back("others");
+      break;
+    }
+    ranges.push_back(std::to_string(pages[i]) +
+                     (end - i > 1 ? " to " + std::to_string(pages[end - 1]) : ""));
+    i = end;
+  }
+  std::string list;
+  for (std::size_t i = 0; i < ranges.size(); ++i)
+    list += (i == 0 ? "" : i + 1 == ranges.size() ? " and " : ", ") + ranges[i];
+  return list;
+}
+
+}  // namespace zarvo::tool

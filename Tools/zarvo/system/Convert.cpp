@@ -1,0 +1,165 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Tools/zarvo/system/Convert.h"
+
+#include <fcntl.h>
+#include <sys/wait.h>
+
+#include <cerrno>
+#include <cstdlib>
+#include <cstring>
+#include <fstream>
+#include <optional>
+
+#include "Platform/Process.h"
+#include "Platform/UniqueFd.h"
+#include "Tools/zarvo/system/Office.h"
+
+namespace zarvo::tool {
+namespace {
+
+std::string StartOf(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  std::string start(kKindBytes, '\0');
+  file.read(start.data(), static_cast<std::streamsize>(start.size()));
+  start.resize(static_cast<std::size_t>(file.gcount()));
+  return start;
+}
+
+/// The spooler's chain of converters, or nothing when it is not installed.
+std::vector<std::string> SpoolerChain(const JobSource& source, JobKind kind) {
+  const std::string program = FindProgram("cupsfilter");
+  if (program.empty()) return {};
+  std::vector<std::string> arguments = {program};
+  // Other kinds are for the spooler to tell.
+  if (kind == JobKind::kPdf) arguments.insert(arguments.end(), {"-i", "application/pdf"});
+  if (kind == JobKind::kPostScript)
+    arguments.insert(arguments.end(), {"-i", "application/postscript"});
+  arguments.insert(arguments.end(), {"-m", "application/vnd.cups-postscript", "-t", source.title,
+                                     "-n", std::to_string(source.copies)});
+  if (!source.ppd.empty()) arguments.insert(arguments.end(), {"-p", source.ppd});
+  if (!source.options.empty()) arguments.insert(arguments.end(), {"-o", source.options});
+  arguments.push_back(source.file);
+  return arguments;
+}
+
+/// The filter with what feeds it: a converter, or else a file.
+class Chain {
+ public:
+  Chain(const JobSource& source, const std::vector<std::string>& converter)
+      : source_(source), arguments_(converter) {}
+
+  /// Whether the converter, if there is one, brought something to an end.
+  bool Run(const ScratchFolder& scratch, const PageListener& page, PostScriptFiles* split) {
+    const UniqueFd errors = OpenMemoryFile("");
+    const UniqueFd filter_errors = OpenMemoryFile("");
+    std::optional<Process> converter;
+    UniqueFd feed;
+    if (!arguments_.empty()) {
+      ProcessOptions options;
+      options.arguments = arguments_;
+      options.error_fd = errors.get();
+      options.wall_clock = kLongestRun;
+      converter = Process::Start(options);
+      if (!converter) return Failed(arguments_[0] + ": " + std::strerror(errno));
+      feed = converter->TakeOutput();
+    } else {
+      feed = UniqueFd(open(source_.file.c_str(), O_RDONLY | O_CLOEXEC));
+      if (!feed) return Failed(std::strerror(errno));
+    }
+    const char* user = std::getenv("USER");
+    ProcessOptions options;
+    options.arguments = {FilterPath(),
+                         "1",
+                         user != nullptr ? user : "zarvo",
+                         source_.title,
+                         std::to_string(source_.copies),
+                         source_.options};
+    options.input_fd = feed.get();
+    options.error_fd = filter_errors.get();
+    options.wall_clock = kLongestRun;
+    std::optional<Process> filter = Process::Start(options);
+    if (!filter) return Failed(options.arguments[0] + ": " + std::strerror(errno));
+    feed.reset();
+    failure_ = SplitJob(filter->output(), scratch, page, split);
+    const int status = filter->Wait();
+    filter_log_ = ReadLog(filter_errors.get());
+    if (converter) {
+      const int converted = converter->Wait();
+      converter_log_ = ReadLog(errors.get());
+      if (!WIFEXITED(converted) || WEXITSTATUS(converted) != 0 || split->files.empty())
+        return false;
+    }
+    if (failure_.empty() && (!WIFEXITED(status) || WEXITSTATUS(status) != 0))
+      failure_ = FilterPath() + ": " + ErrorLines(filter_log_);
+    return true;
+  }
+
+  const std::string& failure() const { return failure_; }
+  const std::string& converter_log() const { return converter_log_; }
+  const std::string& filter_log() const { return filter_log_; }
+
+ private:
+  bool Failed(std::string why) {
+    failure_ = std::move(why);
+    return true;
+  }
+
+  const JobSource& source_;
+  std::vector<std::string> arguments_;
+  std::string failure_;
+  std::string converter_log_;
+  std::string filter_log_;
+};
+
+/// The ways to make PostScript of the file, the best first; an empty one takes it as it is.
+std::vector<std::vector<std::string>> Converters(const JobSource& source, JobKind kind) {
+  std::vector<std::vector<std::string>> converters;
+  if (kind != JobKind::kPrinterReady) {
+    if (auto chain = SpoolerChain(source, kind); !chain.empty())
+      converters.push_back(std::move(chain));
+  }
+  if (kind == JobKind::kPrinterReady || kind == JobKind::kPostScript) converters.emplace_back();
+  if (kind == JobKind::kPdf) {
+    const std::string poppler = FindProgram("pdftops");
+    if (!poppler.empty()) converters.push_back({poppler, "-level3", source.file, "-"});
+  }
+  return converters;
+}
+
+}  // namespace
+
+std::string MakeJob(const JobSource& given, const ScratchFolder& scratch, const PageListener& page,
+                    PostScriptFiles* split, std::string* complaints) {
+  JobSource source = given;
+  JobKind kind = KindOfJob(StartOf(source.file), source.file);
+  if (kind == JobKind::kEmpty) return "is empty: neither PostScript nor PDF";
+  if (kind == JobKind::kOffice) {
+    std::string pdf;
+    const std::string failure = ConvertOfficeDocument(source.file, scratch, &pdf);
+    if (!failure.empty()) return failure;
+    source.file = pdf;
+    kind = JobKind::kPdf;
+  }
+  if (source.ppd.empty()) {
+    unsetenv("PPD");
+  } else {
+    setenv("PPD", source.ppd.c_str(), 1);
+  }
+  const auto converters = Converters(source, kind);
+  if (converters.empty())
+    return "cannot be converted here; install the packages cups and cups-filters";
+  std::string log;
+  for (const std::vector<std::string>& converter : converters) {
+    *split = {};
+    Chain chain(source, converter);
+    if (chain.Run(scratch, page, split)) {
+      *complaints = Complaints(chain.filter_log());
+      return chain.failure();
+    }
+    log = ErrorLines(chain.converter_log());
+  }
+  return kind == JobKind::kOther ? "is nothing that the spooler can print: " + log
+                                 : "cannot be converted: " + log;
+}
+
+}  // namespace zarvo::tool

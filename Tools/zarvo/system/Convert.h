@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: Apache-2.0
+// From a file to what the printer gets: what the spooler and the filter would make of it.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+
+#include "Tools/zarvo/system/Run.h"
+
+namespace zarvo::tool {
+
+struct JobSource {
+  std::string file;
+  std::string title;
+  std::string ppd;      ///< empty for none
+  std::string options;  ///< as lp takes them
+  int copies = 1;
+};
+
+/// Hears of the pages: how many have come out, and how many are announced or 0.
+using PageListener = std::function<void(std::uint64_t, std::uint64_t)>;
+
+/// Has the spooler's programs and the filter make a job of the file and takes its PostScript apart.
+/// They work at the same time, so that the first pages come out early. `complaints` gets what the
+/// filter has to say about what it left out. Gives an empty text, or why it failed.
+std::string MakeJob(const JobSource& source, const ScratchFolder& scratch, const PageListener& page,
+                    PostScriptFiles* split, std::string* complaints);
+
+}  // namespace zarvo::tool
