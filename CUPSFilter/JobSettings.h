@@ -9,6 +9,7 @@
 #include <optional>
 #include <string>
 
+#include "CUPSFilter/CopyPass/Copies.h"
 #include "CUPSFilter/JobNotices.h"
 #include "Platform/Value.h"
 #include "Source/TicketNames.h"
@@ -39,6 +40,7 @@ struct JobSettings {
   // From the PPD, not from the ticket:
   bool pageHooks = false;   ///< see PageHooks.h
   bool failClosed = false;  ///< see QueuePolicy.h
+  CopyPlan copies;          ///< nothing is done about copies without its PPD attribute
 };
 
 /// Reads the settings. A key that is missing or of a wrong type leaves its start value; the page

@@ -101,6 +101,7 @@ std::optional<Job> ReadJob(char** arguments, std::optional<JobNotices>* notices)
   job.settings = ReadJobSettings(job.ticket, options.size(), options.data(), &**notices);
   job.settings.pageHooks = PageHooksWanted(ppd);
   job.settings.failClosed = policy.failClosed;
+  job.settings.copies = ReadCopyPlan(ppd, job.ticket, options.span(), arguments[4]);
   return job;
 }
 
@@ -167,13 +168,14 @@ int RunJob(const Job& job, const char* input_name) {
   if (result == CopyResult::kEarlyEnd || result == CopyResult::kReadFailed)
     return ReportInput(result, pass.error(), input_name != nullptr ? input_name : "(stdin)");
   if (spool && output.error() == 0) {
-    const bool imposed =
+    const std::optional<long> sheets =
         job.settings.pageHooks
             ? ImposeDocuments(job.ticket, job.settings, *spool, rules.documents(), printer)
             : ImposeJob(job.ticket, job.settings, *spool, printer);
     printer.Flush();
+    if (sheets) LogSheets(job.settings.copies, *sheets);
     // Of old such a job counted as printed, so that the queue went on.
-    if (!imposed && (job.settings.failClosed || job.settings.pageHooks)) return kFailure;
+    if (!sheets && (job.settings.failClosed || job.settings.pageHooks)) return kFailure;
   }
   return ReportWrites(output, printer);
 }

@@ -117,6 +117,9 @@ bool CopyRange(const SpoolFile& spool, off_t begin, off_t end, JobOutput& output
   return true;
 }
 
+/// The sheets of a booklet of that many pages, two on each side. A negative code has none.
+long Sheets(int pages) { return pages > 0 ? (pages + 3L) / 4 : 0; }
+
 /// The documents of one job that cannot be imposed as they are.
 class RewrittenJob {
  public:
@@ -147,6 +150,8 @@ class RewrittenJob {
     return pages > 0 ? "" : "no page comes out of the job; print it without booklet layout";
   }
 
+  long sheets() const { return sheets_; }
+
  private:
   std::string WriteDocument(const DocumentRange& document, int* pages) {
     const std::unique_ptr<SpoolFile> source = SpoolFile::Create();
@@ -167,6 +172,7 @@ class RewrittenJob {
     const int imposed = xPostProcessAndRespoolJob(&bv);
     if (imposed < 0) return "code " + std::to_string(imposed) + kMakeRoom;
     *pages += imposed;
+    sheets_ += Sheets(imposed);
     return "";
   }
 
@@ -178,20 +184,24 @@ class RewrittenJob {
   const SpoolFile& spool_;
   JobOutput& output_;
   PageRewriter rewriter_;
+  long sheets_ = 0;
 };
 
 }  // namespace
 
-bool ImposeJob(const Dictionary& ticket, const JobSettings& settings, const SpoolFile& spool,
-               JobOutput& output) {
+std::optional<long> ImposeJob(const Dictionary& ticket, const JobSettings& settings,
+                              const SpoolFile& spool, JobOutput& output) {
   _tag_Q7B_PS_BOOKLET_VARS bv = Booklet(ticket, settings, spool, output);
   const int pages = xPostProcessAndRespoolJob(&bv);
-  if (pages <= 0) LogFailure(pages, output);
-  return pages > 0;
+  if (pages > 0) return Sheets(pages);
+  LogFailure(pages, output);
+  return std::nullopt;
 }
 
-bool ImposeDocuments(const Dictionary& ticket, const JobSettings& settings, const SpoolFile& spool,
-                     const std::vector<DocumentRange>& documents, JobOutput& output) {
+std::optional<long> ImposeDocuments(const Dictionary& ticket, const JobSettings& settings,
+                                    const SpoolFile& spool,
+                                    const std::vector<DocumentRange>& documents,
+                                    JobOutput& output) {
   if (documents.size() == 1 &&
       ReadPageStructure(spool.path().c_str(), documents[0].begin, documents[0].end).reliable) {
     PageHooks hooks(settings, output);
@@ -199,16 +209,16 @@ bool ImposeDocuments(const Dictionary& ticket, const JobSettings& settings, cons
     bv.pPageHooks = &hooks;
     bv.iDocumentStart = documents[0].begin;
     const int pages = xPostProcessAndRespoolJob(&bv);
-    if (pages > 0) return true;
+    if (pages > 0) return Sheets(pages);
     if (bv.iPass1Result > 0) {  // something has been written
       LogFailure(pages, output);
-      return false;
+      return std::nullopt;
     }
   }
   // A job without any document has nothing that could be imposed.
   if (documents.empty()) {
     if (const int error = const_cast<SpoolFile&>(spool).CopyTo(output.stream())) output.Fail(error);
-    return true;
+    return 0;
   }
   LogLine(
       "INFO: booklet: the page comments of the job cannot be relied on, so its pages are written "
@@ -224,16 +234,17 @@ bool ImposeDocuments(const Dictionary& ticket, const JobSettings& settings, cons
       break;
     }
     JobOutput whole(imposed->stream());
-    failure = RewrittenJob(ticket, settings, spool, whole).Write(attempt);
+    RewrittenJob job(ticket, settings, spool, whole);
+    failure = job.Write(attempt);
     if (const int error = whole.Flush(); failure.empty() && error != 0)
       failure = std::string(std::strerror(error)) + "; make room in TMPDIR and send the job again";
     if (!failure.empty()) continue;
     if (const int error = imposed->CopyTo(output.stream())) output.Fail(error);
-    return true;
+    return job.sheets();
   }
   LogLine("ERROR: booklet: the pages could not be written anew, nothing was printed: %s",
           failure.c_str());
-  return false;
+  return std::nullopt;
 }
 
 }  // namespace zarvo

@@ -61,7 +61,8 @@ CopyRules::CopyRules(const JobSettings& settings, const Dictionary& ticket, JobO
     : settings_(settings),
       ticket_(ticket),
       output_(output),
-      frame_(ticket, output, settings.booklet) {
+      frame_(ticket, output, settings.booklet),
+      copies_(settings.copies, output) {
   if (settings.pageHooks) page_hooks_.emplace(settings, output);
   // Without memory for the table the job goes out, only without name and password.
   if (settings.zarvoJobPassword) job_type_match_ = InitializeHashTables() != 0;
@@ -169,11 +170,13 @@ std::int64_t CopyRules::CopyPart(std::string_view line) {
       if (frame_.documents() == 1) WriteCover();
       frame_.NoteBegin();
       page_hooks_->BeginDocument();
+      copies_.BeginDocument();
       break;
     case JobLine::kDocument:
       frame_.GoOn();
       break;
   }
+  if (shape_.OwnLine()) copies_.BeforeLine(line);
   page_hooks_->BeforeLine(line, shape_.OwnLine());
   const std::int64_t counted = Apply(ClassifyLine(line), line);
   page_hooks_->AfterLine(line);
@@ -181,7 +184,9 @@ std::int64_t CopyRules::CopyPart(std::string_view line) {
 }
 
 void CopyRules::Finish() {
-  if (page_hooks_) frame_.End();
+  if (!page_hooks_) return;
+  frame_.End();
+  copies_.Finish();
 }
 
 bool CopyRules::WatchesForResolution() const {

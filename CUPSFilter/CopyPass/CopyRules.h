@@ -16,6 +16,7 @@
 #include <string_view>
 #include <vector>
 
+#include "CUPSFilter/CopyPass/Copies.h"
 #include "CUPSFilter/CopyPass/DocumentShape.h"
 #include "CUPSFilter/CopyPass/JobFrame.h"
 #include "CUPSFilter/FaxCover/FaxCoverOutput.h"
@@ -104,6 +105,7 @@ class CopyRules {
   std::optional<PageHooks> page_hooks_;
   DocumentShape shape_;
   JobFrame frame_;
+  Copies copies_;
 
   bool found_eps_ = false;
   bool found_pjl_ = false;

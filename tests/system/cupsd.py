@@ -99,6 +99,7 @@ class PrivateCupsd:
         self.root = pathlib.Path(tempfile.mkdtemp(prefix="zarvo-cupsd-"))
         self.root.chmod(0o755)
         self.port = free_port()
+        self.uri = f"ipp://127.0.0.1:{self.port}"
         self._make_serverbin()
         self._configure()
         self.process = subprocess.Popen(

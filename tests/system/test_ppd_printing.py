@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: Apache-2.0
 """The PPD in a real spooler: what people choose with lp, and what reaches the printer."""
 
+import itertools
 import os
 import pathlib
 import re
@@ -41,6 +42,22 @@ CHOICES = {
         "OID_ATT_FAX_RESOLUTION 2;"],
 }  # fmt: skip
 
+# Copies of four pages: options; whether the printer makes sets, how many copies, and the sheets of all.
+COPIES = [
+    ("-n 3 -o Collate=True -o Staple=TopLeft", True, 3, 12),
+    ("-n 3 -o Staple=TopLeft", True, 3, 12),
+    ("-n 3 -o SlipSheets=On -o sides=two-sided-long-edge", True, 3, 6),
+    ("-n 3 -o FrontCover=Blank -o Duplex=DuplexNoTumble", True, 3, 6),
+    ("-n 3 -o JobOffset=Subsets -o SubsetPages=Custom.2 -o Collate=True", True, 3, 12),
+    ("-n 3", False, 3, 12),
+    ("-n 3 -o Collate=False -o Staple=TopLeft", False, 3, 12),
+    ("-n 2 -o JobType=Secure -o JobPIN=Custom.0391 -o Bind=Left -o number-up=2", True, 2, 4),
+    ("-n 2 -o BookletFinish=FoldStaple", True, 2, 2),
+    ("-n 2 -o finishings=13 -o sides=two-sided-short-edge", True, 2, 2),
+    ("-n 2 -o FaxNumber=Custom.0911-4711 -o FaxCover=A4", False, 1, 4),
+    ("-o Staple=TopLeft -o page-ranges=1-3 -o sides=two-sided-long-edge", False, 1, 2),
+]
+
 
 def document(sizes):
     for number, (width, height) in enumerate(sizes, 1):
@@ -65,6 +82,7 @@ class Printing(unittest.TestCase):
         for name, sizes in DOCUMENTS.items():
             source = folder / f"{name}.ps"
             source.write_text("%!PS-Adobe-3.0\n" + "".join(document(sizes)))
+            cls.files.setdefault("bare", source)  # without page comments
             cls.files[name] = folder / f"{name}.pdf"
             run(["gs", "-q", "-dSAFER", "-dBATCH", "-dNOPAUSE", "-sDEVICE=pdfwrite",
                  f"-sOutputFile={cls.files[name]}", source])  # fmt: skip
@@ -101,6 +119,23 @@ class Printing(unittest.TestCase):
         self.assertEqual(ppd.count(b"*Watermark Ma100sAB/Ma<DF><3A> 100 %s 'A\\B' ??: \"\"\n"), 1)
         self.assertIn(f"*ja.Watermark Ma100sAB/{title.replace(':', '<3A>')}: ".encode(), ppd)
         self.assertIn(b"(seen)", self.print("plain", "-o Watermark=Ma100sAB"))
+
+    def test_copies_and_sheets(self):
+        """What the printer makes of a job, and what the spooler says that it printed."""
+        jobs = [*itertools.product(("plain", "postscript"), COPIES),
+                ("bare", ("-n 2 -o BookletFinish=Fold", True, 2, 2))]  # fmt: skip
+        for document, (options, sets, copies, sheets) in jobs:
+            with self.subTest(document=document, options=options):
+                words = options.replace("-n ", "-n").split()
+                number = self.cupsd.print("pdftops", self.files[document], words)
+                job = self.printer.wait(timeout=120)
+                asked = re.findall(rb"/?NumCopies[ :](\d+)", job)
+                # The set-up of a booklet's sheets, which comes later, asks for sets by its second number.
+                collated = re.findall(rb"/Collate (true|false)|^\d (1) .* Q7BBMi$", job, re.M)
+                self.assertEqual(int((asked or [b"1"])[-1]), copies, asked)
+                self.assertEqual(collated[-1] != (b"false", b""), sets, collated)
+                said = self.cupsd.run("ipptool", "-tv", f"{self.cupsd.uri}/jobs/{number}", "get-job-attributes.test")
+                self.assertIn(f"job-media-sheets-completed (integer) = {sheets}\n", said)
 
     def test_every_page_arrives(self):
         """Fitted to the paper, with all its squares, and under the watermark."""
