@@ -68,12 +68,12 @@ std::string JudgeJob(const JobRequest& request, const QueuePolicy& policy, const
 std::optional<Job> ReadJob(char** arguments, std::optional<JobNotices>* notices) {
   // Never given back: freeing the list one option at a time would cost more than decoding it.
   static OptionList& options = *new OptionList(OptionList::Parse(arguments[5]));
-  const Ppd ppd = SetCommonOptions(options.size(), options.data(), 1);
+  Ppd ppd = SetCommonOptions(options.size(), options.data(), 1);
   const QueuePolicy policy = ReadQueuePolicy(ppd);
   notices->emplace(policy.failClosed || policy.standardTicket);
   (*notices)->Begin();
   StandardJob standard;
-  if (policy.standardTicket) standard = ReadStandardJob(arguments[1], arguments[2], options);
+  if (policy.standardTicket) standard = ReadStandardJob(arguments[1], arguments[2], options, &ppd);
   std::vector<std::string> faults;
   PpdChoices chosen = PpdTicketOptions(ppd, standard.ownNames, &faults);
   const OptionList attributes = StandardOptions(&standard.ticket, &chosen.named, options);

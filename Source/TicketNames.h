@@ -98,7 +98,7 @@ inline constexpr char kFinishingOffsetPagesPerSubset[] =
 inline constexpr char kFinishingDuplex[] = "com.zarvo.print.FinishingDuplex";
 inline constexpr char kFinishingOutputDestination[] = "com.zarvo.print.FinishingOutputDestination";
 inline constexpr char kFinishingOutputColor[] = "com.zarvo.print.FinishingOutputColor";
-inline constexpr char kOutputOrder[] = "com.zarvo.print.OutputOrder";
+inline constexpr char kOutputOrder[] = "com.zarvo.print.OutputOrder";  // OutputOrderCode
 inline constexpr char kAdvancedRotateImage180[] = "com.zarvo.print.AdvancedRotateImage180";
 
 // Image quality.
@@ -321,6 +321,12 @@ enum OutputBinCode : std::int32_t {
   kBinStacker2 = 6,
   kBinTop1 = 8,
   kBinTop2 = 9,
+};
+enum OutputOrderCode : std::int32_t {
+  kSameOrderFaceDown = 2,
+  kReverseOrderFaceUp = 3,
+  kSameOrderFaceUp = 4,
+  kReverseOrderFaceDown = 5,
 };
 enum OffsetCode : std::int32_t {
   kOffsetNone = 2,

@@ -74,10 +74,10 @@ constexpr Word kWords[] = {
     {"output-bin", "*", kCannot, {}, 0, kNoSuchBin},
 
     {"page-delivery", "system-specified", kNothing},
-    {"page-delivery", "same-order-face-down", kSet, key::kOutputOrder, 2},
-    {"page-delivery", "reverse-order-face-up", kSet, key::kOutputOrder, 3},
-    {"page-delivery", "same-order-face-up", kSet, key::kOutputOrder, 4},
-    {"page-delivery", "reverse-order-face-down", kSet, key::kOutputOrder, 5},
+    {"page-delivery", "same-order-face-down", kSet, key::kOutputOrder, kSameOrderFaceDown},
+    {"page-delivery", "reverse-order-face-up", kSet, key::kOutputOrder, kReverseOrderFaceUp},
+    {"page-delivery", "same-order-face-up", kSet, key::kOutputOrder, kSameOrderFaceUp},
+    {"page-delivery", "reverse-order-face-down", kSet, key::kOutputOrder, kReverseOrderFaceDown},
     // Two words of the spooler's own; the order is the converters' doing.
     {"page-delivery", "same-order", kNothing},
     {"page-delivery", "reverse-order", kNothing},
@@ -286,6 +286,11 @@ void MapWords(ipp_t* job, Mapping* mapping) {
     // An explicit resolution is worth more than the one that a quality stands for.
     const bool resolved = name == "print-quality" && attribute.Text() == "5" &&
                           FindAttribute(job, "printer-resolution");
+    if (name == "print-content-optimize" && attribute && attribute.Text() != "auto" &&
+        FindAttribute(job, "print-rendering-intent")) {
+      mapping->Drop(name, "print-rendering-intent says how colors are rendered");
+      continue;
+    }
     if (attribute && !resolved) MapWord(attribute, name, mapping);
   }
   if (const Attribute intent = FindAttribute(job, "print-rendering-intent"))

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <iterator>
+#include <set>
 
 #include "Source/TicketNames.h"
 #include "StandardTicket/AttributeTable.h"
@@ -163,14 +164,17 @@ class Wishes {
 void ReadFinishings(ipp_t* job, Wishes* wishes, Mapping* mapping) {
   const Attribute attribute = FindAttribute(job, "finishings");
   constexpr int kMost = 100;  // more than there are values
+  std::set<std::string> seen;
   for (int i = 0; i < std::min(attribute.count(), kMost); ++i) {
     const std::string value = attribute.Text(i).value_or("");
+    if (!seen.insert(value).second) continue;
     if (const Finishing* finishing = Find(value)) {
       wishes->Add(*finishing, Shown("finishings", finishing->name));
     } else {
       mapping->Drop(Shown("finishings", value), "it is no registered value");
     }
   }
+  if (attribute.count() > kMost) mapping->Drop("finishings", "only its first hundred values count");
 }
 
 /// An edge and what is done along it, by the number of places.

@@ -119,6 +119,10 @@ void Ppd::Mark(int num_options, cups_option_t* options) {
   cupsMarkOptions(file_.get(), num_options, options);
 }
 
+void Ppd::MarkChoice(const char* option, const char* choice) {
+  if (file_ != nullptr) ppdMarkOption(file_.get(), option, choice);
+}
+
 std::optional<PpdPageSize> Ppd::MarkedPageSize() const {
   const ppd_size_t* size = file_ != nullptr ? ppdPageSize(file_.get(), nullptr) : nullptr;
   if (size == nullptr) return std::nullopt;

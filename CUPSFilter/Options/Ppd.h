@@ -40,6 +40,8 @@ class Ppd {
 
   /// Marks the PPD's defaults and then the job's options.
   void Mark(int num_options, cups_option_t* options);
+  /// Marks one choice more, such as "A4" or "Custom.4711".
+  void MarkChoice(const char* option, const char* choice);
   /// The marked page size.
   std::optional<PpdPageSize> MarkedPageSize() const;
   bool IsMarked(const char* option, const char* choice) const;

@@ -115,7 +115,7 @@ IppMessage Exchange(http_t* http, int job, const char* user, std::string* why) {
   }
   IppMessage answer(cupsGetResponse(http, "/"));
   if (!answer || ippGetState(answer.get()) != IPP_STATE_DATA) {
-    *why = "no answer in " + std::to_string(kRequestMilliseconds) + " ms";
+    *why = "no whole answer in " + std::to_string(kRequestMilliseconds) + " ms";
     return nullptr;
   }
   if (ippGetStatusCode(answer.get()) > IPP_STATUS_OK_CONFLICTING) {

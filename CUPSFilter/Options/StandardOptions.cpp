@@ -6,6 +6,8 @@
 
 #include "CUPSFilter/Options/SchedulerRequest.h"
 #include "Platform/Clock.h"
+#include "Source/TicketNames.h"
+#include "StandardTicket/Attribute.h"
 
 namespace zarvo {
 namespace {
@@ -36,9 +38,25 @@ std::map<std::string, std::string_view> Outranking(const OptionList& chosen,
   return values;
 }
 
+/// The spooler has the converters reverse the pages of a job that asks for it; the printer must not
+/// reverse them again, and only delivers them on the face that was asked for.
+void KeepReversedOrder(const OptionList& options, StandardTicket* ticket) {
+  const char* order = cupsGetOption("OutputOrder", options.size(), options.data());
+  if (order == nullptr || std::string_view(order) != "Reverse") return;
+  const std::string name = std::string(key::kOutputOrder) + "..n";
+  for (StandardSetting& setting : ticket->settings) {
+    if (setting.name != name) continue;
+    if (setting.value == std::to_string(kReverseOrderFaceUp))
+      setting.value = std::to_string(kSameOrderFaceUp);
+    if (setting.value == std::to_string(kReverseOrderFaceDown))
+      setting.value = std::to_string(kSameOrderFaceDown);
+  }
+}
+
 }  // namespace
 
-StandardJob ReadStandardJob(const char* job_id, const char* user, const OptionList& options) {
+StandardJob ReadStandardJob(const char* job_id, const char* user, const OptionList& options,
+                            Ppd* ppd) {
   StandardJob job;
   std::string why;
   IppMessage message = UnderScheduler() ? RequestJobAttributes(job_id, user, &why) : nullptr;
@@ -46,7 +64,11 @@ StandardJob ReadStandardJob(const char* job_id, const char* user, const OptionLi
   if (!message) message.reset(ippNew());
   for (ipp_attribute_t* known = ippFirstAttribute(message.get()); known != nullptr;
        known = ippNextAttribute(message.get())) {
-    if (const char* name = ippGetName(known)) job.ownNames.insert(name);
+    const char* name = ippGetName(known);
+    if (name == nullptr) continue;
+    job.ownNames.insert(name);
+    const std::optional<std::string> choice = Attribute(known).Text();
+    if (choice && ppd->HasOption(name)) ppd->MarkChoice(name, choice->c_str());
   }
   OptionNames told = job.ownNames;
   for (int i = 0; i < options.size(); ++i) {
@@ -56,6 +78,7 @@ StandardJob ReadStandardJob(const char* job_id, const char* user, const OptionLi
       cupsEncodeOption(message.get(), IPP_TAG_JOB, option.name, option.value);
   }
   job.ticket = MapStandardAttributes(message.get(), SystemClock().LocalSeconds());
+  KeepReversedOrder(options, &job.ticket);
   if (!why.empty()) {
     job.ticket.not_honoured.push_back({"collections such as media-col, cover-front or overrides",
                                        "if the job has any, they are missing, because the "

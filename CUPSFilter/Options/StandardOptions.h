@@ -9,6 +9,7 @@
 // scheduler tells count first, then those among the filter's options.
 #pragma once
 
+#include "CUPSFilter/Options/Ppd.h"
 #include "CUPSFilter/Options/PpdTicket.h"
 #include "StandardTicket/StandardTicket.h"
 
@@ -20,8 +21,10 @@ struct StandardJob {
 };
 
 /// Reads the job's standard attributes. `options` are the filter's. Asks the scheduler when there
-/// is one; without an answer that is told among what could not be honoured.
-StandardJob ReadStandardJob(const char* job_id, const char* user, const OptionList& options);
+/// is one; without an answer that is told among what could not be honoured. With one, the choices
+/// that the job names itself are marked in the PPD, in place of those that the spooler derived.
+StandardJob ReadStandardJob(const char* job_id, const char* user, const OptionList& options,
+                            Ppd* ppd);
 
 /// The attributes' settings as options, and in `not_honoured` those that the job's own choices
 /// outrank with another value. A text that a choice leaves empty (as "secure" does with the PIN)

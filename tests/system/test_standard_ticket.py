@@ -1,19 +1,47 @@
 # SPDX-License-Identifier: Apache-2.0
-"""IPP's standard job attributes: the page that documents them, and real jobs with them.
+"""IPP's standard job attributes: the page that documents them, jobs through a real spooler, and
+schedulers that do not answer.
 
-With ZARVO_UPDATE=1 the table of the page is written anew.
+With ZARVO_UPDATE=1 the table of the page and the expected lines are written anew.
 """
 
 import os
 import pathlib
+import re
+import socket
+import struct
 import subprocess
+import tempfile
+import threading
+import time
+import tomllib
 import unittest
 
-from cupsd import BIN
+from cupsd import BIN, PrivateCupsd, Printer
 
 SOURCE = pathlib.Path(os.environ["ZARVO_SOURCE"])
+PPD = BIN.parent / "ppd/zarvo.ppd"
 PAGE = SOURCE / "docs/standard-ticket.md"
 HEADING = "|---|---|---|\n"
+JOB = SOURCE / "tests/golden/input/plain.ps"
+TABLE = SOURCE / "tests/system/standard_ticket.toml"
+EXPECTED = SOURCE / "tests/system/expected/standard_ticket.txt"
+REQUEST = """{{
+OPERATION Print-Job
+VERSION 2.0
+GROUP operation-attributes-tag
+ATTR charset attributes-charset utf-8
+ATTR naturalLanguage attributes-natural-language en
+ATTR uri printer-uri $uri
+ATTR name requesting-user-name alice
+ATTR name job-name "the job"
+{operation}
+GROUP job-attributes-tag
+{job}
+FILE $filename
+STATUS successful-ok
+}}
+"""
 
 
 class Page(unittest.TestCase):
@@ -27,6 +55,171 @@ class Page(unittest.TestCase):
             PAGE.write_text(page + HEADING + made)
             return
         self.assertEqual(table.splitlines(), made.splitlines())
+
+
+class Spooler(unittest.TestCase):
+    def setUp(self):
+        self.cupsd = self.enterContext(PrivateCupsd({"TZ": "UTC"}))
+        self.printer = self.enterContext(Printer())
+        self.cupsd.add_queue("zarvo", PPD, self.printer.uri)
+        self.folder = pathlib.Path(self.enterContext(tempfile.TemporaryDirectory()))
+        self.jobs = 0
+
+    def ipptool(self, text):
+        lines = text.strip().splitlines()
+        operation = [line.replace("OPERATION", "ATTR") for line in lines if "OPERATION" in line]
+        job = [line for line in lines if "OPERATION" not in line]
+        request = self.folder / "request.test"
+        request.write_text(REQUEST.format(operation="\n".join(operation), job="\n".join(job)))
+        self.cupsd.run("ipptool", "-t", "-f", str(JOB),
+                       f"ipp://127.0.0.1:{self.cupsd.port}/printers/zarvo", str(request))  # fmt: skip
+
+    def lp(self, text):
+        options = [word for option in re.findall(r"(?:[^ \\]|\\.)+", text) for word in ("-o", option)]
+        options = [option.replace("\\ ", " ") if "{" in option else option for option in options]
+        self.cupsd.print("zarvo", JOB, ["-U", "alice", "-t", "the job", *options])
+
+    def head_and_state(self):
+        """The lines ahead of the PostScript of the next job, and what its state says."""
+        job = self.printer.wait(timeout=20).decode("latin-1")
+        self.jobs += 1
+        self.cupsd.wait_for_log(f"[Job {self.jobs}] Job completed.")
+        state = self.cupsd.run("lpstat", "-l", "-W", "completed", "-o")
+        entry = state.split(f"zarvo-{self.jobs} ")[1].split("\nzarvo-")[0]
+        status = re.search(r"Status: (.*)", entry)
+        told = status.group(1) if status else ""
+        notices = re.split(r" ?\(\d+\) ", told)[1:] if told.startswith("Not as asked") else [told]
+        # The library that shows notices cuts long ones.
+        return job[: job.index("%!PS-Adobe")].splitlines(), [n for n in notices if n]
+
+    def test_what_reaches_the_printer(self):
+        plain = []  # the lines of a job without attributes, and of one with an XML ticket
+        for attributes in ("", "ATTR boolean com.zarvo.print.JTMLOptions..d_JTMLOptionAll..b true"):
+            self.ipptool(attributes)
+            plain += self.head_and_state()[0]
+        made = []
+        for case in tomllib.loads(TABLE.read_text())["case"]:
+            for way in ("ipp", "lp"):
+                if way not in case:
+                    continue
+                (self.ipptool if way == "ipp" else self.lp)(case[way])
+                with self.subTest(way=way, job=case[way]):
+                    head, told = self.head_and_state()
+                lines = [line for line in head if line not in plain] + ["told: " + t for t in told]
+                if way == "ipp":
+                    by_ipp = lines
+                    made += ["== " + " ".join(case["ipp"].split()), *lines]
+                elif lines != by_ipp:
+                    made += ["== lp " + case["lp"], *lines]
+        if os.environ.get("ZARVO_UPDATE"):
+            EXPECTED.write_text("\n".join(made) + "\n")
+            return
+        self.assertEqual("\n".join(made), EXPECTED.read_text().rstrip("\n"))
+
+
+HEADER = b"HTTP/1.1 %s\r\nContent-Type: application/ipp\r\nContent-Length: %d\r\n\r\n"
+# The beginning of an answer that is fine as far as it goes.
+ANSWER = b"\x02\x00\x00\x00\x00\x00\x00\x01\x01\x47\x00\x12attributes-charset\x00\x05utf-8"
+
+
+def drip(connection):
+    connection.sendall(HEADER % (b"200 OK", 1 << 30))
+    while True:
+        connection.sendall(b"\x01\x47\x00\x12")
+        time.sleep(0.02)
+
+
+FAULTS = {
+    "never answers": lambda connection: time.sleep(30),
+    "drips": drip,
+    "hangs up": lambda connection: connection.close(),
+    "is no scheduler": lambda connection: connection.sendall(b"220 mail ready\r\n" * 99),
+    "is another server": lambda connection: connection.sendall(
+        HEADER % (b"404 Not Found", 5) + b"sorry"),
+    "wants a password": lambda connection: connection.sendall(
+        HEADER.replace(b"\r\n\r\n", b"\r\nWWW-Authenticate: Basic realm=x\r\n\r\n")
+        % (b"401 Unauthorized", 0)),
+    "cuts its answer": lambda connection: connection.sendall(
+        HEADER % (b"200 OK", len(ANSWER)) + ANSWER),
+    "answers rubbish": lambda connection: connection.sendall(
+        HEADER % (b"200 OK", 4096) + bytes(range(256)) * 16),
+    "knows no such job": lambda connection: connection.sendall(
+        HEADER % (b"200 OK", 9) + b"\x02\x00\x04\x06\x00\x00\x00\x01\x03"),
+}  # fmt: skip
+
+
+def attribute(tag, name, value):
+    return struct.pack(f">BH{len(name)}sH", tag, len(name), name, len(value)) + value
+
+
+def collections(name, members):
+    """A set of collections, each given by its members' encoded values."""
+    for index, values in enumerate(members):
+        yield attribute(0x34, b"" if index else name, b"")
+        for member, tag, value in values:
+            yield attribute(0x4A, b"", member) + attribute(tag, b"", value)
+        yield attribute(0x37, b"", b"")
+
+
+def serve_once(server, answer):
+    """Takes one connection and lets `answer` have it."""
+
+    def serve():
+        connection, _ = server.accept()
+        try:
+            with connection:
+                while not connection.recv(1 << 16).endswith(b"\x03"):
+                    pass
+                answer(connection)
+        except OSError:
+            pass
+
+    threading.Thread(target=serve, daemon=True).start()
+    return {"CUPS_SERVER": "localhost", "IPP_PORT": str(server.getsockname()[1])}
+
+
+class Faults(unittest.TestCase):
+    def print(self, **environment):
+        with tempfile.TemporaryDirectory() as folder:
+            done = subprocess.run(
+                [BIN / "zarvofilter", "7", "user", "title", "1", "finishings=28", JOB],
+                env={"PPD": str(PPD), "TMPDIR": folder, "CUPS_REQUESTROOT": folder, **environment},
+                capture_output=True, timeout=25)  # fmt: skip
+        self.assertEqual(done.returncode, 0, done.stderr)
+        self.assertTrue(done.stdout.endswith(b"EOJ\n\x1b%-12345X\n"))
+        log = done.stderr.decode().splitlines()
+        return done.stdout, [line for line in log if line.startswith("WARNING: ")]
+
+    def test_the_job_prints_and_what_may_be_missing_is_told(self):
+        def check(**environment):
+            output, warnings = self.print(**environment)
+            self.assertIn(b'enum">28</value>', output)
+            self.assertEqual(len(warnings), 1)
+            self.assertIn("the scheduler did not tell", warnings[0])
+
+        for name, answer in FAULTS.items():
+            with self.subTest(fault=name), socket.create_server(("127.0.0.1", 0)) as server:
+                check(**serve_once(server, answer))
+        for server in ("/nowhere/cups.sock", "print.example.org", "localhost"):
+            with self.subTest(server=server):
+                check(CUPS_SERVER=server, IPP_PORT="1")
+
+    def test_sets_of_ten_thousand(self):
+        """What is too much is left out and told."""
+        page, keyword, number = b"insert-after-page-number", 0x44, 0x21
+        answer = ANSWER + b"\x02" + b"".join(
+            [*collections(b"insert-sheet", [[(page, number, struct.pack(">i", 1))]] * 10000),
+             *collections(b"overrides", [[(b"pages", 0x33, struct.pack(">ii", 2 * i + 1, 2 * i + 1)),
+                                          (b"sides", keyword, b"one-sided")] for i in range(10000)]),
+             attribute(0x23, b"finishings", struct.pack(">i", 20)),
+             *[attribute(0x23, b"", struct.pack(">i", 22))] * 9999]) + b"\x03"  # fmt: skip
+        with socket.create_server(("127.0.0.1", 0)) as server:
+            output, warnings = self.print(**serve_once(server, lambda connection: connection.sendall(
+                HEADER % (b"200 OK", len(answer)) + answer)))  # fmt: skip
+        self.assertEqual(output.count(b"<insert-count "), 1000)
+        self.assertEqual(output.count(b"<pages "), 1000)
+        self.assertIn(b'enum">20</value>', output)
+        self.assertTrue(1 < len(warnings) < 60, warnings)
 
 
 if __name__ == "__main__":
