@@ -168,8 +168,9 @@ def serve_once(server, answer):
         connection, _ = server.accept()
         try:
             with connection:
-                while not connection.recv(1 << 16).endswith(b"\x03"):
-                    pass
+                while not (piece := connection.recv(1 << 16)).endswith(b"\x03"):
+                    if piece.endswith(b"\r\n\r\n"):
+                        connection.sendall(b"HTTP/1.1 100 Continue\r\n\r\n")
                 answer(connection)
         except OSError:
             pass
