@@ -55,7 +55,9 @@ class Drawing(ZarvoTest):
             NotesText=f"One\n\nTwo\n{HEBREW}\n{JAPANESE}\n{ARABIC} é\n{'W' * 120} {WORDS}",
         )
         places = run(["pdftohtml", "-xml", "-i", "-stdout", "-zoom", "1", pdf]).decode()
-        self.assert_golden("fax-cover.txt", "\n".join(re.findall("<(?:page|text) .*", places)) + "\n")
+        # How wide a text is said to be depends on the reader's version.
+        found = re.sub(r'(<text .*?) width="\d+"', r"\1", "\n".join(re.findall("<(?:page|text) .*", places)))
+        self.assert_golden("fax-cover.txt", found + "\n")
 
     def test_a_full_page_takes_no_more(self):
         full = self.draw(SenderText=WORDS, RecipientText="more", NotesText="more")

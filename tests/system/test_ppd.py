@@ -116,7 +116,9 @@ class Choices(unittest.TestCase):
         done = subprocess.run(["cupstestppd", "-W", "filters", str(PPD)], capture_output=True, text=True)
         said = done.stdout.splitlines()
         self.assertIn("PASS", said[0], done.stdout)
-        self.assertEqual([line for line in said[1:] if "zarvofilter" not in line], [])
+        # Newer versions know a rounded name for one size; the exact one is what queues have stored.
+        known = re.compile('zarvofilter|"195.09x269.88mm" should be the Adobe standard name')
+        self.assertEqual([line for line in said[1:] if not known.search(line)], [])
 
     def test_translations_are_whole(self):
         """Every text of the source is in each catalogue."""
