@@ -9,7 +9,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <memory>
+#include <fstream>
 
 namespace zarvo {
 namespace {
@@ -25,12 +25,11 @@ Names ConfiguredNames() {
   Names names;
   const char* root = std::getenv("CUPS_SERVERROOT");
   const std::string path = std::string(root != nullptr ? root : "/etc/cups") + "/cups-files.conf";
-  const std::unique_ptr<std::FILE, decltype(&std::fclose)> file(std::fopen(path.c_str(), "re"),
-                                                                &std::fclose);
-  char line[1024], value[256];
-  while (file && std::fgets(line, sizeof line, file.get()) != nullptr) {
-    if (std::sscanf(line, " User %255s", value) == 1) names.user = value;
-    if (std::sscanf(line, " Group %255s", value) == 1) names.group = value;
+  std::ifstream file(path);
+  char value[256];
+  for (std::string line; std::getline(file, line);) {
+    if (std::sscanf(line.c_str(), " User %255s", value) == 1) names.user = value;
+    if (std::sscanf(line.c_str(), " Group %255s", value) == 1) names.group = value;
   }
   return names;
 }
