@@ -1,5 +1,5 @@
 # The front door; everything else is CMake (see CMakePresets.json).
-.PHONY: build setup demo test bench pictures install clean format check-format asan fuzz load deb test-packages
+.PHONY: build setup demo test bench pictures install clean format check-format asan fuzz load deb test-packages test-debian
 JOBS ?= $(shell nproc)
 SOURCES = $(shell git ls-files '*.cpp' '*.h')
 
@@ -25,12 +25,16 @@ install: build
 	@cmake --install build --strip
 
 # Debian packages in build/deb/.
-deb: build
-	@Tools/build-deb build build/deb
+deb: setup
+	@Tools/build-deb build/deb
 
-# Builds the packages, installs them on a bare Debian 12 in a folder of its own and prints.
+# Installs the packages on a bare Debian in a folder of its own and prints.
 test-packages: deb
-	@ctest --preset release -C Package -R '^package$$'
+	@python3 tests/package/run.py build/deb
+
+# All of it on every Debian and machine that is supported; SYSTEMS picks some: 12 13 arm64 s390x.
+test-debian: setup
+	@Tools/test-debian $(SYSTEMS)
 
 # The tests once more, every program with the address and undefined-behaviour sanitizers.
 asan:
@@ -67,4 +71,6 @@ check-format:
 	else echo "check-format: not checked, $(FORMATTER) is not installed"; fi
 
 clean:
+	@# What test-debian leaves belongs to root.
+	@[ -O build/debian -o ! -d build/debian ] || sudo rm -rf build/debian
 	rm -rf build build-debug build-asan build-fuzz demo-output

@@ -1,12 +1,12 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""Builds the Debian packages, installs them on a bare Debian 12 and prints a job as a new user would.
+"""Examines the Debian packages, installs them on a bare Debian and prints a job as a new user would.
 
-    run.py BUILD_FOLDER
+    run.py FOLDER_OF_PACKAGES
 
-The bare system is made by debootstrap in a temporary folder, which takes root and a package mirror.
-Where that cannot be had the packages are still built and examined; the rest is told as skipped (exit
-status 77), or as failed when ZARVO_REQUIRE_CHROOT is set.
+The bare system, of the release that this machine has, is made by debootstrap in a temporary folder,
+which takes root and a package mirror. Where that cannot be had the packages are still examined; the
+rest is told as skipped, or as failed when ZARVO_REQUIRE_CHROOT is set.
 """
 
 import os
@@ -18,17 +18,14 @@ import sys
 import tempfile
 import time
 
-BUILD = pathlib.Path(sys.argv[1]).resolve()
+PACKAGES = pathlib.Path(sys.argv[1]).resolve()
 SOURCE = pathlib.Path(__file__).resolve().parents[2]
-os.environ["ZARVO_BIN"] = str(BUILD / "bin")
-sys.path.insert(0, str(SOURCE / "tests/system"))
+sys.path[:0] = [str(SOURCE / "tests/system"), str(SOURCE / "Tools")]
+os.environ.setdefault("ZARVO_BIN", str(SOURCE / "build/bin"))
+from bare_debian import BareDebian, own_release  # noqa: E402
 from cupsd import CONFIGURATION, PrivateCupsd, Printer, free_port  # noqa: E402
 
-SKIPPED = 77
 STEPS = []
-# /proc is mounted for one command alone: the mount is gone with it, and nothing that clears the
-# folder away can ever reach through it.
-PRIVATE_MOUNTS = ["unshare", "--mount", "--propagation", "private"]
 # Filters of the spooler's own user must find nothing writable by others.
 MODES = {
     "zarvo-filter": {
@@ -69,11 +66,6 @@ def run(*command, **options):
     return done.stdout
 
 
-def build_packages(folder):
-    run(SOURCE / "Tools/build-deb", BUILD, folder, cwd=SOURCE)
-    return {name: next(folder.glob(f"{name}_*.deb")) for name in MODES}
-
-
 def examine(packages):
     faults = subprocess.run(["lintian", "--allow-root", "--fail-on", "error", *packages.values()],
                             capture_output=True, text=True)
@@ -88,34 +80,11 @@ def examine(packages):
             check(listed.get(path) == mode, f"{path}: {listed.get(path)}, not {mode}")
 
 
-class Chroot:
-    """A bare Debian 12 in a folder."""
-
-    def __init__(self, root):
-        self.root = root
-
-    def make(self):
-        run(*PRIVATE_MOUNTS, "debootstrap", "--variant=minbase", "bookworm", self.root, timeout=900)
-        # The spooler's users must be able to enter it.
-        self.root.chmod(0o755)
-        # The machine's own mirror, and no services at installation.
-        for name in ("sources.list.d/debian.sources", "sources.list"):
-            source = pathlib.Path("/etc/apt", name)
-            if source.exists() and source.stat().st_size:
-                (self.root / "etc/apt/sources.list").unlink(missing_ok=True)
-                shutil.copy(source, self.root / "etc/apt" / name)
-        policy = self.root / "usr/sbin/policy-rc.d"
-        policy.write_text("#!/bin/sh\nexit 101\n")
-        policy.chmod(0o755)
-
-    def command(self, *command):
-        inside = 'mount -t proc proc "$0/proc"; exec chroot "$0" "$@"'
-        return [*PRIVATE_MOUNTS, "sh", "-c", inside, str(self.root), *map(str, command)]
+class Bare(BareDebian):
+    """A bare Debian in a folder, of this machine's release."""
 
     def run(self, *command, **variables):
-        environment = {"PATH": "/usr/sbin:/usr/bin:/sbin:/bin", "HOME": "/root", "LC_ALL": "C.UTF-8",
-                       "DEBIAN_FRONTEND": "noninteractive", **variables}
-        return run(*self.command(*command), env=environment, timeout=900)
+        return run(*self.command(*command, **variables), timeout=900)
 
     def files(self):
         """Every path with the product's name in it."""
@@ -202,10 +171,10 @@ def use_on_bare_system(packages):
     if shutil.which("debootstrap") is None:
         return "debootstrap is not installed"
     with tempfile.TemporaryDirectory(prefix="zarvo-debian-") as scratch:
-        system = Chroot(pathlib.Path(scratch))
+        system = Bare(scratch, own_release())
         try:
             step("debootstrap", system.make)
-        except (AssertionError, subprocess.TimeoutExpired) as error:
+        except subprocess.SubprocessError as error:
             return f"debootstrap failed: {error}"
         step("apt install of both packages", lambda: install(system, packages))
         use(system)
@@ -214,16 +183,13 @@ def use_on_bare_system(packages):
 
 
 def main():
-    folder = BUILD / "test-output/packages"
-    folder.parent.mkdir(exist_ok=True)
-    packages = step("make deb", lambda: build_packages(folder))
+    packages = {name: next(PACKAGES.glob(f"{name}_*.deb")) for name in MODES}
     step("lintian, owners and modes", lambda: examine(packages))
     reason = use_on_bare_system(packages)
-    (BUILD / "test-output/package-steps.txt").write_text("\n".join(STEPS) + "\n")
+    (PACKAGES / "steps.txt").write_text("\n".join(STEPS) + "\n")
     if reason:
         print(f"SKIPPED: installing on a bare Debian: {reason}")
-        return 1 if os.environ.get("ZARVO_REQUIRE_CHROOT") else SKIPPED
-    return 0
+    return int(bool(reason and os.environ.get("ZARVO_REQUIRE_CHROOT")))
 
 
 if __name__ == "__main__":
