@@ -1,11 +1,20 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CUPSFilter/CopyPass/LineScan.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
 
 namespace zarvo {
 namespace {
+
+// Taken apart lane by lane, as on an s390x that may lack vectors, blocks would cost far more than
+// bytes.
+#if defined(__SSE2__) || defined(__ARM_NEON) || defined(__ALTIVEC__) || defined(__VEC__)
+constexpr bool kHasVectors = true;
+#else
+constexpr bool kHasVectors = false;
+#endif
 
 // A vector of bytes; the compiler maps it to whatever the machine has.
 using Bytes = std::uint8_t __attribute__((vector_size(16)));
@@ -62,7 +71,7 @@ struct Structure {
 template <class Wanted>
 const char* Next(const char* from, const char* end) {
   constexpr int kBlock = sizeof(Bytes);
-  while (from < end) {
+  while (kHasVectors && from < end) {
     // Two blocks a turn: one test and branch for both.
     const Mask first = Wanted::At(from);
     const Mask second = Wanted::At(from + kBlock);
@@ -74,7 +83,8 @@ const char* Next(const char* from, const char* end) {
     }
     from += 2 * kBlock;
   }
-  return end;
+  while (from < end && !Wanted::Is(from)) ++from;
+  return std::min(from, end);
 }
 
 }  // namespace
