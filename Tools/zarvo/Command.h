@@ -34,6 +34,7 @@ void SetUpPrint(CLI::App& app, Action* action);
 void SetUpWatermark(CLI::App& app, Action* action);
 void SetUpRecipient(CLI::App& app, Action* action);
 void SetUpFax(CLI::App& app, Action* action);
+void SetUpWhy(CLI::App& app, Action* action);
 void SetUpDoctor(CLI::App& app, Action* action);
 void SetUpManual(CLI::App& app, Action* action);
 

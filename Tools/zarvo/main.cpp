@@ -108,6 +108,8 @@ std::span<const Command> Commands() {
        &SetUpRecipient},
       {"fax", "See the cover sheet of a fax", "zarvo fax preview fax.json --output cover.pdf",
        &SetUpFax},
+      {"why", "Say what became of a job and what was left out of it",
+       "zarvo why\nzarvo why office-12\nzarvo why 12 --json", &SetUpWhy},
       {"doctor", "Check the installation and say what to do", "zarvo doctor\nzarvo doctor --json",
        &SetUpDoctor},
       {"manual", "Write manual pages and shell completion",

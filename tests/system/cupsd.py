@@ -216,6 +216,16 @@ PreserveJobFiles No
         answer = self.run("lp", "-d", queue, *options, str(file))
         return int(answer.split("-")[-1].split()[0])
 
+    def wait_until_done(self, job, timeout=60):
+        """Until the job waits for nothing any more: it is printed, or was stopped."""
+        for _ in range(timeout * 10):
+            if f"-{job} " in self.run("lpstat", "-W", "completed", "-o"):
+                return
+            if f"[Job {job}] Job stopped" in self.log():
+                return
+            time.sleep(0.1)
+        raise TimeoutError(f"job {job} is still under way")
+
     def wait_for_log(self, text, timeout=120):
         for _ in range(timeout * 10):
             if text in self.log():

@@ -9,7 +9,7 @@ import subprocess
 import tempfile
 import unittest
 
-from cupsd import BIN
+from cupsd import BIN, PrivateCupsd, Printer
 
 GOLDEN = pathlib.Path(os.environ["ZARVO_SOURCE"]) / "tests/golden"
 PPD = BIN.parent / "ppd/zarvo.ppd"
@@ -169,6 +169,51 @@ class Secrets(unittest.TestCase):
                 status, output, log = self.run_filter(
                     "BookletLayout=LeftToRight", preexec_fn=lambda: resource.setrlimit(*limit))
                 self.assertEqual(status, 0 if output.endswith(b"EOJ\n\x1b%-12345X\n") else 1, log)
+
+
+class Person(unittest.TestCase):
+    """What somebody without any right learns of a job."""
+
+    JOBS = [  # options, exit status of "why", what it says, in order
+        ("-o PageSize=A5 -o JobPIN=Custom.0391", 0, ["office-1 was printed.\n"]),
+        ("-o job-password=0391", 0, ["was printed."]),
+        ("-o Staple=TopLft", 1, ["was printed; not as asked:", "\n  - option Staple: no choice"]),
+        ("-o Staple=TopLft -o siides=x", 1, ["- option siides: ", "\n  - option Staple: "]),
+        ("-o JobType=Secure", 1, ["was not printed; the reason:", "a secure job needs a PIN",
+                                  "-> print it again", "cancel office-5"]),
+        ("-o JobPIN=Custom.391", 1, ["JobPIN: a PIN takes 4 to 10 digits"]),
+        ("-o FaxNumber=Custom", 1, ["would come out on paper"]),
+        ("", 0, ["was printed."]),  # nothing is left of those before
+    ]  # fmt: skip
+
+    def test_why(self):
+        with PrivateCupsd() as cupsd, Printer() as printer:
+            cupsd.add_queue("office", PPD, printer.uri)
+            why = [str(BIN / "zarvo"), "why"]
+            if os.geteuid() == 0:
+                why = ["setpriv", "--reuid=nobody", "--clear-groups", "env",
+                       f"CUPS_SERVER=127.0.0.1:{cupsd.port}", *why]  # fmt: skip
+            self.assertIn("no job of yours", self.ask(cupsd, why, 2))
+            printed = 0
+            for number, (options, status, wanted) in enumerate(self.JOBS, 1):
+                with self.subTest(options=options):
+                    cupsd.print("office", GOLDEN / "input/plain.ps", options.split())
+                    cupsd.wait_until_done(number)
+                    said = self.ask(cupsd, [*why, f"office-{number}"], status)
+                    for text in wanted:
+                        self.assertIn(text, said)
+                        said = said[said.index(text):]
+                    printed += "was printed" in wanted[0]
+            self.assertIn('-8 "plain.ps" was printed', self.ask(cupsd, [str(BIN / "zarvo"), "why"], 0))
+            jobs = printer.wait(printed)
+            self.assertEqual([b"SECURE_PRINT" in job for job in jobs[:3]], [True, True, False])
+            self.assertIn("none", cupsd.run("lpoptions", "-p", "office").split("state-reasons=")[1])
+
+    def ask(self, cupsd, command, status):
+        environment = {**os.environ, "CUPS_SERVER": f"127.0.0.1:{cupsd.port}"}
+        done = subprocess.run(command, env=environment, capture_output=True, text=True, timeout=60)
+        self.assertEqual(done.returncode, status, done.stdout + done.stderr)
+        return done.stdout + done.stderr
 
 
 if __name__ == "__main__":
