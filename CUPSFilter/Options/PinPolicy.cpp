@@ -253,11 +253,11 @@ std::string TypedPinFault(std::string_view pin) {
 
 ScrambledPin WhatScramblingMakes(std::string_view pin) {
   std::string scrambled(Utf8Prefix(pin, kLongestPassword));
-  const std::size_t length = scrambled.size();
   p_encrypt(scrambled.data());
-  if (scrambled.find_first_of("\x1b\n\r\f\"") != std::string::npos) return ScrambledPin::kUnsafe;
-  return length < pin.size() || scrambled.find('\0') != std::string::npos ? ScrambledPin::kCut
-                                                                          : ScrambledPin::kWhole;
+  // What is behind a zero byte is never written.
+  const std::string_view written = scrambled.c_str();
+  if (written.find_first_of("\x1b\n\r\f\"") != written.npos) return ScrambledPin::kUnsafe;
+  return written.size() < pin.size() ? ScrambledPin::kCut : ScrambledPin::kWhole;
 }
 
 Judgement JudgePin(const JobRequest& request, const QueuePolicy& policy, Dictionary* ticket) {

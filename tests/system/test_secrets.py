@@ -78,6 +78,7 @@ REFUSED = {
 # The options of a job that prints otherwise than asked, and a part of each warning.
 TOLD = {
     f"{PIN}=qwerty {TYPE}=6": ["the PIN is cut"],
+    f"{PIN}=quality {TYPE}=6": ["the PIN is cut"],  # at the first letter; its "y" makes a line end
     f"{PIN}=12345678901234567890 {TYPE}=6": ["the PIN is cut"],
     "Stapel=TopLeft Staple=TopLft siides=x": ["siides", "did you mean Staple?", "did you mean TopLeft?"],
     "PageSize=Custom.300x400": ["PageSize: no choice Custom.300x400, the job is printed with A4"],
@@ -92,7 +93,7 @@ TOLD = {
     "com.zarvo.print.Gutter..a_5..n=1": ["com.zarvo.print.Gutter..a_5..n"],
     f"{TYPE}=12": ["job type 12"],
 }  # fmt: skip
-SECRETS = ("0391", "0392", "4711", "secret", "qwerty", "RESET", "12345678901")
+SECRETS = ("0391", "0392", "4711", "secret", "qwerty", "quality", "RESET", "12345678901")
 
 
 class Secrets(unittest.TestCase):

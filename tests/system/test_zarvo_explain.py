@@ -7,9 +7,9 @@ import unittest
 
 from zarvo import ALL_SECTIONS, ZarvoTest, document
 
-SECRETS = "S3CR|Tr0ub4dor|ACCT-77|4111222233"
+SECRETS = "73914826|Tr0ub4dor|ACCT-77|4111222233"
 JOBTYPE = "com.zarvo.print.JobType..d_"
-FULL = f"""{ALL_SECTIONS} {JOBTYPE}JobType..n=6 {JOBTYPE}SecurePrintPassword=S3CR
+FULL = f"""{ALL_SECTIONS} {JOBTYPE}JobType..n=6 {JOBTYPE}SecurePrintPassword=73914826
 com.zarvo.Act.On..n=3 com.zarvo.Act.UID=Tr0ub4dor com.zarvo.Act.AID=ACCT-77
 com.zarvo.Act.jtml.On..n=3 com.zarvo.Act.jtml.UID=Tr0ub4dor com.zarvo.Act.jtml.AID=ACCT-77
 com.zarvo.print.BannerPage..b=true com.zarvo.print.RequestOffset..b=false

@@ -134,7 +134,7 @@ class Preview(ZarvoTest):
 class Spooler(ZarvoTest):
     def test_print_and_queue(self):
         settings = self.path("s.json", {
-            "JobType": {"JobType": "secure", "SecurePrintPassword": "4 2'7"},
+            "JobType": {"JobType": "secure", "SecurePrintPassword": "0391"},
             "JTMLOptions": {"JTMLOptionAll": True},
             "JobNotesMessage": "a \"b\" 'c' \\ {d}, \u00e9",
         })
@@ -142,15 +142,21 @@ class Spooler(ZarvoTest):
         with PrivateCupsd() as cupsd, Printer() as printer:
             cupsd.add_queue("office", PPD, printer.uri)
             self.environment["CUPS_SERVER"] = f"127.0.0.1:{cupsd.port}"
-            self.run_zarvo("print", job, settings, "-d", "office", "-o", "sides=one-sided")
+            # Without another program, in whose arguments everybody could read the PIN.
+            path = self.environment.pop("PATH")
+            self.run_zarvo("print", job, settings, "-d", "office", "-o", "sides=one-sided", "-n", "2")
+            self.environment["PATH"] = path
             told = self.run_zarvo("explain", stdin=printer.wait())
+            self.run_zarvo("print", job, self.path("bad.json", '{"JobType": {"SecurePrintPassword": "qwerty"}}'),
+                           "-d", "office", status=2)
+            self.assertIn("4 to 10 digits", self.errors)
             self.assertIn("PIN: set", told)
             self.assertIn("message to the operator: a \"b\" 'c' \\ {d}, \u00e9", told)
             plan = self.run_zarvo("preview", job, "-s", settings, "-q", "office", "--output", "x.pdf")
             self.assertIn("2 pages on 2 sheets", plan)
             self.run_zarvo("preview", job, "-q", "nowhere", status=2)
             self.doctor(cupsd.serverbin / "filter")
-        self.run_zarvo("print", job, "-d", "office", status=1)  # lp's own status
+        self.run_zarvo("print", job, "-d", "office", status=2)  # nobody answers
 
     def doctor(self, filters):
         """Every fault is found, and none where there is none."""
@@ -188,7 +194,7 @@ class Manners(ZarvoTest):
     def test_help_and_usage(self):
         overview = self.run_zarvo("--help")
         for command in ("preview", "explain", "ticket", "print", "watermark", "recipient", "fax",
-                        "doctor", "manual"):
+                        "why", "doctor", "manual"):
             self.assertIn(f"\n  {command} ", overview)
             self.assertIn("Examples:", self.run_zarvo(command, "--help"))
         for wrong in ([], ["nonsense"], ["ticket"], ["explain", "--nonsense"], ["preview"]):
@@ -202,7 +208,7 @@ class Manners(ZarvoTest):
     def test_manual_pages_and_completion(self):
         self.run_zarvo("manual", "--man", "man")
         pages = sorted(pathlib.Path(self.scratch, "man").iterdir())
-        self.assertEqual(len(pages), 10)
+        self.assertEqual(len(pages), 11)
         told = subprocess.run(["groff", "-man", "-Tutf8", "-ww", *pages], capture_output=True)
         self.assertEqual(told.stderr, b"")
         script = self.path("try.bash", self.run_zarvo("manual", "--bash") + """

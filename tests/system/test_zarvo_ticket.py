@@ -91,7 +91,13 @@ class Ticket(ZarvoTest):
             '{"SpecialPages.FrontCover": {"Stock": {"Colour": 1}}}': "did you mean Color?",
             '{"FaxRecipientList": [{"FaxNumer": "1"}]}': "FaxRecipientList/0/FaxNumer: unknown",
             '{"JobLevelStock": {"Size": 9}}': "no stock has the code 9",
-            '{"JobType": {"JobType": "secure"}}': "needs a SecurePrintPassword",
+            '{"JobType": {"JobType": "secure"}}': "a secure job needs a PIN",
+            '{"JobType": {"JobType": "secure", "SecurePrintPassword": 391}}': "the PIN is no text",
+            '{"JobType": {"JobType": "secure", "SecurePrintPassword": "quality"}}': "PIN is cut",
+            '{"JobType": {"SecurePrintPassword": "abcdef"}}': "4 to 10 digits",
+            '{"JobType": {"JobType": "secure", "SecurePrintPassword": "jHYGC"}}': "end the printer",
+            '{"JobType": {"JobType": "proof"}, "job-password": "0391"}': "cannot keep a PIN",
+            '{"JobType": {"JobType": "fax"}, "FaxOptions": {"Resolution": 1}}': "no recipient",
             "com.zarvo.print.JobType..d_JobTyp..n=6": "did you mean JobType?",
         }.items():
             with self.subTest(ticket=ticket):

@@ -1,5 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
-// zarvo print: lp, with settings in the readable form.
+// zarvo print: like lp, with settings in the readable form. It speaks to the spooler itself,
+// because the arguments of a program, and so a PIN, can be read by everybody on the machine.
+#include <cups/cups.h>
+#include <fcntl.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -7,9 +10,12 @@
 #include <cstring>
 #include <memory>
 
+#include "CUPSFilter/Options/OptionList.h"
+#include "Platform/UniqueFd.h"
 #include "Tools/zarvo/Command.h"
 #include "Tools/zarvo/job/JobOptions.h"
-#include "Tools/zarvo/system/Run.h"
+#include "Tools/zarvo/ticket/TicketCheck.h"
+#include "Tools/zarvo/ticket/TicketText.h"
 
 namespace zarvo::tool {
 namespace {
@@ -22,24 +28,69 @@ struct Options {
   JobOptions options;
 };
 
+/// The user's own defaults for the queue, as lp takes them too.
+void AddDefaults(const std::string& queue, OptionList* options) {
+  const std::unique_ptr<cups_dest_t, void (*)(cups_dest_t*)> destination(
+      cupsGetNamedDest(CUPS_HTTP_DEFAULT, queue.c_str(), nullptr),
+      [](cups_dest_t* found) { cupsFreeDests(1, found); });
+  if (!destination) return;
+  for (int i = 0; i < destination->num_options; ++i) {
+    const cups_option_t& option = destination->options[i];
+    if (cupsGetOption(option.name, options->size(), options->data()) == nullptr)
+      options->Add(option.name, option.value);
+  }
+}
+
+int SpoolerFault(const std::string& queue) {
+  return Fail(queue, cupsLastErrorString(), "\"lpstat -e\" lists the queues");
+}
+
+/// Hands the file to the spooler's job.
+int SendFile(const Options& options, int job, int file) {
+  const std::string name = options.file == "-" ? "(stdin)" : options.file;
+  http_status_t status = cupsStartDocument(CUPS_HTTP_DEFAULT, options.queue.c_str(), job,
+                                           name.c_str(), CUPS_FORMAT_AUTO, 1);
+  char block[1 << 16];
+  ssize_t count = 0;
+  int error = 0;
+  while (status == HTTP_STATUS_CONTINUE) {
+    count = read(file, block, sizeof block);
+    if (count < 0 && errno == EINTR) continue;
+    if (count < 0) error = errno;
+    if (count <= 0) break;
+    status = cupsWriteRequestData(CUPS_HTTP_DEFAULT, block, static_cast<std::size_t>(count));
+  }
+  const ipp_status_t finished = cupsFinishDocument(CUPS_HTTP_DEFAULT, options.queue.c_str());
+  if (error == 0 && status == HTTP_STATUS_CONTINUE && finished <= IPP_STATUS_OK_CONFLICTING)
+    return kExitOk;
+  const int fault = error != 0 ? Fail(name, std::strerror(error)) : SpoolerFault(options.queue);
+  cupsCancelJob2(CUPS_HTTP_DEFAULT, options.queue.c_str(), job, 0);  // half a file must not print
+  return fault;
+}
+
 int Print(const Options& options) {
   const std::optional<std::string> text = OptionTextOf(options.options);
   if (!text) return kExitFailure;
-  const std::string program = FindProgram("lp");
-  if (program.empty()) return Fail("lp", "is not installed", "Install the package cups-client");
-  std::vector<std::string> arguments = {program, "-d", options.queue};
-  if (!text->empty()) arguments.insert(arguments.end(), {"-o", *text});
-  if (options.copies > 0) arguments.insert(arguments.end(), {"-n", std::to_string(options.copies)});
-  if (!options.title.empty()) arguments.insert(arguments.end(), {"-t", options.title});
-  arguments.insert(arguments.end(), {"--", options.file});
-  std::vector<char*> argv;
-  for (std::string& argument : arguments) argv.push_back(argument.data());
-  argv.push_back(nullptr);
-  // lp takes over: its messages, its questions and its status are the user's.
-  std::fflush(stdout);
-  execv(argv[0], argv.data());
-  return Fail(program, std::strerror(errno),
-              errno == E2BIG ? "The settings are too long for a command line" : "");
+  if (const std::string fault = SecretFault(TicketOfOptions(*text)); !fault.empty())
+    return Fail(options.options.settings.empty() ? "options" : options.options.settings, fault);
+  UniqueFd opened;
+  if (options.file != "-") {
+    opened = UniqueFd(open(options.file.c_str(), O_RDONLY | O_CLOEXEC));
+    if (!opened) return Fail(options.file, std::strerror(errno));
+  }
+  OptionList list = OptionList::Parse(text->c_str());
+  if (options.copies > 0) list.Add("copies", std::to_string(options.copies).c_str());
+  AddDefaults(options.queue, &list);
+  const std::string base =
+      options.file == "-" ? "(stdin)" : options.file.substr(options.file.rfind('/') + 1);
+  const std::string& title = options.title.empty() ? base : options.title;
+  const int job = cupsCreateJob(CUPS_HTTP_DEFAULT, options.queue.c_str(), title.c_str(),
+                                list.size(), list.data());
+  if (job == 0) return SpoolerFault(options.queue);
+  const int status = SendFile(options, job, opened ? opened.get() : STDIN_FILENO);
+  if (status == kExitOk)
+    std::printf("request id is %s-%d (1 file(s))\n", options.queue.c_str(), job);
+  return status;
 }
 
 }  // namespace

@@ -37,6 +37,9 @@ int Encode(const Options& options) {
   std::string error;
   const auto flat = FlattenTicket(*ticket, &error);
   if (!flat) return Fail("ticket", error);
+  if (const std::string fault = SecretFault(*ticket); !fault.empty())
+    std::fprintf(stderr, "zarvo: ticket: no queue should print this: %s\n",
+                 PrintableText(fault).c_str());
   std::string text;
   if (options.lines) {
     for (const FlatOption& option : *flat) text += OptionText({option}) + "\n";

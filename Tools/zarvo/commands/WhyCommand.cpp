@@ -61,13 +61,16 @@ int Why(const Options& options) {
   const bool failed = job->state == JobState::kStopped || job->state == JobState::kAborted;
   const int status = failed || !notices.empty() ? kExitFindings : kExitOk;
   if (options.json) {
-    const nlohmann::ordered_json json = {{"job", name},       {"title", job->title},
-                                         {"state", row.word}, {"notices", notices},
+    const nlohmann::ordered_json json = {{"job", name},
+                                         {"title", job->title},
+                                         {"state", row.word},
+                                         {"notices", notices},
                                          {"remedy", Remedy(row, name)}};
     std::printf("%s\n", json.dump(2, ' ', false, nlohmann::json::error_handler_t::replace).c_str());
     return status;
   }
-  std::printf("%s\n", PrintableText(name + (job->title.empty() ? " " : " \"" + job->title + "\" ") + row.word +
+  std::printf("%s\n", PrintableText(name + (job->title.empty() ? " " : " \"" + job->title + "\" ") +
+                                    row.word +
                                     (notices.empty() ? "." : std::string("; ") + row.message + ":"))
                           .c_str());
   for (const std::string& notice : notices) std::printf("  - %s\n", PrintableText(notice).c_str());

@@ -4,6 +4,8 @@
 #include <cstdlib>
 #include <span>
 
+#include "CUPSFilter/Header/JobTypeComments.h"
+#include "CUPSFilter/Options/PinPolicy.h"
 #include "Source/Mappings.h"
 #include "Tools/zarvo/job/Words.h"
 
@@ -191,9 +193,16 @@ class Explainer {
   void Remember(std::string_view name, std::string_view value) {
     if (name == "JOB_TYPE") secure_ = value.ends_with("SECURE_PRINT");
     if (name == "JOB_TYPE") fax_ = value.ends_with("FAX_SEND");
-    if (name == "JOB_PASSWORD") pin_ = true;
+    if (name == "JOB_PASSWORD") CheckPin(std::string(value));
     if (name == "FAX_DESTINATION_PHONE" || name == "FAX_MAILBOX") ++destinations_;
     if (name == "FAX_DESTINATION_PHONE" && value.empty()) Wrong("fax number without a digit");
+  }
+
+  void CheckPin(std::string pin) {
+    pin_ = true;
+    p_encrypt(pin.data());  // which undoes itself
+    if (!pin.empty() && !TypedPinFault(pin).empty())
+      Wrong("PIN: not 4 to 10 digits; other characters may be cut on their way to the printer");
   }
 
   std::string Account(const Attribute& attribute, std::string_view value) {

@@ -27,7 +27,8 @@ constexpr const char* kWanted[] = {"job-id", "job-state", "job-name", "job-print
 Answer Ask(http_t* spooler, ipp_op_t operation, int number) {
   ipp_t* request = ippNewRequest(operation);
   ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, "ipp://localhost/");
-  ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, cupsUser());
+  ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
+               cupsUser());
   if (operation == IPP_OP_GET_JOBS) {
     ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "which-jobs", nullptr, "all");
     ippAddBoolean(request, IPP_TAG_OPERATION, "my-jobs", 1);
@@ -54,7 +55,8 @@ void Take(ipp_attribute_t* attribute, SpoolerJob* job) {
 SpoolerJob Newest(ipp_t* answer) {
   SpoolerJob newest;
   SpoolerJob job;
-  for (ipp_attribute_t* attribute = ippFirstAttribute(answer);; attribute = ippNextAttribute(answer)) {
+  for (ipp_attribute_t* attribute = ippFirstAttribute(answer);;
+       attribute = ippNextAttribute(answer)) {
     if (attribute != nullptr && ippGetGroupTag(attribute) == IPP_TAG_JOB &&
         ippGetName(attribute) != nullptr) {
       Take(attribute, &job);
@@ -70,9 +72,8 @@ SpoolerJob Newest(ipp_t* answer) {
 
 std::optional<SpoolerJob> FindSpoolerJob(int number, std::string* error) {
   constexpr int kMilliseconds = 10'000;
-  const std::unique_ptr<http_t, HttpCloser> spooler(
-      httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, kMilliseconds,
-                   nullptr));
+  const std::unique_ptr<http_t, HttpCloser> spooler(httpConnect2(
+      cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, kMilliseconds, nullptr));
   if (!spooler) {
     *error = "the spooler does not answer";
     return std::nullopt;

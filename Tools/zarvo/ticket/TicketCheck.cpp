@@ -5,11 +5,13 @@
 #include <cctype>
 #include <cstring>
 
+#include "CUPSFilter/Options/PinPolicy.h"
 #include "Source/CFAdditions.h"
 #include "Source/Mappings.h"
 #include "Source/NearestName.h"
 #include "Source/TicketNames.h"
 #include "Tools/zarvo/ticket/TicketKeys.h"
+#include "Tools/zarvo/ticket/TicketText.h"
 
 namespace zarvo::tool {
 namespace {
@@ -159,7 +161,25 @@ bool HasNumber(const Dictionary& group, std::string_view key, std::int64_t wante
   return CFDictionaryGetNumber(group, key, &number) && number == wanted;
 }
 
-/// Settings that do nothing by themselves.
+/// What a queue that fails closed has to say of a job with this ticket.
+Judgement Judge(Dictionary ticket) {
+  std::vector<FlatOption> flat;
+  std::string error;
+  if (auto all = FlattenTicket(ticket, &error)) flat = *std::move(all);
+  std::vector<cups_option_t> own;
+  for (FlatOption& option : flat) own.push_back({option.name.data(), option.value.data()});
+  const JobRequest request = {own, {}, {}};
+  QueuePolicy policy;
+  policy.failClosed = true;
+  policy.featurePassword = true;  // only the queue knows
+  Judgement verdict = JudgePin(request, policy, &ticket);
+  const Judgement fax = JudgeFax(request, ticket);
+  if (verdict.refusal.empty()) verdict.refusal = fax.refusal;
+  verdict.notices.insert(verdict.notices.end(), fax.notices.begin(), fax.notices.end());
+  return verdict;
+}
+
+/// Settings that do nothing by themselves, and secrets that cannot be kept.
 void CheckSense(const Dictionary& ticket, Checker* checker) {
   const Dictionary* sections = DictionaryGetDictionary(ticket, key::kJTMLOptions);
   if (sections == nullptr && !HasNumber(ticket, key::kEmitJTML, 0)) {
@@ -171,18 +191,13 @@ void CheckSense(const Dictionary& ticket, Checker* checker) {
   }
   if (const Dictionary* job = DictionaryGetDictionary(ticket, key::kJobType)) {
     const std::string place = key::kJobType;
-    if (HasNumber(*job, key::job_type::kJobType, kJobTypeSecure) &&
-        DictionaryGetString(*job, key::job_type::kSecurePrintPassword) == nullptr)
-      checker->Add(place, "a secure job needs a SecurePrintPassword");
     if (HasNumber(*job, key::job_type::kJobType, kJobTypeDelayed) &&
         !DictionaryContains(*job, key::job_type::kDelayedPrintTime))
       checker->Add(place, "a delayed job needs a DelayedPrintTime");
-    if (HasNumber(*job, key::job_type::kJobType, kJobTypeFax) &&
-        (!DictionaryContains(ticket, key::kFaxOptions) ||
-         !DictionaryContains(ticket, key::kFaxRecipientList)))
-      checker->Add(
-          place, std::string("a fax needs ") + key::kFaxOptions + " and " + key::kFaxRecipientList);
   }
+  if (const std::string fault = SecretFault(ticket); !fault.empty())
+    checker->Add(key::kJobType, fault);
+  for (const std::string& notice : Judge(ticket).notices) checker->Add(key::kJobType, notice);
   const Dictionary* stock = DictionaryGetDictionary(ticket, key::kJobLevelStock);
   std::int32_t size = 0;
   std::int32_t width = 0;
@@ -196,6 +211,15 @@ void CheckSense(const Dictionary& ticket, Checker* checker) {
 }
 
 }  // namespace
+
+std::string SecretFault(const Dictionary& ticket) {
+  std::string refusal = Judge(ticket).refusal;
+  if (!refusal.empty()) return refusal;
+  const Dictionary* job = DictionaryGetDictionary(ticket, key::kJobType);
+  const std::string* pin =
+      job != nullptr ? DictionaryGetString(*job, key::job_type::kSecurePrintPassword) : nullptr;
+  return pin != nullptr && !pin->empty() ? TypedPinFault(*pin) : "";
+}
 
 std::vector<TicketFinding> CheckTicket(const Dictionary& ticket) {
   Checker checker;

@@ -18,4 +18,9 @@ struct TicketFinding {
 /// effect without another one. No text of a secret is in the findings.
 std::vector<TicketFinding> CheckTicket(const Dictionary& ticket);
 
+/// Why no job with this ticket should be sent: a PIN that cannot be kept or that people should not
+/// type (4 to 10 digits), a fax that cannot be sent. Empty when there is no reason; without
+/// secrets.
+std::string SecretFault(const Dictionary& ticket);
+
 }  // namespace zarvo::tool
