@@ -156,7 +156,20 @@ class Spooler(ZarvoTest):
             self.assertIn("2 pages on 2 sheets", plan)
             self.run_zarvo("preview", job, "-q", "nowhere", status=2)
             self.doctor(cupsd.serverbin / "filter")
+            self.privacy(cupsd.root / "cupsd.conf")
         self.run_zarvo("print", job, "-d", "office", status=2)  # nobody answers
+
+    def privacy(self, configuration):
+        self.environment["CUPS_SERVERROOT"] = str(configuration.parent)
+        text = configuration.read_text()
+        for lines, told in (
+            ("", "secrets of jobs, policy default: JobPIN"),
+            ("JobPrivateValues JobPIN # all", "policy default: job-password"),
+            ("JobPrivateValues all\nJobPrivateAccess all", "policy default: JobPIN"),
+            ("JobPrivateAccess @OWNER @SYSTEM\nJobPrivateValues all", "ok     privacy"),
+        ):
+            configuration.write_text(text.replace("<Policy default>", f"<Policy default>\n{lines}"))
+            self.assertIn(told, self.run_zarvo("doctor", status=1))  # of what has been damaged above
 
     def doctor(self, filters):
         """Every fault is found, and none where there is none."""

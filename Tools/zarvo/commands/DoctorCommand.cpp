@@ -6,8 +6,11 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <memory>
 #include <nlohmann/json.hpp>
 
@@ -20,6 +23,7 @@
 #include "Source/WatermarkSupport.h"
 #include "Tools/zarvo/Command.h"
 #include "Tools/zarvo/Terminal.h"
+#include "Tools/zarvo/system/Privacy.h"
 #include "Tools/zarvo/system/Queues.h"
 #include "Tools/zarvo/system/Run.h"
 
@@ -45,6 +49,7 @@ class Examination {
     CheckHelper();
     CheckConverters();
     CheckQueues();
+    CheckPrivacy();
     CheckStores();
   }
 
@@ -151,6 +156,21 @@ class Examination {
       Note(
           "queue", "(all)", "no queue uses the filter",
           "lpadmin -p NAME -E -v socket://PRINTER -m PPD; \"lpinfo -m | grep -i zarvo\" tells PPD");
+  }
+
+  /// Other people's PINs, accounts and fax numbers are in the spooler's records of jobs.
+  void CheckPrivacy() {
+    const char* folder = std::getenv("CUPS_SERVERROOT");
+    const std::string path = std::string(folder != nullptr ? folder : "/etc/cups") + "/cupsd.conf";
+    std::ifstream file(path);
+    if (!file)
+      return Note("privacy", path, std::string("cannot be read: ") + std::strerror(errno),
+                  "sudo zarvo doctor");
+    const std::string text{std::istreambuf_iterator<char>(file), {}};
+    const std::string fault = PrivacyFault(text);
+    if (fault.empty()) return Good("privacy", path);
+    Note("privacy", path, "other people can read secrets of jobs, " + fault,
+         std::string("Put into each <Policy>, a line each: ") + kPrivacyLines);
   }
 
   void CheckStores() {
