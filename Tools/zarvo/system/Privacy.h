@@ -13,9 +13,9 @@ inline constexpr const char* kSecretOptions[] = {"JobPIN",    "job-password", "A
 /// The lines that keep them secret, for each policy.
 inline constexpr char kPrivacyLines[] = "JobPrivateAccess @OWNER @SYSTEM, JobPrivateValues all";
 
-/// The first policy of a cupsd.conf, given as text, that lets others read a secret option, with that
-/// option ("policy default: JobPIN"); empty when there is none. Without any policy the spooler's own
-/// holds, which lets them.
+/// The first policy of a cupsd.conf, given as text, that lets others read a secret option, with
+/// that option ("policy default: JobPIN"); empty when there is none. Without any policy the
+/// spooler's own holds, which lets them.
 std::string PrivacyFault(const std::string& configuration);
 
 }  // namespace zarvo::tool
