@@ -139,12 +139,21 @@ def measured():
             yield name, measure(impose(document, OUTLINES))
 
 
+def agree(expected, line):
+    """A text's box may differ by a pixel: versions of Ghostscript draw the edges of glyphs in their own way."""
+    ours, theirs = line.split(), expected.split()
+    return line == expected or ours[:3] == theirs[:3] and ours[1] == "text" and all(
+        abs(int(a) - int(b)) <= 1 for a, b in zip(ours[3:], theirs[3:], strict=True))
+
+
 class Imposition(unittest.TestCase):
     def test_places(self):
         expected = dict(part.split("\n", 1) for part in EXPECTED.read_text().split("== ")[1:])
         for name, lines in measured():
             with self.subTest(name):
-                self.assertEqual(expected[name].splitlines(), lines)
+                wanted = expected[name].splitlines()
+                self.assertEqual(wanted, [a if agree(a, b) else b for a, b in zip(wanted, lines)] +
+                                 lines[len(wanted):])
 
     def test_page_device(self):
         """Duplex, tumble, collation and sheet size as a device with such features sees them."""
