@@ -64,6 +64,7 @@ CopyRules::CopyRules(const JobSettings& settings, const Dictionary& ticket, JobO
       frame_(ticket, output, settings.booklet),
       copies_(settings.copies, output) {
   if (settings.pageHooks) page_hooks_.emplace(settings, output);
+  fax_cover_.own_paper = settings.pageHooks;
   // Without memory for the table the job goes out, only without name and password.
   if (settings.zarvoJobPassword) job_type_match_ = InitializeHashTables() != 0;
 }

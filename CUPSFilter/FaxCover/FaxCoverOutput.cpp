@@ -18,6 +18,7 @@ namespace zarvo {
 namespace {
 
 constexpr std::size_t kMaxPdfBytes = 256u << 20;
+constexpr int kLetterHeight = 792;
 constexpr int kHelperFailed = 1;  // and has logged why
 
 void LogLeftOut(const std::string& why) {
@@ -55,10 +56,7 @@ bool DrawPdf(const FaxCover& cover, SpoolFile& pdf) {
 
 /// The cover sheet as a document of its own, or null when there is none. The whole document is
 /// there before the first byte goes into the job: half a cover would stop the printer.
-std::unique_ptr<SpoolFile> DrawPostScript(const Dictionary& ticket,
-                                          const PdfConverters& converters) {
-  const std::optional<FaxCover> cover = FaxCoverFromTicket(ticket);
-  if (!cover) return nullptr;
+std::unique_ptr<SpoolFile> DrawPostScript(const FaxCover& cover, const PdfConverters& converters) {
   const std::unique_ptr<SpoolFile> pdf = SpoolFile::Create();
   std::unique_ptr<SpoolFile> document = pdf != nullptr ? SpoolFile::Create() : nullptr;
   if (document == nullptr) {
@@ -66,7 +64,7 @@ std::unique_ptr<SpoolFile> DrawPostScript(const Dictionary& ticket,
                "; let TMPDIR name a folder that the spooler may write");
     return nullptr;
   }
-  if (!DrawPdf(*cover, *pdf)) return nullptr;
+  if (!DrawPdf(cover, *pdf)) return nullptr;
 
   std::string failure =
       ConvertPdfToPostScript(::fileno(pdf->stream()), converters, document->stream());
@@ -78,12 +76,27 @@ std::unique_ptr<SpoolFile> DrawPostScript(const Dictionary& ticket,
   return nullptr;
 }
 
+void Draw(const Dictionary& ticket, PdfConverters converters, FaxCoverDocument* kept) {
+  const std::optional<FaxCover> cover = FaxCoverFromTicket(ticket);
+  if (!cover) return;
+  kept->width = static_cast<int>(cover->width);
+  kept->height = static_cast<int>(cover->height);
+  if (kept->own_paper && kept->height != kLetterHeight) converters.media = "A4";
+  kept->postscript = DrawPostScript(*cover, converters);
+}
+
 }  // namespace
 
 int WriteFaxCover(FILE* output, const Dictionary& ticket, FaxCoverDocument* kept,
                   const PdfConverters& converters) {
-  if (!std::exchange(kept->drawn, true)) kept->postscript = DrawPostScript(ticket, converters);
-  return kept->postscript != nullptr ? kept->postscript->CopyTo(output) : 0;
+  if (!std::exchange(kept->drawn, true)) Draw(ticket, converters, kept);
+  if (kept->postscript == nullptr) return 0;
+  if (kept->own_paper)
+    std::fprintf(output, "userdict /ZRVcover save put\n<< /PageSize [%d %d] >> setpagedevice\n",
+                 kept->width, kept->height);
+  const int error = kept->postscript->CopyTo(output);
+  if (kept->own_paper) std::fputs("clear cleardictstack userdict /ZRVcover get restore\n", output);
+  return error;
 }
 
 }  // namespace zarvo

@@ -14,8 +14,14 @@ namespace zarvo {
 /// A job's cover sheet once it is drawn. A job may have any number of document headers, and each
 /// gets the cover; drawing it takes two programs and a second.
 struct FaxCoverDocument {
+  /// Set by the caller, for jobs of any program: the cover is put on paper of its own size, and the
+  /// printer is left as it was before. Otherwise every cover is set up for Letter, as drivers of
+  /// old do, and the document has to set its paper itself.
+  bool own_paper = false;
   bool drawn = false;  ///< or tried, or not asked for
   std::unique_ptr<SpoolFile> postscript;
+  int width = 0;  ///< of its paper, whole points
+  int height = 0;
 };
 
 /// Writes the cover sheet that the ticket asks for as a PostScript document of its own; draws it

@@ -73,11 +73,11 @@ using Command = std::vector<std::string>;
 std::vector<Command> ChooseCommands(const PdfConverters& converters) {
   const std::string pdf_filter = converters.filter_folder + "/pdftops";
   const std::string ps_filter = converters.filter_folder + "/pstops";
-  // Job number, user, title, copies and options, as the spooler would give them. Letter stands
-  // for every size: the page keeps its own.
+  // Job number, user, title, copies and options, as the spooler would give them.
+  const std::string media = "media=" + converters.media;
   if (IsProgram(pdf_filter) && IsProgram(ps_filter))
-    return {{pdf_filter, "1", "Zarvo", "FaxCover", "1", "media=Letter", kStandardInput},
-            {ps_filter, "1", "Zarvo", "FaxCover", "1", "media=Letter"}};
+    return {{pdf_filter, "1", "Zarvo", "FaxCover", "1", media, kStandardInput},
+            {ps_filter, "1", "Zarvo", "FaxCover", "1", media}};
   if (IsProgram(converters.poppler)) return {{converters.poppler, "-level3", kStandardInput, "-"}};
   return {};
 }

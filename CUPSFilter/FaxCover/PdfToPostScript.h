@@ -15,6 +15,9 @@ struct PdfConverters {
   /// The folder of the spooler's filters "pdftops" and "pstops". The environment's
   /// ZARVO_FILTER_DIR names another one.
   std::string filter_folder = DefaultFilterFolder();
+  /// The paper that the filters are told. The page keeps its size, but with a PPD its set-up asks
+  /// the printer for this one.
+  std::string media = "Letter";
   /// Used alone when one of the filters is missing.
   std::string poppler = "/usr/bin/pdftops";
   /// Both together are killed after this time. The environment may name another one.
