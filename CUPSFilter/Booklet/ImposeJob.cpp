@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <cstdint>
 #include <cstring>
 #include <iterator>
@@ -122,10 +123,16 @@ long Sheets(int pages) { return pages > 0 ? (pages + 3L) / 4 : 0; }
 
 /// The documents of one job that cannot be imposed as they are.
 class RewrittenJob {
+  using Clock = std::chrono::steady_clock;
+
  public:
   RewrittenJob(const Dictionary& ticket, const JobSettings& settings, const SpoolFile& spool,
                JobOutput& output)
-      : ticket_(ticket), settings_(settings), spool_(spool), output_(output) {
+      : ticket_(ticket),
+        settings_(settings),
+        spool_(spool),
+        output_(output),
+        deadline_(Clock::now() + rewriter_.limit) {
     rewriter_.width = settings.mediaWidth;
     rewriter_.height = settings.mediaLength;
   }
@@ -161,6 +168,9 @@ class RewrittenJob {
     if (!CopyRange(spool_, document.begin, document.end, slice)) return kReadFailed;
     if (const int error = slice.Flush()) return std::strerror(error) + std::string(kMakeRoom);
     lseek(fileno(source->stream()), 0, SEEK_SET);
+    rewriter_.limit =
+        std::max(std::chrono::milliseconds(1),
+                 std::chrono::duration_cast<std::chrono::milliseconds>(deadline_ - Clock::now()));
     const std::string failure =
         RewritePages(fileno(source->stream()), rewriter_, rewritten->stream());
     if (!failure.empty()) return failure;
@@ -184,6 +194,7 @@ class RewrittenJob {
   const SpoolFile& spool_;
   JobOutput& output_;
   PageRewriter rewriter_;
+  Clock::time_point deadline_;  // of all documents together
   long sheets_ = 0;
 };
 

@@ -38,7 +38,8 @@ class StructureScan {
   explicit StructureScan(CommentReader* reader) : reader_(reader) {}
 
   PageStructure Run(off_t end) {
-    while (reader_->Tell() < end) {
+    // With what is known at the first page, most other documents need no further look.
+    while (reader_->Tell() < end && (pages_ == 0 || (known_ && !wrapped_ && !broken_))) {
       if (!in_setup_ && !feature_) reader_->SkipToComment();
       if (reader_->Tell() >= end || !reader_->ReadLine(line_)) break;
       const bool begins_line = reader_->LineIsWhole();

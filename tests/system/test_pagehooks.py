@@ -171,6 +171,35 @@ class PageHooks(ZarvoTest):
     def test_mirror_and_negative(self):
         self.each(self.check_transforms, [(PLAIN,), (BOOKLET,)])
 
+    def test_jobs_of_any_program(self):
+        """Pages that nobody has made for taking apart: booklets in order, marks where they belong."""
+        even = list(pages(DOCUMENTS["even"]))
+        # A dictionary that stays on the stack hides showpage from whatever runs between the pages.
+        hidden = "%!PS-Adobe-3.0\n%%Pages: 4\n%%EndComments\n%%BeginProlog\n5 dict begin /showpage {} def\n"
+        hidden += "%%EndProlog\n" + "".join(
+            f"%%Page: {n} {n}\n%%BeginPageSetup\n%%EndPageSetup\n"
+            + page.replace("showpage", "systemdict /showpage get exec")
+            for n, page in enumerate(even, 1)
+        ) + "%%EOF\n"
+        bare = ("%!\n" + "".join(even)).encode()
+        wrapped = run([f"{CUPS_FILTERS}/pstops", "1", "user", "title", "1", ""], bare, PPD=str(PPD))
+        for name, document, count in (
+            ("no comments", bare, 1),
+            ("hidden showpage", hidden.encode(), 1),
+            ("wrapped", wrapped, 1),
+            ("n-up", run(["psnup", "-q", "-1", "-pa4"], job("even", "ps2write")), 1),
+            ("two documents", hidden.encode() + job("even", "cairo"), 2),
+        ):
+            with self.subTest(name):
+                first = ("Watermark=Custom.image", "WMPlace=Foreground", "WMPages=First")
+                marked = draw(self.filtered(" ".join(first), document, ppd=PPD))
+                self.assertEqual([p.count("red") > 500 for p in marked], [True, *[False] * 3] * count)
+                sides = draw(self.filtered(" ".join(BOOKLET), document, ppd=PPD))
+                self.assertEqual(len(sides), 2 * count)
+                for number, index, area in places(BOOKLET):
+                    for side in sides[index::2]:
+                        self.assertGreater(side.count(MARKS[number], *area), 1000)
+
     def test_nothing_asked(self):
         """Without anything to draw a job is not touched, whatever the PPD wants."""
         plain = job("even", "cups-poppler")
