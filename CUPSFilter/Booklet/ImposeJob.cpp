@@ -147,7 +147,7 @@ class RewrittenJob {
       copied = document.end;
       // Each leaves the next one a printer as it found it.
       const bool last = &document == &documents.back();
-      if (!last) output_.Write("userdict /ZRVdocument save put\n");
+      if (!last) output_.Write("%!PS-Adobe-3.0\nuserdict /ZRVdocument save put\n");
       const std::string failure = WriteDocument(document, &pages);
       if (!failure.empty()) return failure;
       if (!last) output_.Write("clear cleardictstack userdict /ZRVdocument get restore\n");

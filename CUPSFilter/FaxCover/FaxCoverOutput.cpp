@@ -92,8 +92,10 @@ int WriteFaxCover(FILE* output, const Dictionary& ticket, FaxCoverDocument* kept
   if (!std::exchange(kept->drawn, true)) Draw(ticket, converters, kept);
   if (kept->postscript == nullptr) return 0;
   if (kept->own_paper)
-    std::fprintf(output, "userdict /ZRVcover save put\n<< /PageSize [%d %d] >> setpagedevice\n",
-                 kept->width, kept->height);
+    std::fprintf(
+        output,
+        "%%!PS-Adobe-3.0\nuserdict /ZRVcover save put\n<< /PageSize [%d %d] >> setpagedevice\n",
+        kept->width, kept->height);
   const int error = kept->postscript->CopyTo(output);
   if (kept->own_paper) std::fputs("clear cleardictstack userdict /ZRVcover get restore\n", output);
   return error;

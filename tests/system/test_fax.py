@@ -10,6 +10,8 @@ import unittest
 from pictures import EXIT, draw, ghostscript, png, run
 from zarvo import BIN, PPD, ZarvoTest, document
 
+OURS = BIN.parent / "ppd/zarvo.ppd"  # for jobs of any program
+
 HEBREW, JAPANESE, ARABIC = "שלום עולם", "日本語のテキスト", "علي"
 WORDS = " ".join(f"word{number}" for number in range(3000))
 
@@ -83,6 +85,7 @@ class Jobs(ZarvoTest):
             (1, ("612", "792"), PPD, ""),
             (2, ("595", "842"), PPD, ""),
             (2, ("595", "842"), "", ""),
+            (2, ("595", "842"), OURS, ""),
             (1, ("612", "792"), PPD, "/none"),  # without the spooler's filters
         ):
             with self.subTest(size=size, ppd=ppd, converters=converters):
@@ -91,7 +94,7 @@ class Jobs(ZarvoTest):
                 self.assertNotIn("ERROR", self.errors)
                 self.assertEqual(output.count(EXIT + b"@PJL JOB"), 1)
                 self.assertEqual(list(self.pages(output)), [(*paper, told), ("612", "792", "1")])
-                if ppd and size == 2:  # nothing asks for other paper ahead of the cover's own
+                if ppd == OURS:  # nothing asks for other paper ahead of the cover's own
                     self.assertNotIn(b"/PageSize[612", output)
 
     def test_watermark_lies_over_the_cover(self):

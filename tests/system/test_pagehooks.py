@@ -181,14 +181,14 @@ class PageHooks(ZarvoTest):
             + page.replace("showpage", "systemdict /showpage get exec")
             for n, page in enumerate(even, 1)
         ) + "%%EOF\n"
-        bare = ("%!\n" + "".join(even)).encode()
+        bare = ("%!PS-Adobe-3.0\n" + "".join(even)).encode()
         wrapped = run([f"{CUPS_FILTERS}/pstops", "1", "user", "title", "1", ""], bare, PPD=str(PPD))
         for name, document, count in (
             ("no comments", bare, 1),
             ("hidden showpage", hidden.encode(), 1),
             ("wrapped", wrapped, 1),
             ("n-up", run(["psnup", "-q", "-1", "-pa4"], job("even", "ps2write")), 1),
-            ("two documents", hidden.encode() + job("even", "cairo"), 2),
+            ("two documents", job("even", "poppler") + job("even", "cairo"), 2),
         ):
             with self.subTest(name):
                 first = ("Watermark=Custom.image", "WMPlace=Foreground", "WMPages=First")
