@@ -113,7 +113,8 @@ std::span<const Command> Commands() {
       {"doctor", "Check the installation and say what to do", "zarvo doctor\nzarvo doctor --json",
        &SetUpDoctor},
       {"manual", "Write manual pages and shell completion",
-       "zarvo manual --man man1\nzarvo manual --bash > /etc/bash_completion.d/zarvo", &SetUpManual},
+       "zarvo manual --man man1\nzarvo manual --completion bash > /etc/bash_completion.d/zarvo",
+       &SetUpManual},
   };
   return kCommands;
 }

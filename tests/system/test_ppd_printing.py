@@ -119,6 +119,9 @@ class Printing(unittest.TestCase):
         self.assertEqual(ppd.count(b"*Watermark Ma100sAB/Ma<DF><3A> 100 %s 'A\\B' ??: \"\"\n"), 1)
         self.assertIn(f"*ja.Watermark Ma100sAB/{title.replace(':', '<3A>')}: ".encode(), ppd)
         self.assertIn(b"(seen)", self.print("plain", "-o Watermark=Ma100sAB"))
+        words = ["print", "file", "-q", "gs", "-o", "Watermark=Ma"]
+        self.assertEqual(self.cupsd.run(BIN / "zarvo", "manual", "--complete", "--", *words),
+                         "Watermark=Ma100sAB\n")
 
     def test_copies_and_sheets(self):
         """What the printer makes of a job, and what the spooler says that it printed."""

@@ -224,10 +224,11 @@ class Manners(ZarvoTest):
         self.assertEqual(len(pages), 11)
         told = subprocess.run(["groff", "-man", "-Tutf8", "-ww", *pages], capture_output=True)
         self.assertEqual(told.stderr, b"")
-        script = self.path("try.bash", self.run_zarvo("manual", "--bash") + """
-            try() { COMP_WORDS=("$@") COMP_CWORD=$(($# - 1)); _zarvo; echo ${COMPREPLY[@]}; }
-            try zarvo watermark add-te; try zarvo ticket decode --s""")
-        self.assertEqual(run(["bash", script]).split(), [b"add-text", b"--secrets"])
+        script = self.path("try.bash", self.run_zarvo("manual", "--completion", "bash") + f"""
+            zarvo() {{ {BIN}/zarvo "$@"; }}
+            try() {{ COMP_LINE=$1 COMP_POINT=${{#1}}; _zarvo; echo ${{COMPREPLY[@]}}; }}
+            try 'zarvo watermark add-te'; try 'zarvo ticket decode --s'; try 'zarvo fax '""")
+        self.assertEqual(run(["bash", script]).split()[:3], [b"add-text", b"--secrets", b"preview"])
 
     def test_colour_only_on_a_terminal(self):
         job = self.path("job.prn", b"@PJL JOB\n")

@@ -7,14 +7,21 @@
 
 #include "Tools/zarvo/Command.h"
 #include "Tools/zarvo/CommandTable.h"
+#include "Tools/zarvo/system/Queues.h"
 
 namespace zarvo::tool {
 namespace {
 
 struct Options {
   std::string folder;
-  bool bash = false;
+  std::string shell;
+  bool complete = false;
+  std::vector<std::string> words;
 };
+
+bool IsQueueOption(const std::string& word) {
+  return word == "-q" || word == "--queue" || word == "-d";
+}
 
 /// A text for troff: backslashes and minus signs as such, no line that begins with a command.
 std::string Troff(const std::string& text) {
@@ -112,57 +119,85 @@ int WriteManual(const std::string& folder) {
   return status;
 }
 
-std::string LongOptions(CLI::App* app) {
-  std::string list;
-  for (const CLI::Option* option : app->get_options()) {
-    for (const std::string& name : option->get_lnames()) list += " --" + name;
-    for (const std::string& name : option->get_snames()) list += " -" + name;
-  }
-  return list;
-}
-
-std::string BashCompletion() {
+/// What may stand at the end of a command line that begins with these words, the last one
+/// unfinished: every shell's completion asks this. Files are the shell's own business.
+std::vector<std::string> Completions(const std::vector<std::string>& words) {
   CLI::App app("", "zarvo");
   Action ignored;
   BuildCommandLine(app, &ignored);
-  std::string cases;
-  std::string commands;
-  for (const Command& command : Commands()) {
-    CLI::App* top = app.get_subcommand(command.name);
-    commands += std::string(" ") + command.name;
-    std::string words = LongOptions(top);
-    for (CLI::App* part : Subcommands(top)) {
-      words += " " + part->get_name();
-      cases += "    \"" + std::string(command.name) + " " + part->get_name() + "\") words=\"" +
-               LongOptions(part).substr(1) + "\" ;;\n";
-    }
-    cases += "    \"" + std::string(command.name) + " \"*) words=\"" + words.substr(1) + "\" ;;\n";
+  CLI::App* at = &app;
+  std::string queue;
+  for (std::size_t i = 0; i + 1 < words.size(); ++i) {
+    for (CLI::App* part : i < 2 ? Subcommands(at) : std::vector<CLI::App*>())
+      if (part->get_name() == words[i]) at = part;
+    if (i > 0 && IsQueueOption(words[i - 1])) queue = words[i];
   }
-  return "# bash completion for zarvo\n"
-         "_zarvo() {\n"
-         "  local word=${COMP_WORDS[COMP_CWORD]} words=\"" +
-         commands.substr(1) +
-         "\"\n"
-         "  local previous=${COMP_WORDS[COMP_CWORD-1]}\n"
-         "  case $previous in\n"
-         "    -q|--queue|-d) COMPREPLY=($(compgen -W \"$(lpstat -e 2>/dev/null)\" -- \"$word\"))"
-         "; return ;;\n"
-         "  esac\n"
-         "  if [ \"$COMP_CWORD\" -gt 1 ]; then\n"
-         "    local second=\n"
-         "    [ \"$COMP_CWORD\" -gt 2 ] && second=${COMP_WORDS[2]}\n"
-         "    case \"${COMP_WORDS[1]} $second\" in\n" +
-         cases +
-         "    esac\n"
-         "  fi\n"
-         "  COMPREPLY=($(compgen -W \"$words\" -- \"$word\"))\n"
-         "}\n"
-         "complete -o default -F _zarvo zarvo\n";
+  const std::string last = words.empty() ? "" : words.back();
+  const std::string previous = words.size() > 1 ? words[words.size() - 2] : "";
+  std::vector<std::string> found;
+  std::string error;
+  if (IsQueueOption(previous)) {
+    ListQueues(&found, &error);
+  } else if (previous == "-o") {
+    const QueuePpd ppd(queue.empty() ? DefaultQueue() : queue, &error);
+    found = OptionWords(ppd.path(), last.find('=') != last.npos);
+  } else {
+    for (CLI::App* part : Subcommands(at)) found.push_back(part->get_name());
+    for (const CLI::Option* option : at->get_options()) {
+      for (const std::string& name : option->get_lnames()) found.push_back("--" + name);
+      for (const std::string& name : option->get_snames()) found.push_back("-" + name);
+    }
+  }
+  std::erase_if(found, [&last](const std::string& word) { return !word.starts_with(last); });
+  return found;
 }
+
+struct Shell {
+  const char* name;
+  const char* completion;
+};
+// Bash takes what stands after "=" for a word of its own, and wants only that completed.
+constexpr Shell kShells[] = {
+    {"bash", R"sh(# bash completion for zarvo
+_zarvo() {
+  local line=${COMP_LINE:0:COMP_POINT} word
+  local -a words
+  read -ra words <<< "$line"
+  [[ $line == *[[:space:]] ]] && words+=("")
+  word=${words[-1]}
+  mapfile -t COMPREPLY < <(zarvo manual --complete -- "${words[@]:1}" 2>/dev/null)
+  [[ ${COMPREPLY[0]-} == *= ]] && compopt -o nospace
+  [[ $word == *=* ]] && COMPREPLY=("${COMPREPLY[@]#"${word%"${word##*=}"}"}")
+}
+complete -o default -F _zarvo zarvo
+)sh"},
+    {"zsh", R"sh(#compdef zarvo
+local -a found
+found=(${(f)"$(zarvo manual --complete -- "${(@)words[2,CURRENT]}" 2>/dev/null)"})
+if (( $#found )); then
+  compadd -S '' -- ${(M)found:#*=}
+  compadd -- ${found:#*=}
+else
+  _files
+fi
+)sh"},
+    {"fish", R"sh(# fish completion for zarvo
+complete -c zarvo -a '(zarvo manual --complete -- (commandline -opc)[2..-1] (commandline -ct) 2>/dev/null)'
+)sh"},
+};
 
 int Write(const Options& options) {
   if (!options.folder.empty()) return WriteManual(options.folder);
-  return WriteOutput("-", BashCompletion());
+  if (options.complete) {
+    std::string list;
+    for (const std::string& word : Completions(options.words)) list += word + "\n";
+    return WriteOutput("-", list);
+  }
+  for (const Shell& shell : kShells)
+    if (options.shell == shell.name) return WriteOutput("-", shell.completion);
+  if (options.shell.empty())
+    return Fail("manual", "has nothing to do", "Give --man or --completion");
+  return Fail(options.shell, "is no shell known here", "bash, zsh and fish are");
 }
 
 }  // namespace
@@ -170,8 +205,11 @@ int Write(const Options& options) {
 void SetUpManual(CLI::App& app, Action* action) {
   const auto options = std::make_shared<Options>();
   app.add_option("--man", options->folder, "folder for manual pages");
-  app.add_flag("--bash", options->bash, "completion for bash, on standard output");
-  app.require_option(1);
+  app.add_option("--completion", options->shell,
+                 "completion for bash, zsh or fish, on standard output");
+  // What the shells' completion asks; not for people.
+  app.add_flag("--complete", options->complete)->group("");
+  app.add_option("words", options->words)->group("");
   app.callback([=] { *action = [=] { return Write(*options); }; });
 }
 

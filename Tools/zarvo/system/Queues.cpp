@@ -56,6 +56,26 @@ bool ListQueues(std::vector<std::string>* names, std::string* error) {
   return true;
 }
 
+std::string DefaultQueue() {
+  const char* name = cupsGetDefault();
+  return name != nullptr ? name : "";
+}
+
+std::vector<std::string> OptionWords(const std::string& path, bool values) {
+  const std::unique_ptr<ppd_file_t, decltype(&ppdClose)> ppd(ppdOpenFile(path.c_str()), &ppdClose);
+  std::vector<std::string> words;
+  for (ppd_option_t* option = ppd != nullptr ? ppdFirstOption(ppd.get()) : nullptr;
+       option != nullptr; option = ppdNextOption(ppd.get())) {
+    const std::string name = std::string(option->keyword) + "=";
+    if (!values) words.push_back(name);
+    for (int i = 0; values && i < option->num_choices; ++i) {
+      const std::string choice = option->choices[i].choice;
+      words.push_back(name + choice + (choice == "Custom" ? "." : ""));
+    }
+  }
+  return words;
+}
+
 std::string PpdFault(const std::string& path) {
   const std::unique_ptr<ppd_file_t, decltype(&ppdClose)> ppd(ppdOpenFile(path.c_str()), &ppdClose);
   if (ppd != nullptr) return "";

@@ -27,6 +27,13 @@ class QueuePpd {
 /// The names of the spooler's queues. False, with the reason in `error`, when it does not answer.
 bool ListQueues(std::vector<std::string>* names, std::string* error);
 
+/// The queue that jobs go to when none is named, or an empty text.
+std::string DefaultQueue();
+
+/// The PPD's options as "lp -o" takes them: "Name=" for each, or with `values` "Name=Choice" for
+/// each choice. Nothing when the file cannot be read.
+std::vector<std::string> OptionWords(const std::string& path, bool values);
+
 /// Why the PPD file cannot be used, with its line, or an empty text.
 std::string PpdFault(const std::string& path);
 
