@@ -23,22 +23,14 @@ constexpr char kMakeRoom[] = "; make room in TMPDIR and send the job again";
 
 /// Nothing of the job is to change but its form: pages keep how they lie, pictures their pixels.
 std::vector<std::string> Command(const PageRewriter& rewriter) {
-  return {rewriter.ghostscript,
-          "-q",
-          "-dSAFER",
-          "-dBATCH",
-          "-dNOPAUSE",
-          "-sDEVICE=ps2write",
-          "-dAutoRotatePages=/None",
-          "-dAutoFilterColorImages=false",
-          "-dColorImageFilter=/LZWEncode",
-          "-dAutoFilterGrayImages=false",
-          "-dGrayImageFilter=/LZWEncode",
-          "-dDEVICEWIDTHPOINTS=" + std::to_string(rewriter.width),
-          "-dDEVICEHEIGHTPOINTS=" + std::to_string(rewriter.height),
-          "-sstdout=%stderr",
-          "-sOutputFile=%stdout",
-          "-"};
+  return {rewriter.ghostscript, "-q", "-dSAFER", "-dBATCH", "-dNOPAUSE", "-sDEVICE=ps2write",
+          "-dAutoRotatePages=/None", "-dAutoFilterColorImages=false",
+          "-dColorImageFilter=/LZWEncode", "-dAutoFilterGrayImages=false",
+          "-dGrayImageFilter=/LZWEncode", "-dDEVICEWIDTHPOINTS=" + std::to_string(rewriter.width),
+          "-dDEVICEHEIGHTPOINTS=" + std::to_string(rewriter.height), "-sstdout=%stderr",
+          "-sOutputFile=%stdout", "-",
+          // Of a job that draws nothing it makes one empty page.
+          "-c", "currentpagedevice /PageCount get 0 eq { no_page } if"};
 }
 
 }  // namespace
@@ -77,7 +69,9 @@ std::string RewritePages(int document, const PageRewriter& rewriter, FILE* outpu
   if (status == 0) return "";
   return WIFSIGNALED(status)
              ? "it was ended by signal " + std::to_string(WTERMSIG(status)) + kMakeRoom
-             : std::string("its program has an error; send it as PDF, or without booklet layout");
+             : std::string(
+                   "its program has an error or draws no page; send it as PDF, or without booklet "
+                   "layout");
 }
 
 }  // namespace zarvo

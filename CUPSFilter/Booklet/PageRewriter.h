@@ -22,8 +22,8 @@ struct PageRewriter {
 };
 
 /// Runs the document that the open file `document` holds from its present place to its end, and
-/// writes its pages as a document of their own to `output`. Returns an empty text, or cause and
-/// remedy for people; `output` may then hold a part of it.
+/// writes its pages, of which there must be one at least, as a document of their own to `output`.
+/// Returns an empty text, or cause and remedy for people; `output` may then hold a part of it.
 std::string RewritePages(int document, const PageRewriter& rewriter, FILE* output);
 
 }  // namespace zarvo
