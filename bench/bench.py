@@ -137,6 +137,28 @@ class Bench:
         print(f"{name:<58} {mine:>10} {theirs:>10}  {ratio:7.3f}  goal {goal:5.3f}  {verdict}", flush=True)
 
 
+def standard_row(bench, folder, job):
+    """A small job of a spooler that is asked for the job's attributes, and that is not."""
+    name = "tiny job, asking the scheduler / not asking"
+    if bench.only and bench.only not in name:
+        return
+    sys.path.insert(0, str(SOURCE / "tests/system"))
+    from cupsd import PrivateCupsd  # (looks for the built programs at once)
+
+    ppd = BIN.parent / "ppd/zarvo.ppd"
+    try:
+        with PrivateCupsd() as cupsd:
+            cupsd.add_queue("zarvo", ppd, "file:/dev/null")
+            number = cupsd.print("zarvo", job, ["-o", "finishings=28"])
+            cupsd.wait_for_log(f"[Job {number}] Job completed.")
+            filtering = [FILTER, str(number), "user", "title", "1", "finishings=28", str(job)]
+            server = ["CUPS_SERVER=localhost", f"IPP_PORT={cupsd.port}"]
+            bench.row(name, ["env", f"PPD={ppd}", f"CUPS_REQUESTROOT={folder}", *server, *filtering],
+                      ["env", f"PPD={ppd}", *server, *filtering], [("cpu", 1.2), ("wall", 1.3)])  # fmt: skip
+    except (OSError, RuntimeError, TimeoutError, subprocess.CalledProcessError) as problem:
+        print(f"{name}: NOT MEASURED: {problem}", flush=True)
+
+
 def main():
     parser = argparse.ArgumentParser()
     parser.add_argument("--runs", type=int, default=7)
@@ -197,6 +219,7 @@ def main():
         bench.row("tiny job / parsing options only", ours(file=job["tiny"]), parse, [("cpu", 1.15)])
         bench.row("2000 ticket entries / tiny job", ours(many, job["tiny"]), ours(file=job["tiny"]),
                   [("cpu", 2)])  # fmt: skip
+        standard_row(bench, folder, job["tiny"])
         bench.runs = arguments.runs
         draw = BIN / "zarvodraw"
         if draw.exists():

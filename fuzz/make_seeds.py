@@ -27,7 +27,13 @@ def main():
                 jobs.add(seed)
             if job and len(job) <= MOST_BYTES:
                 booklets.add(b"\x01\0\0\0\0\0\0\0" + job)
-    for folder, seeds in (("job", jobs), ("booklet", booklets), ("copy_reference", booklets)):
+    attributes = {
+        b"t" + case["lp"].encode()
+        for case in tomllib.loads((HERE.parent / "tests/system/standard_ticket.toml").read_text())["case"]
+        if "lp" in case
+    }
+    for folder, seeds in (("job", jobs), ("booklet", booklets), ("copy_reference", booklets),
+                          ("standard", attributes)):  # fmt: skip
         target = HERE / "seeds" / folder
         target.mkdir(parents=True, exist_ok=True)
         for old in target.glob("golden-*"):

@@ -28,7 +28,7 @@ CHOICES = {
     "-o finishings=28 -o ImageShiftX1=Custom.-5": [
         ">two-sided-long-edge</sides>", ">29700</x-dimension>", ">42000</y-dimension>",
         ">monochrome-grayscale</color-effects-type>", ">stacker-1</output-bin>", "enum\">28</value>",
-        ">-50</x-side1-image-shift>"],
+        ">-500</x-side1-image-shift>"],
     "-o sides=two-sided-short-edge -o media=na_letter_8.5x11in -o finishings=22 -o Punch=Left "
     "-o HoleCount=Two": [
         ">two-sided-short-edge</sides>", ">21600</x-dimension>", "enum\">22</value>",

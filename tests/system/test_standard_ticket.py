@@ -116,6 +116,19 @@ class Spooler(unittest.TestCase):
             return
         self.assertEqual("\n".join(made), EXPECTED.read_text().rstrip("\n"))
 
+    def test_the_queue_offers_what_is_done(self):
+        """Finishings, PIN and accounts in the printer's attributes; none that would only be told."""
+        queue = f"ipp://127.0.0.1:{self.cupsd.port}/printers/zarvo"
+        answer = self.cupsd.run("ipptool", "-tv", queue, "get-printer-attributes.test")
+        offered = dict(re.findall(r"^ +([\w-]+-supported) \([^)]*\) = (.*)$", answer, re.M))
+        self.assertEqual((offered["job-password-supported"], offered["job-account-id-supported"],
+                          offered["job-accounting-user-id-supported"]), ("10", "true", "true"))
+        rows = re.findall(r"^\| `finishings` \| (.*) \| (.*) \|$", PAGE.read_text(), re.M)
+        done = {value for values, outcome in rows if "told" not in outcome
+                for value in re.findall(r"=([\w-]+)`", values)}  # fmt: skip
+        self.assertEqual(set(offered["finishings-supported"].split(",")) - done, set())
+        self.assertGreater(len(done), 40)
+
 
 HEADER = b"HTTP/1.1 %s\r\nContent-Type: application/ipp\r\nContent-Length: %d\r\n\r\n"
 # The beginning of an answer that is fine as far as it goes.
