@@ -2,31 +2,43 @@
 #include "CUPSFilter/JobOutput.h"
 
 #include <fcntl.h>
+#include <stdio_ext.h>
 #include <sys/sendfile.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
+#include <cstdlib>
+#include <memory>
 
 namespace zarvo {
 namespace {
 // Below this, one more copy into the stream's buffer is cheaper than a system call.
 constexpr std::size_t kLargePiece = 16384;
+/// How much is written between two looks at the room that is left.
+constexpr std::uint64_t kBetweenLooks = 256 * 1024;
+/// No writer of lines formats more than this for one landmark; only long tickets do.
+constexpr std::size_t kFormattedAtOnce = 32 * 1024;
 }  // namespace
 
 JobOutput::JobOutput(FILE* stream) : stream_(stream) {
   // Into a file, the system moves data page by page, which takes longer than to write a block.
   struct stat status;
-  can_transfer_ = fstat(fileno(stream), &status) == 0 && !S_ISREG(status.st_mode);
+  const bool known = fstat(fileno(stream), &status) == 0;
+  can_transfer_ = known && !S_ISREG(status.st_mode);
+  if (known && S_ISREG(status.st_mode)) room_.emplace(fileno(stream));
 }
 
 void JobOutput::Write(std::string_view bytes) {
   if (error() != 0) return;  // of a formatted write before
+  Count(bytes.size());
   if (bytes.size() >= kLargePiece) {
     if (Flush() == 0) WriteThrough(bytes);
     return;
   }
   errno = 0;
+  mark_ += bytes.size();
   fwrite_unlocked(bytes.data(), 1, bytes.size(), stream_);
   error();
 }
@@ -61,11 +73,44 @@ std::size_t JobOutput::Transfer(int from, const off_t* offset, std::size_t size)
     if (count <= 0) break;
     moved += static_cast<std::size_t>(count);
   }
+  Count(moved);
   return moved;
+}
+
+std::size_t JobOutput::Pending() const { return __fpending(stream_); }
+
+void JobOutput::Count(std::uint64_t bytes) {
+  written_ += bytes;
+  if (!room_ || written_ - room_checked_ < kBetweenLooks) return;
+  room_checked_ = written_;
+  if (!room_->Left()) Fail(ENOSPC);
+}
+
+void JobOutput::WriteLong(const std::function<void(FILE* stream)>& writer) {
+  char* bytes = nullptr;
+  std::size_t size = 0;
+  FILE* memory = open_memstream(&bytes, &size);
+  if (memory == nullptr) return Fail(errno);
+  writer(memory);
+  const bool whole = std::fclose(memory) == 0;
+  const std::unique_ptr<char, decltype(&std::free)> owner(bytes, &std::free);
+  if (!whole) return Fail(ENOMEM);
+  Write({bytes, size});
+}
+
+void JobOutput::BeginFormatted() {
+  if (Pending() + kFormattedAtOnce > __fbufsize(stream_)) Flush();
+  mark_ = drained_ + Pending();
+}
+
+void JobOutput::EndFormatted() {
+  const std::uint64_t now = drained_ + Pending();
+  Count(now > mark_ ? now - mark_ : 0);
 }
 
 int JobOutput::Flush() {
   error();  // the reason of an earlier failure is forgotten soon
+  drained_ += Pending();
   errno = 0;
   if (std::fflush(stream_) != 0) Fail(errno);
   return error();

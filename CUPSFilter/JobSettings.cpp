@@ -122,6 +122,12 @@ JobSettings ReadJobSettings(const Dictionary& ticket, int num_options, cups_opti
   ReadBooklet(ticket, &settings);
   settings.watermark = ReadWatermark(ticket, notices);
   CheckCoverWatermark(ticket, notices);
+  if (const Dictionary* job = DictionaryGetDictionary(ticket, key::kJobType)) {
+    std::int32_t type = kJobTypeNormal;
+    CFDictionaryGetNumber(*job, key::job_type::kJobType, &type);
+    settings.keepsSecret =
+        type == kJobTypeFax || DictionaryContains(*job, key::job_type::kSecurePrintPassword);
+  }
   if (const Dictionary* image = DictionaryGetDictionary(ticket, key::kInvertImageOptions)) {
     settings.invertImage = IsOne(*image, key::invert::kNegativeImage);
     settings.flipHorizontal = IsOne(*image, key::invert::kMirrorImage);

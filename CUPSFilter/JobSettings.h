@@ -38,9 +38,10 @@ struct JobSettings {
   std::optional<std::string> zarvoJobPassword;
   std::optional<WatermarkChoice> watermark;
   // From the PPD, not from the ticket:
-  bool pageHooks = false;   ///< see PageHooks.h
-  bool failClosed = false;  ///< see QueuePolicy.h
-  CopyPlan copies;          ///< nothing is done about copies without its PPD attribute
+  bool pageHooks = false;    ///< see PageHooks.h
+  bool failClosed = false;   ///< see QueuePolicy.h
+  bool keepsSecret = false;  ///< the ticket has a PIN or makes a fax of the job
+  CopyPlan copies;           ///< nothing is done about copies without its PPD attribute
 };
 
 /// Reads the settings. A key that is missing or of a wrong type leaves its start value; the page

@@ -2,13 +2,29 @@
 #include "CUPSFilter/SpoolFile.h"
 
 #include <fcntl.h>
+#include <sys/statvfs.h>
 #include <unistd.h>
 
 #include <cerrno>
 
+#include "CUPSFilter/JobOutput.h"
 #include "Platform/ScratchFolder.h"
 
 namespace zarvo {
+namespace {
+constexpr std::size_t kBufferBytes = 1 << 16;
+}  // namespace
+
+FileRoom::FileRoom(int descriptor) : descriptor_(descriptor) {
+  constexpr int kShare = 10;
+  struct statvfs status {};
+  if (fstatvfs(descriptor, &status) == 0) least_ = status.f_bavail / kShare;
+}
+
+bool FileRoom::Left() const {
+  struct statvfs status {};
+  return fstatvfs(descriptor_, &status) != 0 || status.f_bavail >= least_;
+}
 
 std::unique_ptr<SpoolFile> SpoolFile::Create() {
   const std::string folder = TemporaryFolder();
@@ -32,16 +48,17 @@ std::unique_ptr<SpoolFile> SpoolFile::Create() {
     close(descriptor);
     return nullptr;
   }
+  std::setvbuf(stream, nullptr, _IOFBF, kBufferBytes);
   return std::unique_ptr<SpoolFile>(new SpoolFile(stream, std::move(path), std::move(name)));
 }
 
-int SpoolFile::CopyTo(FILE* output) {
+int SpoolFile::CopyTo(JobOutput& output) {
   if (std::fflush(stream()) != 0) return errno;
   std::rewind(stream());
-  char block[1 << 16];
+  char block[kBufferBytes];
   std::size_t count = 0;
-  while (std::ferror(output) == 0 && (count = std::fread(block, 1, sizeof block, stream())) > 0)
-    std::fwrite(block, 1, count, output);
+  while (output.error() == 0 && (count = std::fread(block, 1, sizeof block, stream())) > 0)
+    output.Write({block, count});
   return std::ferror(stream()) != 0 ? EIO : 0;
 }
 

@@ -1,11 +1,27 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <cstdint>
 #include <cstdio>
 #include <memory>
 #include <string>
 
 namespace zarvo {
+
+class JobOutput;
+
+/// Looks after the room of a file system, so that one job never takes all of it.
+class FileRoom {
+ public:
+  /// `descriptor` is of a file there, and stays the caller's and open.
+  explicit FileRoom(int descriptor);
+  /// Whether more than a tenth is left of the room there was at first. True where nobody knows.
+  bool Left() const;
+
+ private:
+  int descriptor_;
+  std::uint64_t least_ = 0;  // blocks
+};
 
 /// A temporary file that only this process can reach. It never has a name where the file system
 /// allows that, else it loses it as soon as it is open, so that nothing is left behind however the
@@ -22,7 +38,7 @@ class SpoolFile {
 
   /// Writes all that is in the file to `output`, where failures of its own show. Returns 0, or the
   /// error number of what went wrong with the file. To be called when the file is complete.
-  int CopyTo(FILE* output);
+  int CopyTo(JobOutput& output);
 
   /// Open for writing and, once rewound, for reading.
   FILE* stream() const { return stream_.get(); }

@@ -131,7 +131,7 @@ int ReportWrites(JobOutput& spooled, JobOutput& printer) {
   return kSuccess;
 }
 
-int RunJob(const Job& job, const char* input_name) {
+int RunJob(const Job& job, const char* input_name, JobNotices* notices) {
   UniqueFd file;
   int input = STDIN_FILENO;
   if (input_name != nullptr) {
@@ -161,10 +161,22 @@ int RunJob(const Job& job, const char* input_name) {
   JobOutput& output = spooled ? *spooled : printer;
   if (job.settings.emitJTML == 1) WriteJTML(output.stream(), job.ticket);
 
-  CopyRules rules(job.settings, job.ticket, output);
+  CopyRules rules(job.settings, job.ticket, output, notices);
   CopyPass pass(input, rules, output);
   const CopyResult result = pass.Run();
   output.Flush();
+  if (!rules.refusal().empty()) {
+    LogLine("ERROR: %s", rules.refusal().c_str());
+    return kFailure;
+  }
+  if (result == CopyResult::kGrownTooMuch) {
+    LogLine(
+        "ERROR: the job grew past %llu MiB and %llu times its size; it was cut short. Print it "
+        "without watermark and cover, or by another program",
+        static_cast<unsigned long long>(kMostGrowth >> 20),
+        static_cast<unsigned long long>(kMostTimes));
+    return kFailure;
+  }
   if (result == CopyResult::kEarlyEnd || result == CopyResult::kReadFailed)
     return ReportInput(result, pass.error(), input_name != nullptr ? input_name : "(stdin)");
   if (spool && output.error() == 0) {
@@ -257,7 +269,7 @@ int Main(int argc, char** argv) {
   std::optional<JobNotices> notices;
   const std::optional<Job> job = ReadJob(argv, &notices);
   if (!job) return kFailure;
-  const int status = RunJob(*job, argc == 7 ? argv[6] : nullptr);
+  const int status = RunJob(*job, argc == 7 ? argv[6] : nullptr, &*notices);
   if (status == kSuccess) {
     notices->Finish();
   } else {

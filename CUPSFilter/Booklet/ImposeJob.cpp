@@ -228,7 +228,7 @@ std::optional<long> ImposeDocuments(const Dictionary& ticket, const JobSettings&
   }
   // A job without any document has nothing that could be imposed.
   if (documents.empty()) {
-    if (const int error = const_cast<SpoolFile&>(spool).CopyTo(output.stream())) output.Fail(error);
+    if (const int error = const_cast<SpoolFile&>(spool).CopyTo(output)) output.Fail(error);
     return 0;
   }
   LogLine(
@@ -250,7 +250,7 @@ std::optional<long> ImposeDocuments(const Dictionary& ticket, const JobSettings&
     if (const int error = whole.Flush(); failure.empty() && error != 0)
       failure = std::string(std::strerror(error)) + "; make room in TMPDIR and send the job again";
     if (!failure.empty()) continue;
-    if (const int error = imposed->CopyTo(output.stream())) output.Fail(error);
+    if (const int error = imposed->CopyTo(output)) output.Fail(error);
     return job.sheets();
   }
   LogLine("ERROR: booklet: the pages could not be written anew, nothing was printed: %s",

@@ -57,6 +57,7 @@ CopyPass::CopyPass(int input, CopyRules& rules, JobOutput& output, std::size_t b
   if (fstat(input, &status) == 0 && S_ISREG(status.st_mode)) {
     end_offset_ = lseek(input, 0, SEEK_CUR);
     regular_file_ = end_offset_ >= 0;
+    size_ = status.st_size;
   }
 }
 
@@ -129,13 +130,22 @@ bool CopyPass::ScanLines(char* limit) {
     const Landmark landmark = rules_.Classify(line);
     if (landmark != Landmark::kNone) {
       WriteUpTo(at);
+      output_.BeginFormatted();
       const std::int64_t counted = rules_.Apply(landmark, line);
+      output_.EndFormatted();
+      CheckGrowth();
       unwritten_ = next;
       WriteUpTo(next);  // notices a failed write
       if (counted > 0) {
+        const bool buffered = counted <= end_ - unwritten_;
         CopyCounted(static_cast<std::uint64_t>(counted));
         inside_long_line_ = false;
-        return false;
+        // Looking for the limit again takes as long as the buffer is; a job may have a block of
+        // counted data every few bytes.
+        if (!buffered || unwritten_ > limit) return false;
+        unwritten_[-1] = '\n';
+        at = unwritten_;
+        continue;
       }
     }
     at = IsLineEnd(next[-1]) ? next : AfterFirstLineEnd(next, limit);
@@ -187,6 +197,12 @@ void CopyPass::WriteUpTo(char* position) {
     result_ = CopyResult::kWriteFailed;
     error_ = output_.error();
   }
+}
+
+void CopyPass::CheckGrowth() {
+  const auto size = static_cast<std::uint64_t>(std::max(size_, end_offset_));
+  if (!Failed() && output_.written() > kMostGrowth + kMostTimes * size)
+    result_ = CopyResult::kGrownTooMuch;
 }
 
 void CopyPass::CopyCounted(std::uint64_t count) {

@@ -19,7 +19,13 @@ enum class CopyResult {
   kEarlyEnd,     ///< the input ended inside counted binary data
   kReadFailed,   ///< errno of the read is in CopyPass::error()
   kWriteFailed,  ///< errno of the write is in CopyPass::error()
+  kGrownTooMuch,
 };
+
+/// A job may become longer than it was by these together. A picture, a font and a cover for one
+/// document take some tens of megabytes; a job that asks for them a thousand times means no good.
+constexpr std::uint64_t kMostGrowth = 256u << 20;  // bytes
+constexpr std::uint64_t kMostTimes = 16;           // its size
 
 /// Copies a job from a file descriptor. Memory is one buffer, whatever the size of the job or of
 /// its lines. The lines that the rules see are those that a line-by-line reader would give them:
@@ -48,6 +54,7 @@ class CopyPass {
   void WriteUpTo(char* position);
   void CopyCounted(std::uint64_t count);
   std::uint64_t TransferCounted(std::uint64_t count);
+  void CheckGrowth();
   bool Failed() const { return result_ != CopyResult::kDone; }
 
   int input_;
@@ -61,6 +68,7 @@ class CopyPass {
   char* unwritten_;  // everything before it has been written
   bool regular_file_ = false;
   off_t end_offset_ = 0;  // where end_ stands in the file, for a regular file
+  off_t size_ = 0;        // of a regular file
   bool end_of_input_ = false;
   bool inside_long_line_ = false;  // unwritten_ continues a line whose tested part has passed
   CopyResult result_ = CopyResult::kDone;

@@ -44,6 +44,15 @@ std::int64_t CountedBytes(std::string_view line) {
   return std::max<std::int64_t>(0, std::strtoll(number.c_str(), nullptr, 10));
 }
 
+/// Whether a line would be printed, or begin a figure: neither blank nor PJL nor a document's
+/// header.
+bool IsStray(std::string_view line) {
+  line.remove_prefix(LeadLength(line));
+  while (!line.empty() && (line.back() == '\n' || line.back() == '\r')) line.remove_suffix(1);
+  if (Contains(line, "%!PS-Adobe")) return Contains(line, "EPS");
+  return !line.empty() && !line.starts_with("@PJL");
+}
+
 /// Whether a line is exactly a feature line and a one-byte terminator.
 bool NamesJobType(std::string_view line) {
   const std::string_view text = line.substr(0, line.size() - 1);
@@ -57,13 +66,15 @@ bool NamesJobType(std::string_view line) {
 
 }  // namespace
 
-CopyRules::CopyRules(const JobSettings& settings, const Dictionary& ticket, JobOutput& output)
+CopyRules::CopyRules(const JobSettings& settings, const Dictionary& ticket, JobOutput& output,
+                     JobNotices* notices)
     : settings_(settings),
       ticket_(ticket),
       output_(output),
+      notices_(notices),
       frame_(ticket, output, settings.booklet),
       copies_(settings.copies, output) {
-  if (settings.pageHooks) page_hooks_.emplace(settings, output);
+  if (settings.pageHooks) page_hooks_.emplace(settings, output, notices);
   fax_cover_.own_paper = settings.pageHooks;
   // Without memory for the table the job goes out, only without name and password.
   if (settings.zarvoJobPassword) job_type_match_ = InitializeHashTables() != 0;
@@ -81,6 +92,7 @@ Landmark CopyRules::Classify(std::string_view line) const {
 Landmark CopyRules::ClassifyLine(std::string_view line) const {
   const auto starts = [line](std::string_view text) { return line.starts_with(text); };
   if (!page_hooks_) {
+    if (WatchesForStray() && IsStray(line)) return Landmark::kStray;
     if (Contains(line, "%!PS-Adobe")) return Landmark::kDocumentHeader;
     if (starts("@PJL COMMENT ZRVbegin")) return Landmark::kPjlHeader;
   }
@@ -115,7 +127,11 @@ std::int64_t CopyRules::Apply(Landmark landmark, std::string_view line) {
     case Landmark::kFaxResolution:
       ReplaceFaxResolution(line);
       return 0;
+    case Landmark::kStray:
+      TakeStray(line);
+      return 0;
     case Landmark::kJobEnd:
+      ended_ = true;
       output_.Write(line);
       WriteEnvelopeEnd(output_.stream());
       return 0;
@@ -174,7 +190,7 @@ std::int64_t CopyRules::CopyPart(std::string_view line) {
       copies_.BeginDocument();
       break;
     case JobLine::kDocument:
-      frame_.GoOn();
+      if (frame_.GoOn()) TellEarlyEnd();
       break;
   }
   if (shape_.OwnLine()) copies_.BeforeLine(line);
@@ -194,13 +210,40 @@ bool CopyRules::WatchesForResolution() const {
   return begin_setup_found_ && job_type_ == kJobTypeFax && !fax_resolution_overridden_;
 }
 
+/// Jobs with page hooks have their envelope around whatever they hold.
+bool CopyRules::WatchesForStray() const {
+  if (page_hooks_ || !settings_.failClosed || early_end_told_) return false;
+  return ended_ || (settings_.keepsSecret && !added_pjl_ && !found_pjl_);
+}
+
+void CopyRules::TakeStray(std::string_view line) {
+  if (!settings_.keepsSecret) {
+    TellEarlyEnd();
+    output_.Write(line);
+    return;
+  }
+  refusal_ = ended_
+                 ? "the job was cut short: the document goes on after its end comment, where its "
+                   "PIN or fax number does not hold any more; print it by another program"
+                 : "the job was not printed: the document does not begin with %!PS-Adobe, so its "
+                   "PIN or fax number would not hold; print it by another program";
+  output_.Fail(ECANCELED);
+}
+
+void CopyRules::TellEarlyEnd() {
+  if (std::exchange(early_end_told_, true) || notices_ == nullptr) return;
+  notices_->Add(
+      "the document ends the printer's job before its own end; what follows may be missing on "
+      "paper; print it by another program");
+}
+
 bool CopyRules::WatchesEveryLine() const {
-  return WatchesForResolution() ||
+  return WatchesForResolution() || WatchesForStray() ||
          (page_hooks_ && (shape_.WatchesEveryLine() || page_hooks_->WatchesEveryLine()));
 }
 
 void CopyRules::WriteCover() {
-  if (const int error = WriteFaxCover(output_.stream(), ticket_, &fax_cover_)) output_.Fail(error);
+  if (const int error = WriteFaxCover(output_, ticket_, &fax_cover_)) output_.Fail(error);
 }
 
 void CopyRules::CopyDocumentHeader(std::string_view line) {
@@ -209,7 +252,8 @@ void CopyRules::CopyDocumentHeader(std::string_view line) {
   } else {
     if (!found_pjl_) {
       added_pjl_ = true;
-      WriteEnvelopeStart(output_.stream(), ticket_);
+      ended_ = false;
+      output_.WriteLong([this](FILE* stream) { WriteEnvelopeStart(stream, ticket_); });
     }
     WriteCover();
   }
@@ -334,7 +378,7 @@ void CopyRules::CopyEndSetup(std::string_view line) {
       font_.emplace();
       loadFontData(kWatermarkCollection, watermark.watermarkData.fontName, &*font_);
     }
-    WriteWatermarkFont(output_.stream(), *font_);
+    output_.WriteLong([this](FILE* stream) { WriteWatermarkFont(stream, *font_); });
   } else {
     WriteImage(watermark.watermarkData);
   }
@@ -343,7 +387,8 @@ void CopyRules::CopyEndSetup(std::string_view line) {
 
 void CopyRules::WriteImage(const _WatermarkData& watermark) {
   if (!std::exchange(image_written_, true)) {
-    outputImageWatermark(&watermark, output_.stream());
+    if (!outputImageWatermark(&watermark, output_.stream()) && notices_ != nullptr)
+      notices_->Add(kImageLeftOut);
     output_.error();  // while the reason of a failed write is known
     return;
   }
@@ -357,7 +402,7 @@ void CopyRules::WriteImage(const _WatermarkData& watermark) {
     }
     outputImageWatermark(&watermark, image_->stream());
   }
-  if (const int error = image_->CopyTo(output_.stream())) output_.Fail(error);
+  if (const int error = image_->CopyTo(output_)) output_.Fail(error);
 }
 
 }  // namespace zarvo

@@ -13,6 +13,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -20,6 +21,7 @@
 #include "CUPSFilter/CopyPass/DocumentShape.h"
 #include "CUPSFilter/CopyPass/JobFrame.h"
 #include "CUPSFilter/FaxCover/FaxCoverOutput.h"
+#include "CUPSFilter/JobNotices.h"
 #include "CUPSFilter/JobOutput.h"
 #include "CUPSFilter/JobSettings.h"
 #include "CUPSFilter/SpoolFile.h"
@@ -47,13 +49,16 @@ enum class Landmark {
   kCountedData,
   kFeatureLine,  // may name the job type; the hash and an exact comparison decide
   kEndSetup,
+  kStray,      // a secret would be printed outside of the envelope that keeps it
   kStructure,  // of a job with page hooks: what may begin, end or divide a document
 };
 
 /// The state of one pass over one job. `settings`, `ticket` and `output` must outlive it.
 class CopyRules {
  public:
-  CopyRules(const JobSettings& settings, const Dictionary& ticket, JobOutput& output);
+  /// `notices` is told what the job does not get; null for nobody.
+  CopyRules(const JobSettings& settings, const Dictionary& ticket, JobOutput& output,
+            JobNotices* notices = nullptr);
   ~CopyRules();
   CopyRules(const CopyRules&) = delete;
   CopyRules& operator=(const CopyRules&) = delete;
@@ -76,12 +81,18 @@ class CopyRules {
   /// Where the documents are in the output, which is a file: of a booklet with page hooks.
   const std::vector<DocumentRange>& documents() const { return frame_.ranges(); }
 
+  /// Why the rest of the job must not reach the printer; empty while it may.
+  const std::string& refusal() const { return refusal_; }
+
   /// Writes what goes after the last line. To be called when the input has ended.
   void Finish();
 
  private:
   Landmark ClassifyLine(std::string_view line) const;
   bool WatchesForResolution() const;
+  bool WatchesForStray() const;
+  void TakeStray(std::string_view line);
+  void TellEarlyEnd();
   std::int64_t CopyStructure(std::string_view line);
   std::int64_t CopyPart(std::string_view line);
   void WriteCover();
@@ -100,6 +111,8 @@ class CopyRules {
   const JobSettings& settings_;
   const Dictionary& ticket_;
   JobOutput& output_;
+  JobNotices* notices_;
+  std::string refusal_;
 
   // Of jobs with page hooks.
   std::optional<PageHooks> page_hooks_;
@@ -110,6 +123,8 @@ class CopyRules {
   bool found_eps_ = false;
   bool found_pjl_ = false;
   bool added_pjl_ = false;
+  bool ended_ = false;  // the envelope's end has been written, and no other one begun
+  bool early_end_told_ = false;
   bool begin_setup_found_ = false;
   bool fax_resolution_overridden_ = false;
   bool job_type_match_ = false;

@@ -75,9 +75,11 @@ std::string_view JobFrame::BeginDocument(std::string_view line) {
   return line.substr(lead);
 }
 
-void JobFrame::GoOn() {
+bool JobFrame::GoOn() {
+  const bool exits = kept_.find(kUniversalExit) != kept_.npos;
   output_.Write(kept_);
   kept_.clear();
+  return exits;
 }
 
 void JobFrame::End() {

@@ -35,8 +35,9 @@ class JobFrame {
   int CopyEnvelope(std::string_view line);
   /// Ahead of a document's first line. Returns what of that line belongs to the document.
   std::string_view BeginDocument(std::string_view line);
-  /// The document goes on after all: what was kept is part of it.
-  void GoOn();
+  /// The document goes on after all: what was kept is part of it. Returns whether a universal exit
+  /// is among that, which ends the printer's job.
+  bool GoOn();
   /// At the end of the job.
   void End();
 

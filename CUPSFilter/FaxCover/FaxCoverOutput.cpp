@@ -25,13 +25,16 @@ void LogLeftOut(const std::string& why) {
   LogLine("ERROR: The fax cover sheet was left out: %s", why.c_str());
 }
 
-/// Copies what is left of `input`. False when it is longer than `max_bytes` or either side fails.
+/// Copies what is left of `input`. False when it is longer than `max_bytes` or than there is room
+/// for, or when either side fails.
 bool CopyStream(FILE* input, FILE* output, std::size_t max_bytes) {
   char block[1 << 16];
   std::size_t total = 0;
+  const FileRoom room(::fileno(output));
   while (const std::size_t got = std::fread(block, 1, sizeof block, input)) {
     total += got;
-    if (total > max_bytes || std::fwrite(block, 1, got, output) != got) return false;
+    if (total > max_bytes || !room.Left() || std::fwrite(block, 1, got, output) != got)
+      return false;
   }
   return std::ferror(input) == 0;
 }
@@ -87,7 +90,7 @@ void Draw(const Dictionary& ticket, PdfConverters converters, FaxCoverDocument* 
 
 }  // namespace
 
-int WriteFaxCover(FILE* output, const Dictionary& ticket, FaxCoverDocument* kept,
+int WriteFaxCover(JobOutput& output, const Dictionary& ticket, FaxCoverDocument* kept,
                   const PdfConverters& converters) {
   if (!std::exchange(kept->drawn, true)) Draw(ticket, converters, kept);
   if (kept->postscript == nullptr) return 0;

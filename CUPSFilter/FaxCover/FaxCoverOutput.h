@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "CUPSFilter/FaxCover/PdfToPostScript.h"
+#include "CUPSFilter/JobOutput.h"
 #include "CUPSFilter/SpoolFile.h"
 #include "Platform/Value.h"
 
@@ -29,7 +30,7 @@ struct FaxCoverDocument {
 /// asked for; when drawing or conversion fails, writes nothing of the cover and, the first time,
 /// one log line, so that the job goes out whole. Returns 0, or an error number when a cover that
 /// had been drawn could not be read back whole.
-int WriteFaxCover(FILE* output, const Dictionary& ticket, FaxCoverDocument* kept,
+int WriteFaxCover(JobOutput& output, const Dictionary& ticket, FaxCoverDocument* kept,
                   const PdfConverters& converters = PdfConverters());
 
 }  // namespace zarvo

@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <fstream>
 
 #include "Platform/Log.h"
 #include "Platform/UniqueFd.h"
@@ -28,6 +29,8 @@ namespace {
 
 /// Real ones have a tenth of it; the library's time grows with the square of the options.
 constexpr off_t kMaxPpdBytes = 4 << 20;
+constexpr off_t kAlwaysReadBytes = 512 << 10;
+constexpr int kMostOptions = 5000;  // with groups and sizes; real ones have a few hundred
 
 /// Without exponent; 64 characters hold the largest.
 std::string Decimal(float number) {
@@ -57,6 +60,24 @@ std::optional<std::string> CustomValue(const ppd_cparam_t& parameter) {
       break;
   }
   return std::nullopt;
+}
+
+/// Why the library should not be given the file, which it may read for minutes or for ever; empty
+/// when it may.
+std::string UnreasonableFile(const char* file) {
+  struct stat about {};
+  if (stat(file, &about) != 0) return "";
+  if (S_ISFIFO(about.st_mode) || S_ISSOCK(about.st_mode)) return "it is no file";
+  if (about.st_size > kMaxPpdBytes)
+    return "it has more than " + std::to_string(kMaxPpdBytes) + " bytes";
+  if (about.st_size < kAlwaysReadBytes) return "";
+  // What the library looks for anew, among all there are already, for each one that comes.
+  std::ifstream stream(file);
+  int slow = 0;
+  for (std::string line; std::getline(stream, line);)
+    slow += line.starts_with("*OpenUI") || line.starts_with("*OpenGroup") ||
+            line.starts_with("*JCLOpenUI") || line.starts_with("*PaperDimension");
+  return slow > kMostOptions ? "it has more than " + std::to_string(kMostOptions) + " options" : "";
 }
 
 /// The library takes no file that begins with a byte-order mark, and editors put one there. A PPD
@@ -90,12 +111,9 @@ void Ppd::Closer::operator()(ppd_file_s* file) const { ppdClose(file); }
 Ppd Ppd::Open(const char* file) {
   Ppd ppd;
   if (file == nullptr) return ppd;
-  struct stat about {};
-  if (stat(file, &about) == 0 && about.st_size > kMaxPpdBytes) {
-    LogLine(
-        "DEBUG: PPD \"%s\" not used, it has more than %lld bytes; printing with Letter page "
-        "defaults",
-        file, static_cast<long long>(kMaxPpdBytes));
+  if (const std::string fault = UnreasonableFile(file); !fault.empty()) {
+    LogLine("DEBUG: PPD \"%s\" not used, %s; printing with Letter page defaults", file,
+            fault.c_str());
     return ppd;
   }
   ppd.file_.reset(ppdOpenFile(file));

@@ -43,9 +43,10 @@ void WriteDrawing(FILE* output, const WatermarkChoice& watermark) {
 
 bool PageHooksWanted(const Ppd& ppd) { return ppd.IsTrue("ZRVPageHooks"); }
 
-PageHooks::PageHooks(const JobSettings& settings, JobOutput& output)
+PageHooks::PageHooks(const JobSettings& settings, JobOutput& output, JobNotices* notices)
     : settings_(settings),
       output_(output),
+      notices_(notices),
       needed_(settings.watermark || settings.invertImage || settings.flipHorizontal) {}
 
 void PageHooks::BeginDocument() { inserted_ = !needed_ || settings_.booklet; }
@@ -94,10 +95,12 @@ void PageHooks::Insert() {
   std::fprintf(output, "/width %d def\n/height %d def\n", WholePoints(PageWidth),
                WholePoints(PageLength));
   if (watermark) {
-    if (!watermark->IsText())
-      outputImageWatermark(&watermark->watermarkData, output);
-    else if (watermark->watermark_option == kWatermarkOverlay)
+    if (!watermark->IsText()) {
+      if (!outputImageWatermark(&watermark->watermarkData, output) && notices_ != nullptr)
+        notices_->Add(kImageLeftOut);
+    } else if (watermark->watermark_option == kWatermarkOverlay) {
       WriteOverlayForm(output, watermark->watermarkData);
+    }
   }
   const bool below = watermark && watermark->watermark_option == kWatermarkBackground;
   std::fputs("/back {\n", output);

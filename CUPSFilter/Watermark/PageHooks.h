@@ -22,7 +22,8 @@ bool PageHooksWanted(const Ppd& ppd);
 /// `settings` and `output` must outlive it.
 class PageHooks {
  public:
-  PageHooks(const JobSettings& settings, JobOutput& output);
+  /// `notices` is told of an image that is left out; null for nobody.
+  PageHooks(const JobSettings& settings, JobOutput& output, JobNotices* notices = nullptr);
 
   /// A document begins; its first line comes next.
   void BeginDocument();
@@ -43,6 +44,7 @@ class PageHooks {
 
   const JobSettings& settings_;
   JobOutput& output_;
+  JobNotices* notices_;
   bool needed_;
   bool inserted_ = true;  // into this document
 };

@@ -97,19 +97,19 @@ ImageResult WritePpmImage(FILE* pixels, FILE* ofp) {
   return sendImageData(pixels, blendedRect, ofp) ? ImageResult::kWritten : ImageResult::kIncomplete;
 }
 
-void outputImageWatermark(const _WatermarkData* wmData, FILE* ofp) {
+bool outputImageWatermark(const _WatermarkData* wmData, FILE* ofp) {
   const char* path = wmData->filePath;
   if (path[0] == '\0') {
     LogLine(
         "INFO: the watermark has neither text nor an image; choose it anew in the print dialog");
-    return;
+    return false;
   }
   std::optional<Process> helper = StartImageDecoder(path, "ppm");
-  if (!helper) return;
+  if (!helper) return false;
   FILE* pixels = helper->output();
   switch (pixels != nullptr ? WritePpmImage(pixels, ofp) : ImageResult::kNoImage) {
     case ImageResult::kWritten:
-      break;
+      return true;
     case ImageResult::kNoImage:
     case ImageResult::kIncomplete:
       LogDecoderFailure(path, *helper);
@@ -119,6 +119,7 @@ void outputImageWatermark(const _WatermarkData* wmData, FILE* ofp) {
                                 std::to_string(kMaxRows) + " pixels");
       break;
   }
+  return false;
 }
 
 void insertWatermarkCall(int inScale, int inBlended, FILE* ofp) {

@@ -16,11 +16,16 @@ namespace zarvo {
 /// the prolog of every job with a watermark.
 extern const std::string_view WatermarkProlog;
 
+/// The notice of an image for which the log tells the reason.
+inline constexpr char kImageLeftOut[] =
+    "the watermark's image was left out or is not whole; the log tells why, the administrator can "
+    "store it anew";
+
 /// Writes the record's image as an array of pixel rows that the printer reads into memory. The
 /// image is decoded by the drawing helper and arrives row by row, so memory does not grow with it.
 /// An image that cannot be decoded, or is wider than 21845 or taller than 32767 pixels, writes
-/// nothing but a line to the log. Sets the size that insertWatermarkCall uses.
-void outputImageWatermark(const _WatermarkData* wmData, FILE* ofp);
+/// nothing but a line to the log, and gives false. Sets the size that insertWatermarkCall uses.
+bool outputImageWatermark(const _WatermarkData* wmData, FILE* ofp);
 
 enum class ImageResult {
   kWritten,

@@ -418,6 +418,7 @@ class Surroundings(Faults):
         without, _, _ = self.run_to_end()
         good = (GOLDEN / "ppd/test.ppd").read_bytes()
         choice = b"*Extra%d Choice%d/Text: \"0 0 moveto\"\n"
+        option = b"*OpenUI *Opt%d: PickOne\n*Opt%d A/A: \"\"\n*CloseUI\n"
         many = b"".join(choice % (n, n) for n in range(1200000))
         ppds = {
             "cut": good[: len(good) // 2],
@@ -425,6 +426,7 @@ class Surroundings(Faults):
             "zeros": bytes(50 << 20),
             "comments": good + b"*% nothing here\n" * (50 << 16),
             "attributes": good + many,
+            "options": good + b"".join(option % (n, n) for n in range(50000)),
             "one line": good + b"*Extra: \"" + b"x" * (50 << 20),
         }
         file = self.scratch / "test.ppd"
@@ -434,6 +436,10 @@ class Surroundings(Faults):
                 self.environment["PPD"] = str(file)
                 output, lines, status = self.run_to_end(timeout=30)
                 self.assertEqual((output, lines, status), (without, [], 0))
+        pipe = self.scratch / "pipe.ppd"
+        os.mkfifo(pipe)
+        self.environment["PPD"] = str(pipe)
+        self.assertEqual(self.run_to_end(timeout=30), (without, [], 0))
         self.environment["PPD"] = str(self.scratch / "missing.ppd")
         self.assertEqual(self.run_to_end(), (without, [], 0))
 

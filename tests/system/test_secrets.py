@@ -217,5 +217,83 @@ class Person(unittest.TestCase):
         return done.stdout + done.stderr
 
 
+class Bounds(unittest.TestCase):
+    """What a job can take of everybody's server and time."""
+
+    def run_filter(self, job, options, ppd=GOLDEN / "ppd/test.ppd", **arguments):
+        """Status, bytes written, seconds of processor time, and what the log says."""
+        before = resource.getrusage(resource.RUSAGE_CHILDREN).ru_utime
+        with tempfile.TemporaryFile() as log, tempfile.TemporaryFile() as input_file:
+            input_file.write(job)
+            input_file.seek(0)
+            process = subprocess.Popen(
+                [BIN / "zarvofilter", "1", "user", "title", "1", options], stdin=input_file,
+                stdout=subprocess.PIPE, stderr=log, env={"PPD": str(ppd)} | arguments,
+            )  # fmt: skip
+            written = 0
+            while piece := process.stdout.read(1 << 20):
+                written += len(piece)
+            process.stdout.close()
+            status = process.wait()
+            log.seek(0)
+            said = [line for line in log.read().decode().splitlines() if line[:5] != "DEBUG"]
+        return status, written, resource.getrusage(resource.RUSAGE_CHILDREN).ru_utime - before, said
+
+    def test_growth(self):
+        job = b"%!PS-Adobe-3.0\n" * 5000
+        name = "com.zarvo.print.JobType..d_SavedJobName=" + "x" * 100000
+        status, written, _, log = self.run_filter(job, f"{TYPE}=3 {name}")
+        self.assertEqual((status, len(log)), (1, 1), log)
+        self.assertIn("grew past 256 MiB and 16 times its size", log[0])
+        self.assertLess(written, (257 << 20) + 16 * len(job))
+
+    def test_last_tenth_of_the_room(self):
+        if os.geteuid() != 0:
+            self.skipTest("only root can mount a small folder")
+        with tempfile.TemporaryDirectory() as small:
+            mount = ["mount", "-t", "tmpfs", "-o", "size=8m", "none", small]
+            if subprocess.run(mount, capture_output=True).returncode != 0:
+                self.skipTest("nothing can be mounted here")
+            try:
+                for megabytes, expected in ((6, 0), (7.7, 1)):
+                    page = b"%!PS-Adobe-3.0\n%%Pages: 1\n%%EndComments\n%%Page: 1 1\n" + (
+                        b"% nothing here, only room\n" * int(megabytes * (1 << 20) / 26))
+                    status, _, _, log = self.run_filter(
+                        page + b"showpage\n%%EOF\n", "com.zarvo.print.BookletLayout..b=true", TMPDIR=small)
+                    self.assertEqual((status, len(log)), (expected, expected), log)
+                self.assertIn("No space left", log[0])
+            finally:
+                subprocess.run(["umount", small], check=True)
+
+    def test_time_of_counted_data(self):
+        taken = []
+        for end in (b"\n", b"\r"):
+            job = b"%!PS-Adobe-3.0\n" + (b"%%BeginBinary: 1" + end + b"X") * 1500000
+            status, _, seconds, _ = self.run_filter(job, "")
+            self.assertEqual(status, 0)
+            taken.append(seconds)
+        self.assertLess(taken[1], 4 * taken[0] + 0.3)
+
+    def test_no_page_outside_of_the_envelope(self):
+        """Without page hooks only certain lines begin a job that keeps a secret."""
+        with tempfile.TemporaryDirectory() as scratch:
+            ppd = pathlib.Path(scratch, "plain.ppd")
+            ppd.write_text(PPD.read_text().replace("*ZRVPageHooks: True\n", ""))
+            head = b"%!PS-Adobe-3.0\n"
+            for job, status in (
+                (head + b"showpage\n%%EOF\n", 0),
+                (b"\x1b%-12345X@PJL SET X=1\n\n" + head + b"showpage\n%%EOF\n\x04\n", 0),
+                (b"%!PS\nshowpage\n", 1),
+                (b"%!PS-Adobe-3.0 EPSF-3.0\nshowpage\n%%EOF\n", 1),
+                (b"showpage\n" + head, 1),
+                (head + b"%%EOF\nshowpage\n", 1),
+            ):
+                with self.subTest(job=job):
+                    result, written, _, log = self.run_filter(job, "JobPIN=Custom.0391", ppd)
+                    self.assertEqual(result, status, log)
+                    if status == 1 and not job.startswith(head):
+                        self.assertLess(written, 1)
+
+
 if __name__ == "__main__":
     unittest.main()

@@ -98,6 +98,8 @@ class Checker {
   std::vector<TicketFinding> findings;
 
  private:
+  int compared_ = 0;  // unknown keys for which a like one was looked for
+
   /// Whether a text under this name must have been meant for the key. The options of the PPD and
   /// the spooler differ from all keys in more letters, or in letter case only.
   static bool IsMisspelt(const std::string& name, const std::string& key) {
@@ -110,9 +112,14 @@ class Checker {
                bool top) {
     // Everything that is not ours is the spooler's or the driver's business; but those are texts.
     const bool ours = !top || name.starts_with(kOurKeys);
-    std::vector<std::string> candidates;
-    for (const TicketKey& key : keys) candidates.push_back(ours ? key.name : ShortName(key));
-    const std::string nearest = NearestName(name, candidates);
+    // Looking for what was meant takes time, and who has so many faults needs no more of it.
+    constexpr int kMostCompared = 2000;
+    std::string nearest;
+    if (++compared_ <= kMostCompared) {
+      std::vector<std::string> candidates;
+      for (const TicketKey& key : keys) candidates.push_back(ours ? key.name : ShortName(key));
+      nearest = NearestName(name, candidates);
+    }
     if (!ours && value.AsString() != nullptr && !IsMisspelt(name, nearest)) return;
     Add(place, nearest.empty() ? "unknown key" : "unknown key; did you mean " + nearest + "?");
   }
