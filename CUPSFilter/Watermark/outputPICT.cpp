@@ -102,7 +102,7 @@ bool outputImageWatermark(const _WatermarkData* wmData, FILE* ofp) {
   if (path[0] == '\0') {
     LogLine(
         "INFO: the watermark has neither text nor an image; choose it anew in the print dialog");
-    return false;
+    return true;
   }
   std::optional<Process> helper = StartImageDecoder(path, "ppm");
   if (!helper) return false;

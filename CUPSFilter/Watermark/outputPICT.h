@@ -24,7 +24,8 @@ inline constexpr char kImageLeftOut[] =
 /// Writes the record's image as an array of pixel rows that the printer reads into memory. The
 /// image is decoded by the drawing helper and arrives row by row, so memory does not grow with it.
 /// An image that cannot be decoded, or is wider than 21845 or taller than 32767 pixels, writes
-/// nothing but a line to the log, and gives false. Sets the size that insertWatermarkCall uses.
+/// nothing but a line to the log, and gives false. A record without text and image is told by who
+/// loads it. Sets the size that insertWatermarkCall uses.
 bool outputImageWatermark(const _WatermarkData* wmData, FILE* ofp);
 
 enum class ImageResult {

@@ -260,8 +260,8 @@ class Bounds(unittest.TestCase):
                         b"% nothing here, only room\n" * int(megabytes * (1 << 20) / 26))
                     status, _, _, log = self.run_filter(
                         page + b"showpage\n%%EOF\n", "com.zarvo.print.BookletLayout..b=true", TMPDIR=small)
-                    self.assertEqual((status, len(log)), (expected, expected), log)
-                self.assertIn("No space left", log[0])
+                    self.assertEqual(status, expected, log)
+                    self.assertEqual("No space left" in log[0], expected == 1, log)
             finally:
                 subprocess.run(["umount", small], check=True)
 
