@@ -96,11 +96,12 @@ int WriteFaxCover(JobOutput& output, const Dictionary& ticket, FaxCoverDocument*
   if (kept->postscript == nullptr) return 0;
   if (kept->own_paper)
     std::fprintf(
-        output,
+        output.stream(),
         "%%!PS-Adobe-3.0\nuserdict /ZRVcover save put\n<< /PageSize [%d %d] >> setpagedevice\n",
         kept->width, kept->height);
   const int error = kept->postscript->CopyTo(output);
-  if (kept->own_paper) std::fputs("clear cleardictstack userdict /ZRVcover get restore\n", output);
+  if (kept->own_paper)
+    std::fputs("clear cleardictstack userdict /ZRVcover get restore\n", output.stream());
   return error;
 }
 
