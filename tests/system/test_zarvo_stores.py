@@ -7,7 +7,7 @@ import plistlib
 import subprocess
 import unittest
 
-from zarvo import ZarvoTest
+from zarvo import BIN, ZarvoTest
 from pictures import png, read_png
 
 
@@ -55,6 +55,15 @@ class Watermarks(ZarvoTest):
         self.run_zarvo("watermark", "remove", "DRAFT")  # a name without a watermark
         path.write_bytes(b"damaged")
         self.run_zarvo("watermark", "list", status=2)
+
+    def test_programs_may_add_at_the_same_time(self):
+        names = [f"mark {number}" for number in range(40)]
+        running = [subprocess.Popen([BIN / "zarvo", "watermark", "add-text", name],
+                                    env=self.environment) for name in names]  # fmt: skip
+        self.assertEqual([process.wait(60) for process in running], [0] * len(names))
+        store = self.store()
+        self.assertEqual(sorted(store.pop("WatermarkListEntries")), sorted(["None", *names]))
+        self.assertEqual(sorted(store), sorted(names))
 
     def test_show_draws_what_jobs_print(self):
         logo = self.path("logo.png", png(30, 20, (0, 0, 255)))

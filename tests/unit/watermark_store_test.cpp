@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <cerrno>
+#include <chrono>
 #include <cstdlib>
 #include <cstring>
 #include <ctime>
@@ -12,6 +16,7 @@
 #include <iterator>
 #include <tuple>
 
+#include "Platform/AtomicFile.h"
 #include "Source/Preferences.h"
 #include "Source/WatermarkSupport.h"
 
@@ -242,6 +247,51 @@ TEST_F(Store, ParallelWritersLoseNothingAndReadersSeeWholeFiles) {
   const std::optional<Value> file = CopyXMLData(kCollection);
   EXPECT_EQ(file->AsDictionary()->size(), std::size_t{writers * each + 1});
   EXPECT_EQ(Entries(Folder()), 1);
+}
+
+TEST_F(Store, NewOnesAreOpenToJobsAndOldOnesStayAsTheyWere) {
+  const mode_t umask_before = ::umask(077);
+  EXPECT_TRUE(Save("Draft"));
+  ::umask(umask_before);
+  EXPECT_EQ(fs::status(Folder()).permissions(), fs::perms(0755));
+  EXPECT_EQ(fs::status(File()).permissions(), fs::perms(0644));
+
+  constexpr gid_t kGroup = 7;
+  const fs::path target = root_ / "elsewhere.plist";
+  fs::rename(File(), target);
+  fs::create_symlink("../elsewhere.plist", File());
+  fs::permissions(target, fs::perms(0664));
+  const bool moved = ::chown(target.c_str(), static_cast<uid_t>(-1), kGroup) == 0;
+  EXPECT_TRUE(Save("Final"));
+  struct stat info {};
+  EXPECT_TRUE(fs::is_symlink(File()));
+  EXPECT_EQ(::stat(target.c_str(), &info), 0);
+  EXPECT_EQ(info.st_mode & 0777, 0664u);
+  EXPECT_TRUE(!moved || info.st_gid == kGroup);
+  EXPECT_EQ(Load("Final"), 1);
+}
+
+TEST_F(Store, KilledWritersLeaveNothingThatStays) {
+  ASSERT_TRUE(Save("Draft"));
+  for (const char* left : {".marks.plist.zarvo-a1B2c3", ".logo.png.zarvo-000000", ".zarvo-lock"})
+    std::ofstream(Folder() / left) << "half";
+  std::ofstream(Folder() / ".not.ours") << "stays";
+  EXPECT_TRUE(Save("Final"));
+  EXPECT_EQ(Entries(Folder()), 2);
+}
+
+TEST_F(Store, OnlyWhoMayWriteKeepsOthersOut) {
+  ASSERT_TRUE(Save("Draft"));
+  const UniqueFd folder(::open(Folder().c_str(), O_RDONLY));
+  ASSERT_EQ(::flock(folder.get(), LOCK_EX), 0);  // anybody can do that
+  const auto begin = std::chrono::steady_clock::now();
+  EXPECT_TRUE(Save("Final"));
+  EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(8));
+  const FolderLock writer(Folder());
+  ASSERT_TRUE(writer);
+  EXPECT_EQ(fs::status(Folder() / FolderLock::kLockFile).permissions(), fs::perms(0600));
+  EXPECT_FALSE(Save("Lost"));
+  EXPECT_EQ(errno, EAGAIN);
 }
 
 TEST_F(Store, ATenMegabyteListIsReadInTime) {
