@@ -4,7 +4,6 @@
 
 import json
 import os
-import pathlib
 import pty
 import signal
 import subprocess
@@ -174,12 +173,18 @@ class Spooler(ZarvoTest):
     def doctor(self, filters):
         """Every fault is found, and none where there is none."""
         self.environment["ZARVO_FILTER_DIR"] = str(filters)
+        self.scratch.chmod(0o755)  # jobs of the spooler's user must get at the stores
         self.run_zarvo("watermark", "add-text", "DRAFT")
         self.run_zarvo("watermark", "add-text", "DRAFT", "--fax")
         told = self.run_zarvo("doctor")
         self.assertNotIn("WRONG", told)
         self.assertIn("queue: office", told)
+        self.assertRegex(told, "ok +confinement: drawing helper, image\n(.*\n)* *ok +confinement: .*page")
         program = filters / "zarvofilter"
+        for place in ("data/Zarvo", "data/Zarvo/com.zarvo.printing.watermarks.plist"):
+            os.chown(self.scratch / place, 0, 7)  # the spooler's user has them from its group
+            (self.scratch / place).chmod(0o750)
+        self.assertNotIn("WRONG", self.run_zarvo("doctor"))
         store = self.scratch / "data/Zarvo/com.zarvo.printing.watermarks.plist"
         whole = store.read_bytes()
         other = whole.replace(b"<key>DRAFT</key>", b"<key>OTHER</key>")

@@ -13,9 +13,12 @@
 #include <iterator>
 #include <memory>
 #include <nlohmann/json.hpp>
+#include <optional>
+#include <sstream>
 
 #include "CUPSFilter/FaxCover/PdfToPostScript.h"
 #include "Platform/Log.h"
+#include "Platform/SpoolerUser.h"
 #include "Source/CFAdditions.h"
 #include "Source/DrawHelper.h"
 #include "Source/FaxCover.h"
@@ -47,6 +50,7 @@ class Examination {
   void Run() {
     CheckFilter();
     CheckHelper();
+    CheckConfinement();
     CheckConverters();
     CheckQueues();
     CheckPrivacy();
@@ -108,14 +112,68 @@ class Examination {
       CheckRuns("filter", filter, "job-id user title copies options");
   }
 
+  static std::string HelperPath() {
+    const std::string beside_filter = PdfConverters::DefaultFilterFolder() + "/zarvodraw";
+    return access(beside_filter.c_str(), F_OK) == 0 ? beside_filter : DrawHelperPath();
+  }
+
   void CheckHelper() {
-    std::string helper = PdfConverters::DefaultFilterFolder() + "/zarvodraw";
-    if (access(helper.c_str(), F_OK) != 0) helper = DrawHelperPath();
+    const std::string helper = HelperPath();
     if (access(helper.c_str(), X_OK) != 0)
       return Wrong("drawing helper", helper,
                    std::string(std::strerror(errno)) + "; no image watermarks, no fax covers",
                    "Install the package zarvo-filter again");
     CheckRuns("drawing helper", helper, "started by the print filter");
+  }
+
+  /// The helper locks itself in and tries what is forbidden then.
+  void CheckConfinement() {
+    for (const char* task : {"image", "page"}) {
+      ChildRun child;
+      child.arguments = {HelperPath(), "check", task};
+      child.limit = std::chrono::seconds(10);
+      std::string log;
+      if (!RunChild(child, &log)) return;  // told by the check before
+      CheckLayers(task, log);
+    }
+    CheckAppArmor();
+  }
+
+  void CheckLayers(const std::string& task, const std::string& log) {
+    const std::string place = "drawing helper, " + task;
+    const bool landlock = log.find("landlock on") != std::string::npos;
+    if (!landlock)
+      Note("confinement", place, "Landlock is not there; the other layers hold without",
+           "Let the kernel's option lsm= name landlock, too");
+    if (log.find("seccomp on") == std::string::npos)
+      Wrong("confinement", place, "system calls cannot be filtered (seccomp)",
+            "Use a kernel with seccomp filters, or let the container allow them");
+    std::string possible;
+    std::istringstream lines(log);
+    for (std::string what, result; lines >> what >> result;) {
+      const bool expected = what == "reading" && task == "page" && !landlock;
+      if (result == "possible" && !expected) possible += (possible.empty() ? "" : ", ") + what;
+    }
+    if (possible.empty()) return Good("confinement", place);
+    Wrong("confinement", place, "not refused: " + possible,
+          "Install the package zarvo-filter again; if that does not help, report it");
+  }
+
+  void CheckAppArmor() {
+    constexpr char kProfiles[] = "/sys/kernel/security/apparmor/profiles";
+    std::string enabled;
+    std::ifstream("/sys/module/apparmor/parameters/enabled") >> enabled;
+    if (enabled != "Y")
+      return Note("confinement", "AppArmor", "this kernel runs without it",
+                  "Nothing, if that is meant; the other layers hold without");
+    std::ifstream profiles(kProfiles);
+    if (!profiles)
+      return Note("confinement", "AppArmor", "only root sees which profiles are in force",
+                  "sudo zarvo doctor");
+    for (std::string line; std::getline(profiles, line);)
+      if (line == "zarvofilter (enforce)") return Good("confinement", "AppArmor");
+    Note("confinement", "AppArmor", "the profile of the filter is not in force",
+         "apparmor_parser -r /etc/apparmor.d/zarvofilter /etc/apparmor.d/usr.sbin.cupsd");
   }
 
   void CheckConverters() {
@@ -174,6 +232,9 @@ class Examination {
   }
 
   void CheckStores() {
+    if (!spooler_)
+      return Wrong("spooler", "its user", "there is none by that name",
+                   "Correct User and Group in cups-files.conf");
     for (const char* collection : {kWatermarkCollection, kFaxImageCollection}) {
       const std::optional<std::string> path = CopyPreferenceFileURL(collection);
       if (!path)
@@ -190,8 +251,9 @@ class Examination {
                   std::string("\"zarvo watermark add-text") +
                       (std::string_view(collection) == kFaxImageCollection ? " --fax" : "") +
                       "\" makes it");
-    if ((status.st_mode & S_IROTH) == 0)
-      return Wrong("store", path, "the spooler's user cannot read it", "chmod a+r " + path);
+    if (!JobsMayRead(path))
+      return Wrong("store", path, "the spooler's user cannot read it",
+                   "chmod a+r " + path + ", and a+x on the folders above it");
     if ((status.st_mode & (S_IWGRP | S_IWOTH)) != 0)
       Note("store", path, "others than its owner may change it", "chmod go-w " + path);
     const std::optional<Value> content = CopyXMLData(collection);
@@ -214,16 +276,18 @@ class Examination {
             "zarvo watermark remove NAME, then add it again");
       return false;
     }
-    struct stat status {};
-    if (data.textString[0] != '\0' ||
-        (stat(data.filePath, &status) == 0 && (status.st_mode & S_IROTH) != 0))
-      return true;
+    if (data.textString[0] != '\0' || JobsMayRead(data.filePath)) return true;
     Wrong("watermark", *name, std::string("its image cannot be read by jobs: ") + data.filePath,
           "Put the file back, readable for all, or remove the watermark");
     return false;
   }
 
+  bool JobsMayRead(const std::string& path) const {
+    return spooler_ && SpoolerMay(*spooler_, path, R_OK);
+  }
+
   std::vector<Check> checks_;
+  const std::optional<SpoolerUser> spooler_ = FindSpoolerUser();
 };
 
 const char* StateWord(State state) {
