@@ -32,6 +32,7 @@ MODES = {
         "./usr/lib/cups/filter/zarvofilter": "-r-xr-xr-x",
         "./usr/lib/zarvo/zarvodraw": "-rwxr-xr-x",
         "./usr/share/ppd/zarvo/zarvo.ppd": "-rw-r--r--",
+        "./etc/apparmor.d/zarvofilter": "-rw-r--r--",
         "./var/lib/Zarvo/": "drwxr-xr-x",
     },
     "zarvo-tools": {
@@ -102,6 +103,20 @@ def install(system, packages):
         (system.root / "root" / package.name).unlink()
 
 
+def check_profile(system):
+    """The AppArmor profiles as they are installed: ours, and the spooler's that leads into it."""
+    system.run("apt-get", "install", "-y", "-qq", "--no-install-recommends", "apparmor")
+    for name in ("zarvofilter", "usr.sbin.cupsd"):
+        system.run("apparmor_parser", "-Q", "-K", f"/etc/apparmor.d/{name}")
+    whole = system.run("apparmor_parser", "-p", "/etc/apparmor.d/usr.sbin.cupsd")
+    rules = re.findall(r"^ *(.*zarvofilter.*),$", whole, re.M)
+    check("/usr/lib/cups/filter/zarvofilter pux -> zarvofilter" in rules, f"rules: {rules}")
+    states = system.run("apparmor_parser", "-N", "/etc/apparmor.d/zarvofilter").split()
+    check(states == ["zarvofilter", "zarvofilter//convert", "zarvofilter//draw"], f"{states}")
+    ours = (system.root / "etc/apparmor.d/zarvofilter").read_text()
+    check("complain" not in ours, "the profile is not in enforce mode")
+
+
 class Cupsd(PrivateCupsd):
     """The spooler of the bare system."""
 
@@ -160,6 +175,8 @@ def remove(system):
     system.run("apt-get", "purge", "-y", "-qq", "zarvo-filter", "zarvo-tools")
     left = {path for path in system.files() if not users_own.match(path)}
     check(not left, f"left behind: {left}")
+    local = system.root / "etc/apparmor.d/local/usr.sbin.cupsd"
+    check("zarvo" not in local.read_text(), "a rule is left in the spooler's profile")
     kept = (system.root / store[1:] / "com.zarvo.printing.watermarks.plist").read_text()
     check("OURS" in kept, "the user's watermark is gone")
 
@@ -177,6 +194,7 @@ def use_on_bare_system(packages):
         except subprocess.SubprocessError as error:
             return f"debootstrap failed: {error}"
         step("apt install of both packages", lambda: install(system, packages))
+        step("AppArmor profiles", lambda: check_profile(system))
         use(system)
         step("apt purge", lambda: remove(system))
     return ""
