@@ -200,7 +200,7 @@ class Injection(unittest.TestCase):
         """Scrambling makes other bytes of it; what they would change prints nothing."""
         ppd = self.scratch / "closed.ppd"
         ppd.write_bytes((GOLDEN / "ppd/test.ppd").read_bytes() + b"*ZRVFailClosed: True\n")
-        options = [option.encode() for option in (*SWITCHES[:1], f"{P}JobType..d_JobType..n=2")]
+        options = [option.encode() for option in (*SWITCHES[:1], f"{P}JobType..d_JobType..n=3")]
 
         def header(text):
             done = self.run_filter(
@@ -211,8 +211,7 @@ class Injection(unittest.TestCase):
             return line_shape(envelope.split(EXIT)[-1]), envelope.count(EXIT)
 
         plain = header(b"0391")
-        made = [(f"scrambled {byte}", bytes([byte ^ number]) + b"ab@PJL RESET")
-                for byte in (10, 12, 13, 27, 34) for number in range(1, 128) if 31 < byte ^ number < 127]
+        made = [(f"first {c}", bytes([c]) + b"b@PJL RESET") for c in range(33, 127)]
         outcomes = set()
         for what, text in [*hostile_texts(), *made]:
             with self.subTest(text=what):
