@@ -108,8 +108,8 @@ std::optional<FaxCoverDrawing> FaxCoverDrawing::Start(const FaxCover& cover, std
     return std::nullopt;
   }
   const char* image = cover.watermark.filePath;
-  const bool draws_image = cover.watermark.filename[0] != '\0' && image[0] != '\0' && cover.watermark.scale > 0 &&
-                           cover.watermark.density > 0;
+  const bool draws_image = cover.watermark.filename[0] != '\0' && image[0] != '\0' &&
+                           cover.watermark.scale > 0 && cover.watermark.density > 0;
   std::optional<Process> decoder = draws_image ? StartImageDecoder(image, "pam") : std::nullopt;
   const UniqueFd pixels = decoder ? decoder->TakeOutput() : UniqueFd();
   const UniqueFd input = OpenMemoryFile(*description);
