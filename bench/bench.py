@@ -132,6 +132,17 @@ class Bench:
             flush=True,
         )
 
+    def difference(self, name, command, peer, goal):
+        """How many seconds more than its peer a command takes."""
+        if self.only and self.only not in name:
+            return
+        pairs = [(Run(command).wall, Run(peer).wall) for _ in range(max(self.runs, 31))]
+        more = statistics.median(left - right for left, right in pairs)
+        mine, theirs = (statistics.median(side) for side in zip(*pairs))
+        verdict = "holds" if more <= goal else "MISSED"
+        print(f"{name + ', wall':<58} {mine:>8.4f} s {theirs:>8.4f} s  {more:+.4f} s  goal +{goal} s"
+              f"  {verdict}", flush=True)  # fmt: skip
+
     def show(self, name, mine, theirs, ratio, goal):
         verdict = "holds" if ratio <= goal else "MISSED"
         print(f"{name:<58} {mine:>10} {theirs:>10}  {ratio:7.3f}  goal {goal:5.3f}  {verdict}", flush=True)
@@ -229,6 +240,8 @@ def main():
                          ours(IMAGE_WATERMARK, job["tiny"]), ours(file=job["tiny"]), 512)  # fmt: skip
         else:
             print("image watermark: NOT MEASURED: zarvodraw is not built")
+        confine = str(BIN / "bench_confine")
+        bench.difference("helper locked in / not", [confine, "on"], [confine, "off"], 0.005)
         tiny = ours(file=job["tiny"])
         bench.memory("peak memory, short lines / tiny job", ours(file=job["lines"]), tiny, 4096)
         bench.memory("peak memory, booklet / tiny job", ours(BOOKLET, job["pages"]), tiny, 4096)
