@@ -1,5 +1,5 @@
 # The front door; everything else is CMake (see CMakePresets.json).
-.PHONY: build setup demo test bench pictures install clean format check-format asan fuzz load deb test-packages test-debian
+.PHONY: corpus build setup demo test bench pictures install clean format check-format asan fuzz load deb test-packages test-debian
 JOBS ?= $(shell nproc)
 SOURCES = $(shell git ls-files '*.cpp' '*.h')
 
@@ -35,6 +35,12 @@ test-packages: deb
 # All of it on every Debian and machine that is supported; SYSTEMS picks some: 12 13 arm64 s390x.
 test-debian: setup
 	@Tools/test-debian $(SYSTEMS)
+
+# Documents of a hundred programs, printed in every mode and compared with their plain pages.
+# CORPUS="--only 'gri*' --modes plain,booklet --jobs 1" prints a part of them.
+corpus: setup
+	@$(MAKE) --no-print-directory build
+	@nice python3 tests/corpus/run.py --install --build build $(CORPUS)
 
 # The tests once more, every program with the address and undefined-behaviour sanitizers.
 asan:

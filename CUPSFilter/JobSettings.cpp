@@ -102,6 +102,11 @@ std::optional<WatermarkChoice> ReadWatermark(const Dictionary& ticket, JobNotice
   }
   if (!name) return std::nullopt;
   choice.watermarkFirstPageOnly = first_page_only != 0;
+  constexpr int kRightAngle = 90;
+  std::int32_t degrees = -1;
+  if (CFDictionaryGetNumber(ticket, key::kWatermarkTurn, &degrees) && degrees >= 0 &&
+      degrees < 4 * kRightAngle && degrees % kRightAngle == 0)
+    choice.turn = degrees / kRightAngle;
   LoadWatermark(kWatermarkCollection, "watermark", *name, &choice.watermarkData, notices);
   return choice;
 }

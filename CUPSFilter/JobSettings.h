@@ -21,6 +21,9 @@ namespace zarvo {
 struct WatermarkChoice {
   std::int32_t watermark_option = kWatermarkOverlay;
   bool watermarkFirstPageOnly = false;
+  /// How far all pages lie turned on their sheets, in quarter turns counterclockwise; without it
+  /// that is found out. Only jobs with page hooks have it.
+  std::optional<int> turn;
   _WatermarkData watermarkData{};
 
   bool IsText() const { return watermarkData.textString[0] != '\0'; }

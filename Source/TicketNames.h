@@ -33,6 +33,7 @@ inline constexpr char kXmlAccount[] = "com.zarvo.Act.jtml.AID";
 inline constexpr char kWatermark[] = "com.zarvo.print.watermark.Watermark";
 inline constexpr char kWatermarkPlace[] = "com.zarvo.print.watermark.Option";  // WatermarkPlacement
 inline constexpr char kWatermarkFirstPageOnly[] = "com.zarvo.print.watermark.FirstPageOnly";
+inline constexpr char kWatermarkTurn[] = "com.zarvo.print.watermark.Turn";
 inline constexpr char kListedWatermark[] = "com.zarvo.WMS.ZRVWM";
 inline constexpr char kListedWatermarkForeground[] = "com.zarvo.WMS.ZRVWMFg";
 inline constexpr char kListedWatermarkFirstPage[] = "com.zarvo.WMS.ZRVWMFPage";

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CUPSFilter/Booklet/BookletRespool.h"
 
+#include <unistd.h>
+#include <algorithm>
+
 #include <algorithm>
 #include <cstring>
 #include <string_view>
@@ -94,8 +97,18 @@ bool WriteBlank(_tag_Q7B_PS_BOOKLET_VARS* v, unsigned creep_offset) {
          Write(v, v->pPageHooks ? "userdict /showpage get exec\n\n" : "showpage\n\n");
 }
 
+/// The beginning of a page's program, after its comment. The file's place stays as it is.
+std::string_view ReadPageHead(const _tag_Q7B_PS_BOOKLET_VARS* v, std::FILE* file, int source,
+                              char (&head)[kPageHead]) {
+  const auto page = static_cast<std::size_t>(source);
+  const ssize_t got = pread(fileno(file), head, sizeof head, v->aPageFilePos[page - 1]);
+  const std::string_view text(head, got > 0 ? static_cast<std::size_t>(got) : 0);
+  return text.substr(std::min(text.find_first_of("\r\n"), text.size()));
+}
+
 /// Writes what follows a page's "%%BeginPageSetup": its size and its place on the sheet.
-bool WritePageSetup(_tag_Q7B_PS_BOOKLET_VARS* v, int source, unsigned creep_offset) {
+bool WritePageSetup(_tag_Q7B_PS_BOOKLET_VARS* v, std::FILE* file, int source,
+                    unsigned creep_offset) {
   const bool imposed = v->iImagesPerSheet == kImposedImagesPerSheet;
   if ((v->bPagesReordered || imposed) && v->adwPageSize[0] != 0) {
     const std::uint32_t size = v->adwPageSize[static_cast<std::size_t>(source) - 1];
@@ -112,7 +125,10 @@ bool WritePageSetup(_tag_Q7B_PS_BOOKLET_VARS* v, int source, unsigned creep_offs
     v->iLastPageLen = static_cast<int>(height);
   }
   if (imposed && std::fprintf(v->hPrinter, "true %u Q7BBMps\n\n", creep_offset) < 0) return false;
-  if (v->pPageHooks) v->pPageHooks->WritePageStart(source - 1);
+  if (v->pPageHooks) {
+    char head[kPageHead];
+    v->pPageHooks->WritePageStart(source - 1, ReadPageHead(v, file, source, head));
+  }
   return true;
 }
 
@@ -149,7 +165,7 @@ int CopyPage(_tag_Q7B_PS_BOOKLET_VARS* v, std::FILE* file, int source, unsigned 
     if (state == rpsScanningForBeginPageSetupAndSettingUpPage) {
       if (!WriteDsc(v)) return 0;
       if (xIsItThisDSC("%%BeginPageSetup", v->szDsc)) {
-        if (!WritePageSetup(v, source, creep_offset)) return 0;
+        if (!WritePageSetup(v, file, source, creep_offset)) return 0;
         state = rpsSpoolingPage;
         new_section = SkipPlainText(v, file, source);
         if (new_section < 0) return -301;
@@ -214,6 +230,8 @@ class FileRespooler {
       const int status = SpoolAllPages();
       return status > 0 ? StartTrailer() : status;
     }
+    if (v_->pPageHooks && state_ != rsSpoolingFileTrailer)
+      v_->pPageHooks->TakeOrientation(v_->szDsc);
     return WriteDsc(v_) ? 1 : 0;
   }
 

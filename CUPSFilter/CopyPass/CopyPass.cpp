@@ -47,9 +47,9 @@ CopyPass::CopyPass(int input, CopyRules& rules, JobOutput& output, std::size_t b
       rules_(rules),
       output_(output),
       block_size_(block_size),
-      // One byte before the data, a line that is not complete yet, a block, and what the scan may
-      // look at behind the end.
-      buffer_(new char[1 + kLongestTestedLine + block_size + kScanSlack]),
+      // One byte before the data, a line that is not complete yet or waits for what follows it, a
+      // block, and what the scan may look at behind the end.
+      buffer_(new char[1 + kLongestTestedLine + kLongestAhead + block_size + kScanSlack]),
       data_(buffer_.get() + 1),
       end_(data_),
       unwritten_(data_) {
@@ -104,7 +104,8 @@ void CopyPass::ScanBuffer() {
     // Everything before is written, so this byte can tell the scan whether a line begins here.
     unwritten_[-1] = inside_long_line_ ? ' ' : '\n';
   } while (!ScanLines(limit));
-  WriteUpTo(limit);
+  WriteUpTo(held_ != nullptr ? held_ : limit);
+  held_ = nullptr;
   inside_long_line_ = !IsLineEnd(unwritten_[-1]);
 }
 
@@ -129,6 +130,7 @@ bool CopyPass::ScanLines(char* limit) {
     char* next = at + line.size();
     const Landmark landmark = rules_.Classify(line);
     if (landmark != Landmark::kNone) {
+      if (rules_.LooksAhead(line) && !ShowAhead(at, next)) return true;
       WriteUpTo(at);
       output_.BeginFormatted();
       const std::int64_t counted = rules_.Apply(landmark, line);
@@ -150,6 +152,17 @@ bool CopyPass::ScanLines(char* limit) {
     }
     at = IsLineEnd(next[-1]) ? next : AfterFirstLineEnd(next, limit);
   }
+  return true;
+}
+
+/// Shows the rules what follows a line. Returns false when more of it has to be read first.
+bool CopyPass::ShowAhead(char* line, char* next) {
+  const auto there = static_cast<std::size_t>(end_ - next);
+  if (there < kLongestAhead && !end_of_input_) {
+    held_ = line;
+    return false;
+  }
+  rules_.ShowAhead({next, std::min(there, kLongestAhead)});
   return true;
 }
 

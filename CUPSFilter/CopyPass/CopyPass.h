@@ -36,6 +36,9 @@ class CopyPass {
   /// From this size on a piece is handed on by the system instead of being written from the buffer.
   static constexpr std::size_t kTransferSize = 32 * 1024;
 
+  /// The rules are shown what follows a line only up to this many bytes.
+  static constexpr std::size_t kLongestAhead = kPageHead;
+
   /// `input` is read with read(2) and not closed. Tests take a smaller block size (at least 1).
   CopyPass(int input, CopyRules& rules, JobOutput& output, std::size_t block_size = kBlockSize);
 
@@ -49,6 +52,7 @@ class CopyPass {
   void ScanBuffer();
   bool ScanLines(char* limit);
   char* CompleteEnd() const;
+  bool ShowAhead(char* line, char* next);
   std::string_view TestedPart(const char* start) const;
   char* NextLineToTest(char* from, char* limit);
   void WriteUpTo(char* position);
@@ -63,9 +67,10 @@ class CopyPass {
   std::size_t block_size_;
 
   std::unique_ptr<char[]> buffer_;
-  char* data_;       // where buffered bytes begin; data_[-1] belongs to the buffer too
-  char* end_;        // end of the buffered bytes
-  char* unwritten_;  // everything before it has been written
+  char* data_;            // where buffered bytes begin; data_[-1] belongs to the buffer too
+  char* end_;             // end of the buffered bytes
+  char* unwritten_;       // everything before it has been written
+  char* held_ = nullptr;  // the line that has to wait for more of what follows it
   bool regular_file_ = false;
   off_t end_offset_ = 0;  // where end_ stands in the file, for a regular file
   off_t size_ = 0;        // of a regular file

@@ -196,7 +196,7 @@ std::int64_t CopyRules::CopyPart(std::string_view line) {
   if (shape_.OwnLine()) copies_.BeforeLine(line);
   page_hooks_->BeforeLine(line, shape_.OwnLine());
   const std::int64_t counted = Apply(ClassifyLine(line), line);
-  page_hooks_->AfterLine(line);
+  page_hooks_->AfterLine(line, shape_.OwnLine());
   return counted;
 }
 

@@ -84,6 +84,13 @@ class CopyRules {
   /// Why the rest of the job must not reach the printer; empty while it may.
   const std::string& refusal() const { return refusal_; }
 
+  /// Whether what follows the line has to be shown before it is applied,
+  bool LooksAhead(std::string_view line) const {
+    return page_hooks_ && page_hooks_->LooksAhead(line);
+  }
+  /// and its first bytes, which may be cut short by the end of the job.
+  void ShowAhead(std::string_view head) { page_hooks_->ShowAhead(head); }
+
   /// Writes what goes after the last line. To be called when the input has ended.
   void Finish();
 

@@ -13,6 +13,14 @@ extern const std::string_view PageHookProcedures;
 
 namespace {
 
+constexpr std::string_view kOrientation = "%%Orientation:";
+
+/// How pages lie when neither they nor their document tell: as the job was asked to be turned.
+int AskedTurn() {
+  const int orientation = PageOrientation();
+  return orientation == 1 ? kLandscape : orientation;
+}
+
 void WriteFlag(FILE* output, const char* name, bool value) {
   std::fprintf(output, "/%s %s def\n", name, value ? "true" : "false");
 }
@@ -47,11 +55,35 @@ PageHooks::PageHooks(const JobSettings& settings, JobOutput& output, JobNotices*
     : settings_(settings),
       output_(output),
       notices_(notices),
-      needed_(settings.watermark || settings.invertImage || settings.flipHorizontal) {}
+      needed_(settings.watermark || settings.invertImage || settings.flipHorizontal),
+      turned_(settings.watermark ? settings.watermark->turn : std::nullopt) {
+  document_turn_ = page_turn_ = turned_ ? *turned_ : AskedTurn();
+}
 
-void PageHooks::BeginDocument() { inserted_ = !needed_ || settings_.booklet; }
+void PageHooks::BeginDocument() {
+  inserted_ = !needed_ || settings_.booklet;
+  told_ = false;
+  document_turn_ = page_turn_ = turned_ ? *turned_ : AskedTurn();
+}
+
+bool PageHooks::LooksAhead(std::string_view line) const {
+  return settings_.watermark && !turned_ && !settings_.booklet && line.starts_with("%%Page:");
+}
+
+void PageHooks::ShowAhead(std::string_view head) {
+  // A page that tells nothing, such as a picture, lies as the one before.
+  page_turn_ = FindPageTurn(head).value_or(told_ ? page_turn_ : document_turn_);
+  told_ = true;
+}
+
+void PageHooks::TakeOrientation(std::string_view line) {
+  if (turned_ || told_ || !line.starts_with(kOrientation)) return;
+  document_turn_ = TurnOfComment(line.substr(kOrientation.size())).value_or(document_turn_);
+  page_turn_ = document_turn_;
+}
 
 void PageHooks::BeforeLine(std::string_view line, bool own) {
+  if (own) TakeOrientation(line);
   if (inserted_) {
     if (own && needed_ && !settings_.booklet && line.starts_with("%%EndSetup"))
       output_.Write("ZRVhooks /again get exec\n");
@@ -63,16 +95,26 @@ void PageHooks::BeforeLine(std::string_view line, bool own) {
   if (!header) Insert();
 }
 
-void PageHooks::AfterLine(std::string_view line) {
+void PageHooks::AfterLine(std::string_view line, bool own) {
   if (!inserted_ && line.starts_with("%%EndComments")) Insert();
+  if (own && !settings_.booklet && line.starts_with("%%Page:")) WriteTurn();
 }
 
 void PageHooks::WriteForBooklet() {
   if (needed_) Insert();
 }
 
-void PageHooks::WritePageStart(int page) {
-  if (needed_) std::fprintf(output_.stream(), "%d ZRVhooks /bookletpage get exec\n", page);
+void PageHooks::WritePageStart(int page, std::string_view head) {
+  if (!needed_) return;
+  if (settings_.watermark && !turned_) ShowAhead(head);
+  WriteTurn();
+  std::fprintf(output_.stream(), "%d ZRVhooks /bookletpage get exec\n", page);
+}
+
+/// Where all pages lie alike it is told once.
+void PageHooks::WriteTurn() {
+  if (settings_.watermark && !turned_)
+    std::fprintf(output_.stream(), "%d ZRVhooks /lying get exec\n", page_turn_);
 }
 
 void PageHooks::Insert() {
@@ -92,8 +134,11 @@ void PageHooks::Insert() {
   WriteFlag(output, "flipy", settings_.flipHorizontal && sideways);
   WriteFlag(output, "negative", settings_.invertImage);
   WriteFlag(output, "firstonly", watermark && watermark->watermarkFirstPageOnly);
-  std::fprintf(output, "/width %d def\n/height %d def\n", WholePoints(PageWidth),
-               WholePoints(PageLength));
+  // A text's place is chosen for the paper as it comes out of its pack.
+  const bool swapped = sideways && watermark && watermark->IsText();
+  std::fprintf(output, "/width %d def\n/height %d def\nstate 2 %d put\n",
+               WholePoints(swapped ? PageLength : PageWidth),
+               WholePoints(swapped ? PageWidth : PageLength), document_turn_);
   if (watermark) {
     if (!watermark->IsText()) {
       if (!outputImageWatermark(&watermark->watermarkData, output) && notices_ != nullptr)

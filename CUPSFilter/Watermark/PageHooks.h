@@ -2,11 +2,13 @@
 // Watermarks, negative and mirror image on jobs of any origin.
 #pragma once
 
+#include <optional>
 #include <string_view>
 
 #include "CUPSFilter/JobOutput.h"
 #include "CUPSFilter/JobSettings.h"
 #include "CUPSFilter/Options/Ppd.h"
+#include "CUPSFilter/Watermark/PageTurn.h"
 
 namespace zarvo {
 
@@ -30,23 +32,35 @@ class PageHooks {
   /// Whether BeforeLine and AfterLine are to be called for every line, whatever it holds; they are
   /// for what divides a document.
   bool WatchesEveryLine() const { return !inserted_; }
+  /// Whether the line begins a page whose program tells how the watermark has to lie, and that
+  /// program's beginning, up to kPageHead bytes.
+  bool LooksAhead(std::string_view line) const;
+  void ShowAhead(std::string_view head);
+  /// A header comment may tell how the pages lie that do not.
+  void TakeOrientation(std::string_view line);
   /// Write what goes before and after a line. `own` says that it is the document's own, not
   /// something embedded's.
   void BeforeLine(std::string_view line, bool own);
-  void AfterLine(std::string_view line);
+  void AfterLine(std::string_view line, bool own);
 
-  /// Ahead of a booklet's first page, and in the set-up of each page (counted from 0).
+  /// Ahead of a booklet's first page, and in the set-up of each page (counted from 0), whose
+  /// program begins with `head`.
   void WriteForBooklet();
-  void WritePageStart(int page);
+  void WritePageStart(int page, std::string_view head);
 
  private:
   void Insert();
+  void WriteTurn();
 
   const JobSettings& settings_;
   JobOutput& output_;
   JobNotices* notices_;
   bool needed_;
-  bool inserted_ = true;  // into this document
+  std::optional<int> turned_;  // how all pages lie, when the job says it
+  bool inserted_ = true;       // into this document
+  bool told_ = false;          // a page of this document has been shown
+  int document_turn_ = 0;      // how pages lie that tell nothing; see PageTurn.h
+  int page_turn_ = 0;          // how this page lies
 };
 
 }  // namespace zarvo

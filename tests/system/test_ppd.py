@@ -22,7 +22,10 @@ PPD = BIN.parent / "ppd/zarvo.ppd"
 TABLE = SOURCE / "tests/system/expected/ppd_choices.txt"
 
 XML = "com.zarvo.print.JTMLOptions..d_JTMLOptionAll..b=true"
-JOB = b"%!PS-Adobe-3.0\n%%BeginProlog\n%%EndProlog\n%%BeginSetup\n%%EndSetup\n%%Page: 1 1\n%%EOF\n"
+# As a converter writes it whose pages are imposed as they are; others' are written anew, with a date.
+JOB = (b"%!PS-Adobe-3.0\n%%Creator: any (ps2write)\n%%Pages: 1\n%%EndComments\n%%BeginProlog\n%%EndProlog\n"
+       b"%%BeginSetup\n%%EndSetup\n%%Page: 1 1\n%%BeginPageSetup\n%%EndPageSetup\nshowpage\n"
+       b"%%Trailer\n%%EOF\n")  # fmt: skip
 # What a choice needs beside it to show.
 WITH = {
     option: beside
@@ -36,7 +39,7 @@ WITH = {
         "FrontCover=Blank": "CoverColorFront",
         "BackCover=Blank": "CoverColorBack",
         "BackgroundForm=Custom.Letterhead": "FormCyclePages",
-        "Watermark=DRAFT": "WMPlace WMPages",
+        "Watermark=DRAFT": "WMPlace WMPages WMTurn",
         "BookletLayout=LeftToRight": "BookletFinish BookletPaper BookletOutline BookletRotate "
                                      "BookletGutter BookletCreep",
         "FaxNumber=Custom.0911-4711": "FaxResolution FaxSpeed FaxConfirmation FaxPrefix FaxBilling",

@@ -31,6 +31,8 @@ constexpr TicketKey InXml(TicketKey key) {
 }
 
 constexpr CodeWord kOffOn[] = {{0, "off"}, {1, "on"}};
+constexpr CodeWord kQuarterTurns[] = {
+    {0, "none"}, {90, "left"}, {180, "upside-down"}, {270, "right"}};
 
 // Media.
 constexpr CodeWord kStockSizes[] = {
@@ -356,6 +358,8 @@ constexpr TicketKey kTopLevel[] = {
      kOffOn},
     {key::kWatermarkFirstPageOnly, kNumber, "watermark on the first page only", 0, 1, kOffOn},
     {key::kWatermarkPlace, kNumber, "where the watermark goes", 1, 3, kPlacements},
+    {key::kWatermarkTurn, kNumber, "how far the pages lie turned, for the watermark", 0, 270,
+     kQuarterTurns},
     {key::kWatermark, kText, "watermark by its name"},
     {key::kBookletReadingOrder, kNumber, "reading order of a booklet", 1, 2, kReadingOrders},
     {key::kBookletDrawOutlines, kNumber, "frame around each booklet page", 0, 1, kOffOn},
