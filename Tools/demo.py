@@ -60,6 +60,7 @@ def main():
     job = folder / "job.ps"
     job.write_text(JOB)
     options = [word for name, value in TICKET.items() for word in ("-o", f"{name}={value}")]
+    print("Printing through a private spooler ...", flush=True)
     with PrivateCupsd() as cupsd, Printer() as printer:
         cupsd.add_queue("zarvo", SOURCE / "tests/golden/ppd/test.ppd", printer.uri)
         cupsd.print("zarvo", job, options)

@@ -29,6 +29,18 @@ def png(width, height, row, claimed=None):
             + chunk(b"IDAT", zlib.compress((b"\0" + row) * height)) + chunk(b"IEND", b""))
 
 
+def gif(width, height, palette_row):
+    """A picture whose rows repeat these entries of the palette black, red, green, blue."""
+    # Codes of three bits; a clear code before every second keeps them so.
+    codes = [code for pixel in (palette_row * width * height)[: width * height] for code in (4, pixel)]
+    bits = "".join(f"{code:03b}"[::-1] for code in [*codes, 5])
+    data = bytes(int(bits[at : at + 8][::-1], 2) for at in range(0, len(bits), 8))
+    blocks = [data[at : at + 255] for at in range(0, len(data), 255)]
+    return (b"GIF89a" + struct.pack("<HHBBB", width, height, 0x91, 0, 0) + bytes(3) + b"\xff"
+            + bytes(3) + b"\xff" + bytes(3) + b"\xff" + b"," + struct.pack("<HHHHB", 0, 0, width, height, 0)
+            + b"\2" + b"".join(bytes([len(block)]) + block for block in blocks) + b"\0;")
+
+
 class Picture:
     """One page. Areas are left, top, right and bottom, in fractions of its sides."""
 

@@ -62,8 +62,12 @@ class Drawing(ZarvoTest):
         self.assert_golden("fax-cover.txt", found + "\n")
 
     def test_a_full_page_takes_no_more(self):
-        full = self.draw(SenderText=WORDS, RecipientText="more", NotesText="more")
-        self.assertNotIn(b"more", run(["pdftotext", full, "-"]))
+        for height in range(792, 806):  # a line ends anywhere above the margin, none below it
+            full = self.draw(height=height, SenderText=WORDS, RecipientText="more", NotesText="more")
+            words = run(["pdftotext", "-bbox", full, "-"]).decode()
+            self.assertNotIn("more", words)
+            lowest = max(map(float, re.findall(r'yMax="([\d.]+)"', words)))
+            self.assertTrue(height - 31 - 18 < lowest <= height - 31, (height, lowest))
 
     def test_an_empty_cover_is_a_white_page(self):
         [page] = draw(pathlib.Path(self.draw(SenderLabel="From", NotesLabel="Notes")).read_bytes())

@@ -6,7 +6,7 @@ import pathlib
 import re
 import unittest
 
-from pictures import draw, png
+from pictures import draw, ghostscript, gif, png
 from zarvo import SOURCE, ZarvoTest
 
 JOB = (SOURCE / "tests/golden/input/watermark.ps").read_bytes()  # two pages, gray from x = 300 on
@@ -80,6 +80,28 @@ class Watermarks(ZarvoTest):
         self.check("0.784314 0 0 setrgbcolor 263 335 50 50 rectfill", [FOREGROUND])
         self.store_image(png(96, 48, RED))
         self.check("0.784314 0 0 setrgbcolor 240 336 96 48 rectfill", [OVERLAY])
+
+    def test_every_kind_of_image_is_decoded(self):
+        halves = b"%!PS\n1 0 0 setrgbcolor 0 0 48 48 rectfill 0 0 1 setrgbcolor 48 0 48 48 rectfill showpage"
+        made = {}
+        for device in ("jpeg", "tiff24nc", "bmp16m", "png16m"):
+            file = pathlib.Path(self.path(device))
+            ghostscript(device, halves, "-g96x48", "-r72", f"-sOutputFile={file}")
+            made[device] = file.read_bytes()
+        for kind, image in (made | {"gif": gif(96, 48, [1] * 48 + [3] * 48)}).items():
+            with self.subTest(kind):
+                self.store_image(image)
+                page, _ = drawn(self.filtered(self.options(FOREGROUND), JOB))
+                left, top, right, bottom = 240 / 612, 408 / 792, 288 / 612, 456 / 792
+                inner = 2 * 40 * 2 * 40  # a lossy picture blurs the edge between its halves
+                self.assertGreater(page.count("red", left, top, right, bottom), inner)
+                self.assertGreater(page.count("blue", right, top, 336 / 612, bottom), inner)
+                # A JPEG without its end mark may lack any part of the picture.
+                for end in [len(image) * 2 // 3] + [len(image) - 2] * (kind == "jpeg"):
+                    self.store_image(image[:end])
+                    output = self.filtered(self.options(FOREGROUND), JOB)
+                    self.assertFalse(b"readdata\n" in output, end)
+                    self.assertEqual(self.errors.count("INFO: "), 1, self.errors)
 
     def test_jobs_may_call_their_dictionary_md(self):
         self.store(textString="HHHHHHHH")

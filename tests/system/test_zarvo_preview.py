@@ -98,7 +98,7 @@ class Preview(ZarvoTest):
         self.assertEqual(out.stderr, b"")
         opener = pathlib.Path(self.path("xdg-open", '#!/bin/sh\ncp "$1" shown.pdf\n'))
         opener.chmod(0o755)
-        self.environment["PATH"] += f":{self.scratch}"
+        self.environment["PATH"] = f"{self.scratch}:" + self.environment["PATH"]
         self.run_zarvo("preview", "-", "--open", stdin=out.stdout, status=2)
         self.assertIn("no display", self.errors)
         self.environment["DISPLAY"] = ":0"
