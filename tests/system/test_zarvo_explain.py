@@ -39,6 +39,16 @@ class Explain(ZarvoTest):
                 self.assertNotRegex(text, SECRETS)
                 self.assert_golden(name + ".txt", text)
 
+    def test_every_finishing_has_its_words(self):
+        codes = "3 13 20 21 22 23 28 29 30 31 32 33 34 35 50 52 90 91 92 93 94 95 96 110 111 1000 1001"
+        codes += " 1003 1004 1005 1008 1011 1012"
+        values = "".join(f'<value syntax="enum">{code}</value>' for code in codes.split())
+        job = self.filtered(FULL, document()).replace(b'<value syntax="enum">20</value>', values.encode())
+        # Folded in the middle without being a booklet, which is told.
+        report = json.loads(self.run_zarvo("explain", "--json", stdin=job, status=1))
+        [finishing] = [entry for entry in report["ticket"] if entry["code"] == "finishings"]
+        self.assert_golden("explain-finishings.json", json.dumps(finishing, indent=1) + "\n")
+
     def test_json_says_the_same(self):
         job = self.path("job.prn", self.filtered(FULL, document(3, (595, 842))))
         report = json.loads(self.run_zarvo("explain", "--json", job))
