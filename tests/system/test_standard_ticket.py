@@ -26,6 +26,13 @@ HEADING = "|---|---|---|\n"
 JOB = SOURCE / "tests/golden/input/plain.ps"
 TABLE = SOURCE / "tests/system/standard_ticket.toml"
 EXPECTED = SOURCE / "tests/system/expected/standard_ticket.txt"
+DOCUMENT = """%!PS-Adobe-3.0
+%%Pages: 1
+%%EndComments
+%%Page: 1 1
+72 72 moveto 144 0 rlineto stroke showpage
+%%EOF
+"""
 REQUEST = """{{
 OPERATION Print-Job
 VERSION 2.0
@@ -63,6 +70,8 @@ class Spooler(unittest.TestCase):
         self.printer = self.enterContext(Printer())
         self.cupsd.add_queue("zarvo", PPD, self.printer.uri)
         self.folder = pathlib.Path(self.enterContext(tempfile.TemporaryDirectory()))
+        self.document = self.folder / "page.ps"
+        self.document.write_text(DOCUMENT)
         self.jobs = 0
 
     def ipptool(self, text):
@@ -71,17 +80,17 @@ class Spooler(unittest.TestCase):
         job = [line for line in lines if "OPERATION" not in line]
         request = self.folder / "request.test"
         request.write_text(REQUEST.format(operation="\n".join(operation), job="\n".join(job)))
-        self.cupsd.run("ipptool", "-t", "-f", str(JOB),
+        self.cupsd.run("ipptool", "-t", "-f", str(self.document),
                        f"ipp://127.0.0.1:{self.cupsd.port}/printers/zarvo", str(request))  # fmt: skip
 
     def lp(self, text):
         options = [word for option in re.findall(r"(?:[^ \\]|\\.)+", text) for word in ("-o", option)]
         options = [option.replace("\\ ", " ") if "{" in option else option for option in options]
-        self.cupsd.print("zarvo", JOB, ["-U", "alice", "-t", "the job", *options])
+        self.cupsd.print("zarvo", self.document, ["-U", "alice", "-t", "the job", *options])
 
     def head_and_state(self):
         """The lines ahead of the PostScript of the next job, and what its state says."""
-        job = self.printer.wait(timeout=20).decode("latin-1")
+        job = self.printer.wait(timeout=60).decode("latin-1")
         self.jobs += 1
         self.cupsd.wait_for_log(f"[Job {self.jobs}] Job completed.")
         state = self.cupsd.run("lpstat", "-l", "-W", "completed", "-o")
