@@ -170,9 +170,20 @@ bool HasNumber(const Dictionary& group, std::string_view key, std::int64_t wante
 
 /// What a queue that fails closed has to say of a job with this ticket.
 Judgement Judge(Dictionary ticket) {
+  // The options that the policy looks at, no deeper and no more: tickets may be of any size.
   std::vector<FlatOption> flat;
-  std::string error;
-  if (auto all = FlattenTicket(ticket, &error)) flat = *std::move(all);
+  const auto add = [&flat](std::string name, const Value& value) {
+    const std::string* text = value.AsString();
+    flat.push_back({std::move(name), text != nullptr ? *text : "?"});
+  };
+  for (const auto& [name, value] : ticket) {
+    const Dictionary* group = value.AsDictionary();
+    if (group == nullptr) {
+      add(name, value);
+      continue;
+    }
+    for (const auto& [member, inner] : *group) add(name + "..d_" + member, inner);
+  }
   std::vector<cups_option_t> own;
   for (FlatOption& option : flat) own.push_back({option.name.data(), option.value.data()});
   const JobRequest request = {own, {}, {}};
