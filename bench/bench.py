@@ -77,6 +77,47 @@ def make_store(folder, image):
     target.write_text(f'<?xml version="1.0"?><plist version="1.0"><dict>{body}</dict></plist>')
 
 
+# A manual of hundreds of pages, from a package of TeX documentation.
+LONG_DOCUMENT = ("texlive-latex-base-doc", "usr/share/doc/texlive-doc/latex/l3kernel/interface3.pdf")
+
+
+def long_document(folder):
+    """The document in the file that ZARVO_BENCH_DOCUMENT names, else taken out of its package."""
+    if named := os.environ.get("ZARVO_BENCH_DOCUMENT"):
+        return pathlib.Path(named)
+    package, name = LONG_DOCUMENT
+    subprocess.run(["apt-get", "download", "-qq", package], cwd=folder, check=True, capture_output=True)
+    [archive] = folder.glob(f"{package}_*.deb")
+    subprocess.run(["dpkg", "-x", archive, folder / "document"], check=True)
+    archive.unlink()
+    return folder / "document" / name
+
+
+def long_rows(bench, folder):
+    """A preview with a watermark against converting the plain document and drawing it, in wall time."""
+    try:
+        pdf = long_document(folder)
+    except (OSError, subprocess.CalledProcessError) as problem:
+        print(f"preview of a long document: NOT MEASURED: {problem}")
+        return
+    store = "Watermark=Custom.Bench"
+    ppd = str(BIN.parent / "ppd/zarvo.ppd")
+    for ending, device, resolution in (("pdf", "pdfwrite", 100), ("png", "png16m", 100)):
+        plain = (f'cupsfilter -p "$2" -i application/pdf -m application/vnd.cups-postscript '
+                 f'-o pdftops-renderer=pdftops "$1" > "$3/plain.ps" 2>/dev/null && '
+                 f'gs -q -dBATCH -dNOPAUSE -dSAFER -sDEVICE={device} -r{resolution} '
+                 f'-dTextAlphaBits=4 -dGraphicsAlphaBits=4 '
+                 f'-sOutputFile="$3/plain-%d.{ending}" "$3/plain.ps"')
+        if ending == "pdf":
+            plain = plain.replace("plain-%d", "plain").replace(f" -r{resolution}", "")
+        drawn = [str(BIN / "zarvo"), "preview", str(pdf), "-p", ppd, "--output", str(folder / f"drawn.{ending}")]
+        peer = ["sh", "-c", plain, "sh", str(pdf), ppd, str(folder)]
+        for name, options in (("plain", []), ("watermark", ["-o", store]),
+                              ("watermark behind", ["-o", f"{store} WMPlace=Background"])):
+            bench.row(f"preview of a long document as {ending}, {name} / drawing it",
+                      drawn + options, peer, [("wall", 2)])
+
+
 class Run:
     """What one run of a command cost."""
 
@@ -242,6 +283,9 @@ def main():
             print("image watermark: NOT MEASURED: zarvodraw is not built")
         confine = str(BIN / "bench_confine")
         bench.difference("helper locked in / not", [confine, "on"], [confine, "off"], 0.005)
+        bench.runs = min(arguments.runs, 3)  # many seconds each
+        long_rows(bench, folder)
+        bench.runs = arguments.runs
         tiny = ours(file=job["tiny"])
         bench.memory("peak memory, short lines / tiny job", ours(file=job["lines"]), tiny, 4096)
         bench.memory("peak memory, booklet / tiny job", ours(BOOKLET, job["pages"]), tiny, 4096)

@@ -195,6 +195,8 @@ void CheckSense(const JobRequest& request, const Dictionary& ticket,
 
 }  // namespace
 
+std::span<const char* const> TypedOptionNames() { return kTypedNames; }
+
 std::vector<std::string> FindVainOptions(const JobRequest& request, const Ppd& ppd,
                                          const Dictionary& ticket) {
   std::vector<std::string> found;

@@ -3,6 +3,7 @@
 // not have, settings that lack another one.
 #pragma once
 
+#include <span>
 #include <string>
 #include <vector>
 
@@ -11,6 +12,9 @@
 #include "Platform/Value.h"
 
 namespace zarvo {
+
+/// Options of the spooler and its converters that people type.
+std::span<const char* const> TypedOptionNames();
 
 /// One text for each, with the option's name, what was done instead, and what may have been meant.
 /// Values are shown only of options that take no text of people's own. The PPD's choices must be

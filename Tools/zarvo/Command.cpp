@@ -20,7 +20,7 @@ constexpr mode_t kNewFileMode = 0666;
 int Fail(const std::string& place, const std::string& cause, const std::string& remedy) {
   if (NotedTermination() != 0) return kExitFailure;  // the user knows why
   std::string text = "zarvo: " + place + ": " + cause;
-  if (!remedy.empty()) text += ". " + remedy;
+  if (!remedy.empty()) text += (text.ends_with('?') ? " " : ". ") + remedy;
   // What came from a file must not be able to steer the terminal.
   std::fprintf(stderr, "%s\n", PrintableText(text).c_str());
   return kExitFailure;

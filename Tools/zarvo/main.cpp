@@ -7,6 +7,7 @@
 #include <exception>
 
 #include "Platform/Process.h"
+#include "Source/NearestName.h"
 #include "Tools/zarvo/Command.h"
 #include "Tools/zarvo/CommandTable.h"
 
@@ -37,9 +38,16 @@ int WrongUsage(const CLI::App& app, const CLI::ParseError& error) {
     command += at->get_name() + " ";
   }
   const std::vector<std::string> unknown = at->remaining();
-  const bool no_command = at->get_require_subcommand_min() > 0 && !unknown.empty();
-  return Fail(command.empty() ? "command line" : command.substr(0, command.size() - 1),
-              no_command ? "no such command: " + unknown[0] : error.what(),
+  std::string cause = error.what();
+  if (at->get_require_subcommand_min() > 0 && !unknown.empty()) {
+    cause = "no such command: " + unknown[0];
+    std::vector<std::string> names;
+    for (const CLI::App* known : at->get_subcommands([](const CLI::App*) { return true; }))
+      names.push_back(known->get_name());
+    if (const std::string nearest = NearestName(unknown[0], names); !nearest.empty())
+      cause += "; did you mean " + nearest + "?";
+  }
+  return Fail(command.empty() ? "command line" : command.substr(0, command.size() - 1), cause,
               "\"zarvo " + command + "--help\" tells more");
 }
 

@@ -154,6 +154,14 @@ class Spooler(ZarvoTest):
             plan = self.run_zarvo("preview", job, "-s", settings, "-q", "office", "--output", "x.pdf")
             self.assertIn("2 pages on 2 sheets", plan)
             self.run_zarvo("preview", job, "-q", "nowhere", status=2)
+            faulty = self.path("faulty.json", {"siides": "one-sided"})
+            self.run_zarvo("print", job, faulty, "-d", "office", status=2)
+            self.assertIn("siides: unknown option; did you mean sides?", self.errors)
+            for option in ("Duplx=None", "Duplex=Nune"):
+                self.run_zarvo("print", job, "-d", "office", "-o", option, status=2)
+                self.assertRegex(self.errors, "did you mean (Duplex|None)")
+            self.run_zarvo("print", job, faulty, "-d", "office", "--force")
+            self.assertTrue(printer.wait())
             self.doctor(cupsd.serverbin / "filter")
             self.privacy(cupsd.root / "cupsd.conf")
         self.run_zarvo("print", job, "-d", "office", status=2)  # nobody answers

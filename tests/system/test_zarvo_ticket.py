@@ -99,6 +99,9 @@ class Ticket(ZarvoTest):
             '{"JobType": {"JobType": "proof"}, "job-password": "0391"}': "cannot keep a PIN",
             '{"JobType": {"JobType": "fax"}, "FaxOptions": {"Resolution": 1}}': "no recipient",
             "com.zarvo.print.JobType..d_JobTyp..n=6": "did you mean JobType?",
+            '{"siides": "one-sided"}': "siides: unknown option; did you mean sides?",
+            '{"JTMLOptions": {"JTMLOptionAll": true}, "FinishingOptions": 24, "BookletFoldStaple": 8}':
+                "folds sheets that are not laid out as a booklet",
         }.items():
             with self.subTest(ticket=ticket):
                 self.assertIn(finding, self.run_zarvo("ticket", "check", stdin=ticket, status=1))

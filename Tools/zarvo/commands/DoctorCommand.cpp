@@ -26,6 +26,7 @@
 #include "Source/WatermarkSupport.h"
 #include "Tools/zarvo/Command.h"
 #include "Tools/zarvo/Terminal.h"
+#include "Tools/zarvo/system/Office.h"
 #include "Tools/zarvo/system/Privacy.h"
 #include "Tools/zarvo/system/Queues.h"
 #include "Tools/zarvo/system/Run.h"
@@ -52,6 +53,7 @@ class Examination {
     CheckHelper();
     CheckConfinement();
     CheckConverters();
+    CheckOffice();
     CheckQueues();
     CheckPrivacy();
     CheckStores();
@@ -209,6 +211,7 @@ class Examination {
         Wrong("queue", name, "its PPD file is damaged, " + fault,
               "lpadmin -p " + name + " -P zarvo.ppd");
       }
+      CheckRenderer(name);
     }
     if (!used)
       Note(
@@ -229,6 +232,25 @@ class Examination {
     if (fault.empty()) return Good("privacy", path);
     Note("privacy", path, "other people can read secrets of jobs, " + fault,
          std::string("Put into each <Policy>, a line each: ") + kPrivacyLines);
+  }
+
+  void CheckRenderer(const std::string& queue) {
+    const std::string renderer = QueueDefault(queue, kRendererOption);
+    if (renderer == kBestRenderer) return Good("PDF renderer", queue);
+    const std::string option = std::string(kRendererOption) + "-default=" + kBestRenderer;
+    Note("PDF renderer", queue,
+         (renderer.empty() ? "none is chosen" : "is " + renderer) +
+             "; long documents and see-through drawings take minutes, or print as one picture",
+         "lpadmin -p " + queue + " -o " + option);
+  }
+
+  void CheckOffice() {
+    const std::string program = OfficeProgram();
+    if (!program.empty()) return Good("office documents", program);
+    Note("office documents", "LibreOffice",
+         "is not installed; \"zarvo print letter.odt\" and \"zarvo preview\" need it",
+         "apt install --no-install-recommends libreoffice-writer-nogui libreoffice-calc-nogui "
+         "libreoffice-impress-nogui");
   }
 
   void CheckStores() {

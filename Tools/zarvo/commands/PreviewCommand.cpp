@@ -109,9 +109,13 @@ class Preview {
     if (!failure.empty()) return Fail(Title(), failure);
     const std::vector<std::string> findings = Findings(report_);
     if (options_.output != "-") PrintPlan();
-    if (!complaints_.empty()) Tell("the filter says: " + complaints_);
+    bool fault = !findings.empty();
+    for (const Complaint& complaint : complaints_) {
+      Tell("the filter says: " + complaint.text);
+      fault = fault || complaint.fault;
+    }
     for (const std::string& finding : findings) Tell(Title() + ": " + finding);
-    return findings.empty() ? kExitOk : kExitFindings;
+    return fault ? kExitFindings : kExitOk;
   }
 
   /// What there is to look at; empty when nothing has been written.
@@ -364,7 +368,7 @@ class Preview {
   JobReport report_;
   std::vector<SpecialSheet> special_;
   std::vector<SheetSide> sides_;
-  std::string complaints_;
+  std::vector<Complaint> complaints_;
   std::string first_;
   std::size_t pictures_ = 0;
   int status_ = kExitOk;
@@ -379,12 +383,14 @@ int RunPreview(Options options) {
     return Fail(options.job, std::strerror(errno));
   std::unique_ptr<QueuePpd> queue;
   std::string ppd = options.ppd;
+  std::string renderer = kBestRenderer;
   if (!options.queue.empty()) {
     std::string error;
     queue = std::make_unique<QueuePpd>(options.queue, &error);
     if (queue->path().empty())
       return Fail(options.queue, error, "\"lpstat -e\" shows the queues; -p takes a PPD file");
     ppd = queue->path();
+    renderer = QueueDefault(options.queue, kRendererOption);
   }
   if (!ppd.empty()) {
     if (const std::string fault = PpdFault(ppd); !fault.empty()) return Fail(ppd, fault);
@@ -395,7 +401,11 @@ int RunPreview(Options options) {
   if (!CanWrite(options.output))
     return Fail(options.output, "ends neither in .pdf nor in .png",
                 "These two are what a preview can be written as");
-  Preview preview(options, *text, ppd);
+  // As the queue converts; without one, as a queue should.
+  std::string option_text = *text;
+  if (!renderer.empty() && option_text.find(kRendererOption) == std::string::npos)
+    option_text += std::string(option_text.empty() ? "" : " ") + kRendererOption + "=" + renderer;
+  Preview preview(options, option_text, ppd);
   const int status = preview.Run();
   if (!options.open || preview.FirstFile().empty() || status == kExitFailure) return status;
   const int shown = Show(preview.FirstFile());

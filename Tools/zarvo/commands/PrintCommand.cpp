@@ -11,9 +11,15 @@
 #include <memory>
 
 #include "CUPSFilter/Options/OptionList.h"
+#include "Platform/Log.h"
 #include "Platform/UniqueFd.h"
 #include "Tools/zarvo/Command.h"
+#include "Tools/zarvo/job/JobKind.h"
 #include "Tools/zarvo/job/JobOptions.h"
+#include "Tools/zarvo/job/OptionFaults.h"
+#include "Tools/zarvo/system/Office.h"
+#include "Tools/zarvo/system/Queues.h"
+#include "Tools/zarvo/system/Run.h"
 #include "Tools/zarvo/ticket/TicketCheck.h"
 #include "Tools/zarvo/ticket/TicketText.h"
 
@@ -93,6 +99,37 @@ int Print(const Options& options) {
   return status;
 }
 
+/// What has something wrong is not printed unless that is wanted; an office document becomes a PDF
+/// file first.
+int CheckAndPrint(Options options, bool force) {
+  bool doubtful = false;
+  const std::optional<std::string> text = OptionTextOf(options.options, &doubtful);
+  if (!text) return kExitFailure;
+  std::string error;
+  const QueuePpd ppd(options.queue, &error);
+  std::vector<std::string> faults;
+  if (!ppd.path().empty() && UsesOurFilter(ppd.path())) faults = OptionFaults(*text, ppd.path());
+  for (const std::string& fault : faults)
+    std::fprintf(stderr, "zarvo: %s\n", PrintableText(fault).c_str());
+  if ((doubtful || !faults.empty()) && !force)
+    return Fail(options.file, "is not printed with such settings",
+                "Correct them, or give --force to print it all the same");
+  // They have been told of.
+  options.options = {{*text}, ""};
+  std::string start(kKindBytes, '\0');
+  const Stream file(options.file != "-" ? std::fopen(options.file.c_str(), "rbe") : nullptr);
+  start.resize(file ? std::fread(start.data(), 1, start.size(), file.get()) : 0);
+  if (KindOfJob(start, options.file) != JobKind::kOffice) return Print(options);
+  const ScratchFolder scratch;
+  if (!scratch) return Fail("TMPDIR", "no folder for temporary files can be made");
+  std::string pdf;
+  const std::string failure = ConvertOfficeDocument(options.file, scratch, &pdf);
+  if (!failure.empty()) return Fail(options.file, failure);
+  if (options.title.empty()) options.title = options.file.substr(options.file.rfind('/') + 1);
+  options.file = pdf;
+  return Print(options);
+}
+
 }  // namespace
 
 void SetUpPrint(CLI::App& app, Action* action) {
@@ -104,7 +141,9 @@ void SetUpPrint(CLI::App& app, Action* action) {
       ->allow_extra_args(false);
   app.add_option("-n,--copies", options->copies, "number of copies")->check(CLI::PositiveNumber);
   app.add_option("-t,--title", options->title, "title of the job");
-  app.callback([=] { *action = [=] { return Print(*options); }; });
+  const auto force = std::make_shared<bool>(false);
+  app.add_flag("--force", *force, "print even when something is wrong with the settings");
+  app.callback([=] { *action = [=] { return CheckAndPrint(*options, *force); }; });
 }
 
 }  // namespace zarvo::tool

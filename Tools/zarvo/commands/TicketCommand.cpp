@@ -40,13 +40,17 @@ int Encode(const Options& options) {
   if (const std::string fault = SecretFault(*ticket); !fault.empty())
     std::fprintf(stderr, "zarvo: ticket: no queue should print this: %s\n",
                  PrintableText(fault).c_str());
+  const std::vector<TicketFinding> findings = CheckTicket(*ticket);
+  for (const TicketFinding& finding : findings)
+    std::fprintf(stderr, "zarvo: %s\n", PrintableText(finding.place + ": " + finding.text).c_str());
   std::string text;
   if (options.lines) {
     for (const FlatOption& option : *flat) text += OptionText({option}) + "\n";
   } else {
     text = OptionText(*flat) + "\n";
   }
-  return WriteOutput(options.output, text);
+  const int status = WriteOutput(options.output, text);
+  return status == kExitOk && !findings.empty() ? kExitFindings : status;
 }
 
 int Decode(const Options& options) {

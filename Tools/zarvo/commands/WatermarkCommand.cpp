@@ -208,8 +208,8 @@ int AddImage(const Options& options) {
   decoding.output = "/dev/null";
   std::string log;
   if (!RunChild(decoding, &log)) {
-    const std::string told = Complaints(log);
-    return Fail(options.file, told.empty() ? ErrorLines(log) : told);
+    const std::vector<Complaint> told = Complaints(log);
+    return Fail(options.file, told.empty() ? ErrorLines(log) : told[0].text);
   }
   _WatermarkData data{};
   fs::path image = source;
@@ -296,7 +296,7 @@ int Show(const Options& options) {
   filter.output = scratch.File("job.prn");
   std::string log;
   if (!RunChild(filter, &log)) return Fail(filter.arguments[0], ErrorLines(log));
-  if (const std::string lost = Complaints(log); !lost.empty()) return Fail(options.name, lost);
+  if (const auto lost = Complaints(log); !lost.empty()) return Fail(options.name, lost[0].text);
   const Stream made(std::fopen(scratch.File("job.prn").c_str(), "rbe"));
   PostScriptFiles split;
   std::string failure = made ? SplitJob(made.get(), scratch, {}, &split) : std::strerror(errno);

@@ -10,7 +10,7 @@
 
 namespace zarvo::tool {
 
-std::optional<std::string> OptionTextOf(const JobOptions& job) {
+std::optional<std::string> OptionTextOf(const JobOptions& job, bool* doubtful) {
   std::string text;
   for (const std::string& option : job.options) text += (text.empty() ? "" : " ") + option;
   if (job.settings.empty()) return text;
@@ -23,7 +23,9 @@ std::optional<std::string> OptionTextOf(const JobOptions& job) {
     Fail(job.settings, error);
     return std::nullopt;
   }
-  for (const TicketFinding& finding : CheckTicket(*ticket))
+  const std::vector<TicketFinding> findings = CheckTicket(*ticket);
+  if (doubtful != nullptr) *doubtful = !findings.empty();
+  for (const TicketFinding& finding : findings)
     std::fprintf(stderr, "zarvo: %s\n",
                  PrintableText(job.settings + ": " + finding.place + ": " + finding.text).c_str());
   return text + (text.empty() ? "" : " ") + OptionText(*flat);

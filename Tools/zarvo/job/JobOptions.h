@@ -16,7 +16,7 @@ struct JobOptions {
 };
 
 /// The options as one text, or nothing, having told why. Doubtful settings are told on standard
-/// error and do not hinder.
-std::optional<std::string> OptionTextOf(const JobOptions& job);
+/// error and do not hinder; `doubtful` (may be null) becomes true then.
+std::optional<std::string> OptionTextOf(const JobOptions& job, bool* doubtful = nullptr);
 
 }  // namespace zarvo::tool

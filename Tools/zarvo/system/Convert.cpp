@@ -129,7 +129,7 @@ std::vector<std::vector<std::string>> Converters(const JobSource& source, JobKin
 }  // namespace
 
 std::string MakeJob(const JobSource& given, const ScratchFolder& scratch, const PageListener& page,
-                    PostScriptFiles* split, std::string* complaints) {
+                    PostScriptFiles* split, std::vector<Complaint>* complaints) {
   JobSource source = given;
   JobKind kind = KindOfJob(StartOf(source.file), source.file);
   if (kind == JobKind::kEmpty) return "is empty: neither PostScript nor PDF";

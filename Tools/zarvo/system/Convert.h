@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "Tools/zarvo/system/Run.h"
 
@@ -25,6 +26,6 @@ using PageListener = std::function<void(std::uint64_t, std::uint64_t)>;
 /// They work at the same time, so that the first pages come out early. `complaints` gets what the
 /// filter has to say about what it left out. Gives an empty text, or why it failed.
 std::string MakeJob(const JobSource& source, const ScratchFolder& scratch, const PageListener& page,
-                    PostScriptFiles* split, std::string* complaints);
+                    PostScriptFiles* split, std::vector<Complaint>* complaints);
 
 }  // namespace zarvo::tool

@@ -76,6 +76,24 @@ std::vector<std::string> OptionWords(const std::string& path, bool values) {
   return words;
 }
 
+std::string QueueDefault(const std::string& queue, const std::string& option) {
+  std::string error;
+  const Connection spooler = Connect(&error);
+  if (!spooler) return "";
+  char uri[HTTP_MAX_URI];
+  httpAssembleURIf(HTTP_URI_CODING_ALL, uri, sizeof uri, "ipp", nullptr, "localhost", 0,
+                   "/printers/%s", queue.c_str());
+  ipp_t* request = ippNewRequest(IPP_OP_GET_PRINTER_ATTRIBUTES);
+  ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri);
+  const std::string name = option + "-default";
+  const std::unique_ptr<ipp_t, decltype(&ippDelete)> answer(
+      cupsDoRequest(spooler.get(), request, "/"), &ippDelete);
+  ipp_attribute_t* attribute =
+      answer ? ippFindAttribute(answer.get(), name.c_str(), IPP_TAG_ZERO) : nullptr;
+  const char* value = attribute != nullptr ? ippGetString(attribute, 0, nullptr) : nullptr;
+  return value != nullptr ? value : "";
+}
+
 std::string PpdFault(const std::string& path) {
   const std::unique_ptr<ppd_file_t, decltype(&ppdClose)> ppd(ppdOpenFile(path.c_str()), &ppdClose);
   if (ppd != nullptr) return "";

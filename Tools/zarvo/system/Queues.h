@@ -34,6 +34,14 @@ std::string DefaultQueue();
 /// each choice. Nothing when the file cannot be read.
 std::vector<std::string> OptionWords(const std::string& path, bool values);
 
+/// What turns PDF files into PostScript, as the spooler's option "pdftops-renderer" has it. Its own
+/// default can take minutes for a drawing that is see-through, and makes one picture of the page.
+inline constexpr const char* kRendererOption = "pdftops-renderer";
+inline constexpr const char* kBestRenderer = "pdftops";
+
+/// The queue's own default of an option, or an empty text when it has none.
+std::string QueueDefault(const std::string& queue, const std::string& option);
+
 /// Why the PPD file cannot be used, with its line, or an empty text.
 std::string PpdFault(const std::string& path);
 

@@ -147,13 +147,16 @@ std::string ErrorLines(const std::string& log) {
   return errors.empty() ? last : errors;
 }
 
-std::string Complaints(const std::string& log) {
-  std::string complaints;
+std::vector<Complaint> Complaints(const std::string& log) {
+  // The summary of all others, for the spooler.
+  constexpr std::string_view kSummary = "WARNING: Not as asked: ";
+  std::vector<Complaint> complaints;
   std::istringstream lines(log);
   for (std::string line; std::getline(lines, line);) {
-    for (const std::string_view prefix : {"ERROR: ", "INFO: "}) {
+    if (line.starts_with(kSummary)) continue;
+    for (const std::string_view prefix : {"ERROR: ", "WARNING: ", "INFO: "}) {
       if (line.starts_with(prefix))
-        complaints += (complaints.empty() ? "" : "; ") + line.substr(prefix.size());
+        complaints.push_back({prefix != "INFO: ", line.substr(prefix.size())});
     }
   }
   return complaints;

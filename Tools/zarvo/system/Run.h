@@ -68,9 +68,12 @@ std::string ReadLog(int file);
 /// The lines of a log that tell of errors, without their prefix; its end when there are none.
 std::string ErrorLines(const std::string& log);
 
-/// What the filter has to say about a job that it took: what it left out, and why. Without the
-/// lines' prefixes; empty when all went well.
-std::string Complaints(const std::string& log);
+/// What the filter has to say about a job that it took: what it left out, and why.
+struct Complaint {
+  bool fault;        ///< the job is not what was asked for
+  std::string text;  ///< without the line's prefix
+};
+std::vector<Complaint> Complaints(const std::string& log);
 
 /// A job's PostScript, taken apart as the printer does.
 struct PostScriptFiles {

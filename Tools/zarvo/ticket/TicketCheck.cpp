@@ -5,6 +5,7 @@
 #include <cctype>
 #include <cstring>
 
+#include "CUPSFilter/Options/OptionCheck.h"
 #include "CUPSFilter/Options/PinPolicy.h"
 #include "Source/CFAdditions.h"
 #include "Source/Mappings.h"
@@ -120,8 +121,21 @@ class Checker {
       for (const TicketKey& key : keys) candidates.push_back(ours ? key.name : ShortName(key));
       nearest = NearestName(name, candidates);
     }
-    if (!ours && value.AsString() != nullptr && !IsMisspelt(name, nearest)) return;
+    if (!ours && value.AsString() != nullptr && !IsMisspelt(name, nearest)) {
+      if (compared_ <= kMostCompared) SpoolerOption(place, name);
+      return;
+    }
     Add(place, nearest.empty() ? "unknown key" : "unknown key; did you mean " + nearest + "?");
+  }
+
+  /// One of the spooler's own options, which it reads as text.
+  void SpoolerOption(const std::string& place, const std::string& name) {
+    std::vector<std::string> known;
+    for (const char* typed : TypedOptionNames()) known.emplace_back(typed);
+    constexpr std::size_t kShortest = 4;  // shorter ones are all alike
+    const std::string nearest = NearestName(name, known);
+    if (name.size() >= kShortest && IsMisspelt(name, nearest))
+      Add(place, "unknown option; did you mean " + nearest + "?");
   }
 
   void Known(const std::string& place, const Value& value, const TicketKey& key) {
@@ -197,8 +211,33 @@ Judgement Judge(Dictionary ticket) {
   return verdict;
 }
 
-/// Settings that do nothing by themselves, and secrets that cannot be kept.
+/// Folding in the middle, by one of the presets for it, asks for pages that are laid out so.
+void CheckFold(const Dictionary& ticket, Checker* checker) {
+  constexpr int kFold = 7;
+  constexpr int kFoldAndStaple = 8;
+  constexpr int kHalf = 43;
+  constexpr int kHalfAndStaple = 44;
+  const auto preset = [&ticket](int wanted) {
+    return HasNumber(ticket, key::kFinishingOptions, wanted);
+  };
+  const auto has = [&ticket](const char* name, int one, int other) {
+    return HasNumber(ticket, name, one) || HasNumber(ticket, name, other);
+  };
+  const bool folded =
+      preset(3) ||
+      ((preset(0) || preset(24) || !DictionaryContains(ticket, key::kFinishingOptions)) &&
+       has(key::kBookletFoldStaple, kFold, kFoldAndStaple)) ||
+      (preset(40) && has(key::kFinishingFoldValue, kHalf, kHalfAndStaple));
+  if (folded && DictionaryGetBoolean(ticket, key::kBookletLayout) != true)
+    checker->Add(key::kFinishingOptions,
+                 std::string("folds sheets that are not laid out as a booklet; add ") +
+                     key::kBookletLayout + ": true");
+}
+
+/// Settings that do nothing by themselves, or harm without another one, and secrets
+/// that cannot be kept.
 void CheckSense(const Dictionary& ticket, Checker* checker) {
+  CheckFold(ticket, checker);
   const Dictionary* sections = DictionaryGetDictionary(ticket, key::kJTMLOptions);
   if (sections == nullptr && !HasNumber(ticket, key::kEmitJTML, 0)) {
     for (const TicketKey& key : TopLevelKeys()) {
