@@ -4,6 +4,7 @@
 
 import json
 import os
+import pathlib
 import pty
 import signal
 import subprocess

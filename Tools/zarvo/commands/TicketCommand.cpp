@@ -40,8 +40,7 @@ int Encode(const Options& options) {
   if (const std::string fault = SecretFault(*ticket); !fault.empty())
     std::fprintf(stderr, "zarvo: ticket: no queue should print this: %s\n",
                  PrintableText(fault).c_str());
-  const std::vector<TicketFinding> findings = CheckTicket(*ticket);
-  for (const TicketFinding& finding : findings)
+  for (const TicketFinding& finding : CheckTicket(*ticket))
     std::fprintf(stderr, "zarvo: %s\n", PrintableText(finding.place + ": " + finding.text).c_str());
   std::string text;
   if (options.lines) {
@@ -49,8 +48,7 @@ int Encode(const Options& options) {
   } else {
     text = OptionText(*flat) + "\n";
   }
-  const int status = WriteOutput(options.output, text);
-  return status == kExitOk && !findings.empty() ? kExitFindings : status;
+  return WriteOutput(options.output, text);
 }
 
 int Decode(const Options& options) {
