@@ -1,5 +1,35 @@
 // SPDX-License-Identifier: Apache-2.0
 // Booklets: a spooled job is printed two pages on each sheet side, in folding order.
+//
+// Eight pages on two sheets (four source pages a sheet), the outermost sheet first:
+//
+//      sheet 1, front        sheet 1, back         sheet 2, front        sheet 2, back
+//    +--------+--------+   +--------+--------+   +--------+--------+   +--------+--------+
+//    |        :        |   |        :        |   |        :        |   |        :        |
+//    |   8    :   1    |   |   2    :   7    |   |   6    :   3    |   |   4    :   5    |
+//    |        :        |   |        :        |   |        :        |   |        :        |
+//    +--------+--------+   +--------+--------+   +--------+--------+   +--------+--------+
+//      slot 1   slot 2       slot 3   slot 4       slot 5   slot 6       slot 7   slot 8
+//
+// A slot is a place in that order; xMapToSrcPageNum tells its page, and a page beyond the last is
+// a blank. Each page ("pagelet") is scaled into its half of the sheet and turned by 90 degrees:
+//
+//    <---------------- sheet: iDestYPoints ---------------->
+//    +---------------------------+---------------------------+  ^
+//    | margin                  gutter                 margin |  |  sheet: iDestXPoints
+//    |  +--------------------+ : : : +--------------------+  |  |
+//    |  |  pagelet           | : : : |  pagelet           |  |  |
+//    |  +--------------------+ : : : +--------------------+  |  |
+//    +---------------------------+---------------------------+  v
+//
+// Creep widens the gutter of the outer sheets, because the inner ones of a folded stack reach
+// further out and are trimmed.
+//
+// Two passes over the spooled file. The first (BookletScan, with CommentReader) finds where each
+// page begins and what size it sets. The second (BookletRespool, with BookletCopier) writes the
+// document's head with the imposition procedures of Booklet.ps, then page after page in the order
+// of the slots, seeking to each, then the trailer. ImposeJob is the caller. The names and the codes
+// that come back are those of the printer's own code.
 #pragma once
 
 #include <sys/types.h>

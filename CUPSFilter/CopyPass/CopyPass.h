@@ -1,5 +1,18 @@
 // SPDX-License-Identifier: Apache-2.0
 // One pass over the job: everything between the landmarks is handed on in large pieces.
+//
+//   read(2) --> one buffer --> LineScan: the few places    --> CopyRules::Classify: what the
+//                              where a landmark can begin      line there means
+//                                                                   |
+//   JobOutput <-- everything up to the landmark, unseen <-----------+--> CopyRules::Apply: what
+//                                                                        is written there
+//
+// No line is looked at as a whole unless its first bytes make it a candidate ("%%", "@P", "en" or
+// "ep" after a line end, "%!" anywhere), and of a candidate only the first kLongestTestedLine
+// bytes. What is left of an unfinished line at the end of the buffer waits for the next read, so
+// no landmark is missed where a block ends. Counted binary data is passed over by its count. Large
+// pieces of a file, and counted data, go from descriptor to descriptor without passing through
+// this process, where the system can do that (JobOutput::Transfer).
 #pragma once
 
 #include <sys/types.h>

@@ -1,5 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 // Puts the fax cover sheet into the job.
+//
+//   ticket -> FaxCoverFromTicket (Source/) -> the helper zarvodraw draws it: a PDF file
+//          -> the spooler's converters (PdfToPostScript): a PostScript document
+//          -> written ahead of the job's first document, kept for any other
+//
+// What fails on the way leaves the cover out, in one log line, and the job goes out whole.
 #pragma once
 
 #include <cstdio>

@@ -106,6 +106,7 @@ void WriteJTMLAccounting(const Dictionary& ticket) {
   LogLine("DEBUG: Accounting is enabled");
   const std::string user = AccountingText(ticket, key::kXmlAccountUser);
   const std::string account = AccountingText(ticket, key::kXmlAccount);
+  // Prescribed as it is, and the only line that tells an account; administrators are told of it.
   LogLine("DEBUG: user id %s, acct id %s", user.c_str(), account.c_str());
   WriteJtmlAccounting(&writeData, XMLCreateStringByEscapingEntities(user).c_str(),
                       XMLCreateStringByEscapingEntities(account).c_str());

@@ -1,5 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 // The job ticket, rebuilt from the options that the print dialog flattened it into.
+//
+//   the job's options (OptionList)
+//     + the options that the marked choices of the PPD stand for (Ppd, PpdTicket)
+//     -> in natural order (NaturalOrder, TicketOrder) -> the ticket, a Dictionary
+//
+// Page size, margins and orientation come from the PPD and the options as well, but are no part of
+// the ticket: SetCommonOptions (common.h) sets them once. From here on the ticket is read-only.
 #pragma once
 
 #include <cups/cups.h>
