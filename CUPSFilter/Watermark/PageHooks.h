@@ -5,8 +5,8 @@
 //
 // - Line by line (CopyRules): drawing code is written next to the landmarks of the printers' own
 //   dialog: definitions at "%%EndProlog", the image or font at "%%EndSetup", a background behind
-//   "%%BeginPageSetup", a foreground before "ep" or "endp". It relies on what those jobs define, and
-//   does nothing where a job has no such lines.
+//   "%%BeginPageSetup", a foreground before "ep" or "endp". It relies on what those jobs define,
+//   and does nothing where a job has no such lines.
 // - By page hooks, when the PPD says *ZRVPageHooks: True: a procedure set (PageHooks.ps) goes into
 //   the document's head, and the page device itself runs it at the start and the end of each page.
 //   So it does not matter what the page descriptions look like.
