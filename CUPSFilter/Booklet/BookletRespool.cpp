@@ -245,6 +245,7 @@ class FileRespooler {
       new_section_ = 1;
     }
     if (!(new_section_ ? Write(v_, line_) : WriteDsc(v_))) return 0;
+    if (v_->pPageHooks) v_->pPageHooks->WriteFont();
     return xOutputPSProc(v_->hInstPSRes, v_->iIDBMProcset, v_->hPrinter) ? 1 : -207;
   }
 

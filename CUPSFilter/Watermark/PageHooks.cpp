@@ -3,6 +3,7 @@
 
 #include <cstdio>
 
+#include "CUPSFilter/Header/PjlText.h"
 #include "CUPSFilter/Options/common.h"
 #include "CUPSFilter/Watermark/WatermarkText.h"
 #include "CUPSFilter/Watermark/outputPICT.h"
@@ -100,6 +101,17 @@ void PageHooks::AfterLine(std::string_view line, bool own) {
   if (own && !settings_.booklet && line.starts_with("%%Page:")) WriteTurn();
 }
 
+/// Documents bring parts of fonts under the names of whole ones, so this goes ahead of them.
+void PageHooks::WriteFont() {
+  if (!settings_.watermark || !settings_.watermark->IsText()) return;
+  const _WatermarkData& data = settings_.watermark->watermarkData;
+  Data font;
+  loadFontData(kWatermarkCollection, data.fontName, &font);
+  WriteWatermarkFont(output_.stream(), font);
+  std::fprintf(output_.stream(), "userdict /ZRVfont %s findfont put\n",
+               PostScriptName(data.fontName).c_str());
+}
+
 void PageHooks::WriteForBooklet() {
   if (needed_) Insert();
 }
@@ -121,11 +133,7 @@ void PageHooks::Insert() {
   inserted_ = true;
   FILE* output = output_.stream();
   const std::optional<WatermarkChoice>& watermark = settings_.watermark;
-  if (watermark && watermark->IsText()) {
-    Data font;
-    loadFontData(kWatermarkCollection, watermark->watermarkData.fontName, &font);
-    WriteWatermarkFont(output, font);
-  }
+  if (!settings_.booklet) WriteFont();
   output_.Write(PageHookProcedures);
 
   // Mirrored is what a sheet's left and right are, and that depends on how the page lies on it.

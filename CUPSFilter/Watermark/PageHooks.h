@@ -55,6 +55,8 @@ class PageHooks {
   void BeforeLine(std::string_view line, bool own);
   void AfterLine(std::string_view line, bool own);
 
+  /// Ahead of a booklet's prolog.
+  void WriteFont();
   /// Ahead of a booklet's first page, and in the set-up of each page (counted from 0), whose
   /// program begins with `head`.
   void WriteForBooklet();

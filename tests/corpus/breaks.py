@@ -12,8 +12,8 @@ def inserted(text):
 
 
 BREAKS = {
-    # A page that never comes out.
-    "lost": inserted(b"<< /EndPage { 2 ne exch 1 ne and } >> setpagedevice\n"),
+    # Pages that never come out.
+    "lost": inserted(b"<< /EndPage { pop pop false } >> setpagedevice\n"),
     # A stripe of every page is painted over after all else was drawn.
     "erased": inserted(b"<< /EndPage { exch pop dup 2 ne { gsave initgraphics 1 setgray 100 400 400 30 "
                        b"rectfill grestore } if 2 ne } >> setpagedevice\n"),
