@@ -18,8 +18,8 @@
 namespace zarvo::tool {
 namespace {
 
-// Coarse, and without shades, which would take ten times the time; what is painted marks every pixel
-// that it touches.
+// Coarse, and without shades, which would take ten times the time; what is painted marks every
+// pixel that it touches.
 constexpr int kDotsPerInch = 36;
 constexpr std::size_t kMostPixels = 50'000'000;
 constexpr std::size_t kColors = 3;
