@@ -98,9 +98,8 @@ class HeadReader {
     for (++at_; at_ < text_.size(); ++at_, ++shown_) {
       if (text_[at_] == '\\') {
         ++at_;
-        for (int digit = 1;
-             digit < 3 && text_.substr(at_, 2).find_first_not_of("01234567") == text_.npos; ++digit)
-          ++at_;
+        // The head may end anywhere, so here too.
+        for (int digit = 1; digit < 3 && IsOctal(at_) && IsOctal(at_ + 1); ++digit) ++at_;
       } else if (text_[at_] == '(') {
         ++depth;
       } else if (text_[at_] == ')' && --depth == 0) {
@@ -108,6 +107,10 @@ class HeadReader {
         return;
       }
     }
+  }
+
+  bool IsOctal(std::size_t at) const {
+    return at < text_.size() && text_[at] >= '0' && text_[at] <= '7';
   }
 
   void SkipProcedure() {

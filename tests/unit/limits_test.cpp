@@ -11,6 +11,7 @@
 #include "CUPSFilter/Header/JobTypeComments.h"
 #include "CUPSFilter/JTML/JTML.h"
 #include "CUPSFilter/Options/ParseOptions.h"
+#include "CUPSFilter/Watermark/PageTurn.h"
 #include "Platform/Process.h"
 #include "Source/CFAdditions.h"
 #include "Source/FaxCover.h"
@@ -37,6 +38,11 @@ class Limits : public testing::Test {
  private:
   std::clock_t start_ = std::clock();  // of this process, however busy the machine is
 };
+
+TEST_F(Limits, ThePartOfAPageThatIsLookedAtMayEndInAnEscape) {
+  for (const char* end : {"\\", "\\1", "\\12", "\\123"})
+    EXPECT_EQ(FindPageTurn(std::string("90 rotate (x) show (") + end), 1) << end;
+}
 
 TEST_F(Limits, OptionTextOf128KiB) {
   const auto repeat = [](const std::string& text) {
