@@ -17,7 +17,8 @@
 namespace zarvo::tool {
 namespace {
 
-using nlohmann::ordered_json;
+// Not the library's ordered kind, which looks through all keys for each new one.
+using Json = nlohmann::json;
 using Keys = std::span<const TicketKey>;
 
 constexpr char kDataKey[] = "$data";
@@ -83,9 +84,9 @@ Value TextValue(const std::string& path, const std::string& text, const TicketKe
   return MakeText(path, text);
 }
 
-Value FromJson(const std::string& path, const ordered_json& json, const TicketKey* key, int depth);
+Value FromJson(const std::string& path, const Json& json, const TicketKey* key, int depth);
 
-Dictionary DictionaryFromJson(const std::string& path, const ordered_json& json, Keys keys,
+Dictionary DictionaryFromJson(const std::string& path, const Json& json, Keys keys,
                               bool top, int depth) {
   Dictionary dictionary;
   for (const auto& [name, member] : json.items()) {
@@ -102,7 +103,7 @@ Dictionary DictionaryFromJson(const std::string& path, const ordered_json& json,
   return dictionary;
 }
 
-Value DataFromJson(const std::string& path, const ordered_json& json) {
+Value DataFromJson(const std::string& path, const Json& json) {
   const std::string digits = json.is_string() ? json.get<std::string>() : "?";
   if (digits.size() % 2 != 0 ||
       !std::all_of(digits.begin(), digits.end(), [](char c) { return hex2int(c) >= 0; }))
@@ -113,31 +114,31 @@ Value DataFromJson(const std::string& path, const ordered_json& json) {
   return bytes;
 }
 
-Value FromJson(const std::string& path, const ordered_json& json, const TicketKey* key, int depth) {
+Value FromJson(const std::string& path, const Json& json, const TicketKey* key, int depth) {
   if (depth > kMaxTicketDepth) throw Unreadable{path + ": nests too deep"};
   const Keys members = key != nullptr ? key->members : Keys();
   switch (json.type()) {
-    case ordered_json::value_t::string:
+    case Json::value_t::string:
       return TextValue(path, json.get<std::string>(), key);
-    case ordered_json::value_t::boolean:
+    case Json::value_t::boolean:
       return Value::Boolean(json.get<bool>());
-    case ordered_json::value_t::number_integer:
+    case Json::value_t::number_integer:
       return Number(json.get<std::int64_t>());
-    case ordered_json::value_t::number_unsigned:
+    case Json::value_t::number_unsigned:
       if (json.get<std::uint64_t>() > static_cast<std::uint64_t>(INT64_MAX)) break;
       return Number(json.get<std::int64_t>());
-    case ordered_json::value_t::array: {
+    case Json::value_t::array: {
       Array array;
       // The elements of a list of dictionaries are checked against its members.
       TicketKey element{"", KeyType::kDictionary, ""};
       element.members = members;
-      for (const ordered_json& one : json) {
+      for (const Json& one : json) {
         const std::string place = path + "/" + std::to_string(array.size());
         array.push_back(FromJson(place, one, &element, depth + 1));
       }
       return array;
     }
-    case ordered_json::value_t::object:
+    case Json::value_t::object:
       if (json.size() == 1 && json.contains(kDataKey)) return DataFromJson(path, json[kDataKey]);
       return DictionaryFromJson(path, json, members, false, depth);
     default:
@@ -147,15 +148,15 @@ Value FromJson(const std::string& path, const ordered_json& json, const TicketKe
                    json.dump() + " is none of them"};
 }
 
-ordered_json ToJson(const Value& value, const TicketKey* key);
+Json ToJson(const Value& value, const TicketKey* key);
 
-ordered_json ToJson(const Dictionary& dictionary, Keys keys) {
-  ordered_json json = ordered_json::object();
+Json ToJson(const Dictionary& dictionary, Keys keys) {
+  Json json = Json::object();
   for (const auto& [name, member] : dictionary) json[name] = ToJson(member, FindKey(keys, name));
   return json;
 }
 
-ordered_json NumberToJson(const Number& number, const TicketKey* key) {
+Json NumberToJson(const Number& number, const TicketKey* key) {
   std::int64_t whole = 0;
   if (number.IsReal() || !number.Get(&whole)) {
     double real = 0;
@@ -166,10 +167,10 @@ ordered_json NumberToJson(const Number& number, const TicketKey* key) {
     if (const std::string date = FormatDate(whole); !date.empty()) return date;
   }
   const char* word = key != nullptr ? WordOf(*key, whole) : nullptr;
-  return word != nullptr ? ordered_json(word) : ordered_json(whole);
+  return word != nullptr ? Json(word) : Json(whole);
 }
 
-ordered_json ToJson(const Value& value, const TicketKey* key) {
+Json ToJson(const Value& value, const TicketKey* key) {
   const Keys members = key != nullptr ? key->members : Keys();
   if (const std::string* text = value.AsString()) return *text;
   if (const Number* number = value.AsNumber()) return NumberToJson(*number, key);
@@ -178,7 +179,7 @@ ordered_json ToJson(const Value& value, const TicketKey* key) {
   if (const Array* array = value.AsArray()) {
     TicketKey element{"", KeyType::kDictionary, ""};
     element.members = members;
-    ordered_json json = ordered_json::array();
+    Json json = Json::array();
     for (const Value& one : *array) json.push_back(ToJson(one, &element));
     return json;
   }
@@ -193,10 +194,10 @@ ordered_json ToJson(const Value& value, const TicketKey* key) {
 
 std::optional<Dictionary> ReadJson(std::string_view text, std::string* error) {
   try {
-    const ordered_json json = ordered_json::parse(text);
+    const Json json = Json::parse(text);
     if (!json.is_object()) throw Unreadable{"a ticket is a group: { \"key\": value, ... }"};
     return DictionaryFromJson("", json, {}, true, 0);
-  } catch (const ordered_json::exception& exception) {
+  } catch (const Json::exception& exception) {
     *error = exception.what();
     // The library's own name and error number mean nothing to the reader.
     if (const auto end = error->find("] "); end != std::string::npos) error->erase(0, end + 2);
@@ -286,7 +287,7 @@ std::optional<Dictionary> ReadTicket(std::string_view text, std::string* error) 
 std::string TicketToJson(const Dictionary& ticket) {
   // Recipients come from address cards of other programs, in whatever encoding.
   return ToJson(ticket, TopLevelKeys())
-             .dump(2, ' ', false, ordered_json::error_handler_t::replace) +
+             .dump(2, ' ', false, Json::error_handler_t::replace) +
          "\n";
 }
 
