@@ -14,7 +14,7 @@ void WriteEnvelopeStart(FILE* output, const Dictionary& ticket, std::string_view
   WriteBannerPage(output, ticket);
   WriteRequestOffset(output, ticket);
   std::fputs("@PJL COMMENT ZRVend\n", output);
-  std::fwrite(settings.data(), 1, settings.size(), output);
+  if (!settings.empty()) std::fwrite(settings.data(), 1, settings.size(), output);
   std::fputs("@PJL ENTER LANGUAGE = POSTSCRIPT\n", output);
 }
 
