@@ -86,8 +86,8 @@ Value TextValue(const std::string& path, const std::string& text, const TicketKe
 
 Value FromJson(const std::string& path, const Json& json, const TicketKey* key, int depth);
 
-Dictionary DictionaryFromJson(const std::string& path, const Json& json, Keys keys,
-                              bool top, int depth) {
+Dictionary DictionaryFromJson(const std::string& path, const Json& json, Keys keys, bool top,
+                              int depth) {
   Dictionary dictionary;
   for (const auto& [name, member] : json.items()) {
     const TicketKey* key = top ? FindTopLevelKey(name) : FindKey(keys, name);
@@ -286,9 +286,7 @@ std::optional<Dictionary> ReadTicket(std::string_view text, std::string* error) 
 
 std::string TicketToJson(const Dictionary& ticket) {
   // Recipients come from address cards of other programs, in whatever encoding.
-  return ToJson(ticket, TopLevelKeys())
-             .dump(2, ' ', false, Json::error_handler_t::replace) +
-         "\n";
+  return ToJson(ticket, TopLevelKeys()).dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
 }
 
 }  // namespace zarvo::tool
