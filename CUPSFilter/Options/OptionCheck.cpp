@@ -9,6 +9,7 @@
 #include <optional>
 #include <string_view>
 
+#include "CUPSFilter/Options/TicketGaps.h"
 #include "Source/CFAdditions.h"
 #include "Source/NearestName.h"
 #include "Source/TicketNames.h"
@@ -161,36 +162,16 @@ void CheckMedia(const std::string& value, const Ppd& ppd, std::vector<std::strin
   }
 }
 
-/// Settings that do nothing without another one.
-void CheckSense(const JobRequest& request, const Dictionary& ticket,
-                std::vector<std::string>* found) {
-  std::int32_t accounting = 0;
-  CFDictionaryGetNumber(ticket, key::kAccounting, &accounting);
-  const bool on = accounting == kUserAndOptionalAccount || accounting == kUserAndAccount;
-  if (on && DictionaryGetString(ticket, key::kAccountUser) == nullptr)
-    found->push_back("accounting: the job names no user; give AccountUser=Custom.USER");
-  std::int32_t kind = kNoAccount;
-  CFDictionaryGetNumber(ticket, key::kAccountType, &kind);
-  if ((accounting == kUserAndAccount || (on && kind != kNoAccount)) &&
-      DictionaryGetString(ticket, key::kAccount) == nullptr)
-    found->push_back("accounting: the job names no account; give AccountID=Custom.ACCOUNT");
-
+/// Settings that do nothing without another one, and types of job that nobody knows.
+void CheckSense(const Dictionary& ticket, std::vector<std::string>* found) {
+  for (const TicketGap& gap : FindGaps(ticket))
+    found->push_back(gap.cause + "; give " + gap.choice);
   const Dictionary* job = DictionaryGetDictionary(ticket, key::kJobType);
   std::int32_t type = kJobTypeNormal;
   if (job != nullptr) CFDictionaryGetNumber(*job, key::job_type::kJobType, &type);
   if (type < kJobTypeNormal || type > kJobTypeSampleSet)
     found->push_back("job type " + std::to_string(type) +
                      ": no printer knows it, the job is an ordinary one");
-  if (type == kJobTypeFax) return;
-  const bool cover =
-      std::any_of(request.own.begin(), request.own.end(), [](const cups_option_t& option) {
-        return (Equals(option.name, "FaxCover") || Equals(option.name, "FaxRecipient")) &&
-               strcasecmp(option.value, "None") != 0;
-      });
-  if (cover)
-    found->push_back(
-        "fax settings without a fax number have no effect; give "
-        "FaxNumber=Custom.NUMBER");
 }
 
 }  // namespace
@@ -215,7 +196,7 @@ std::vector<std::string> FindVainOptions(const JobRequest& request, const Ppd& p
   for (const std::string_view name : request.leftOut)
     found.push_back("option " + std::string(name) +
                     ": its value or its place in the ticket cannot be read, it was left out");
-  CheckSense(request, ticket, &found);
+  CheckSense(ticket, &found);
   return found;
 }
 

@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <cstring>
 #include <exception>
+#include <sstream>
 
 #include "Platform/Process.h"
 #include "Source/NearestName.h"
@@ -18,14 +19,12 @@ constexpr const char* kFooter =
     "Exit status: 0 done; 1 done, and something looks wrong; 2 could not be done.\n"
     "\"zarvo COMMAND --help\" tells more about a command.";
 
-std::string ExamplesText(const char* examples) {
+/// Those of the examples that show this command line.
+std::string ExamplesText(const char* examples, const std::string& command) {
   std::string text = "Examples:";
-  std::string_view rest = examples;
-  while (!rest.empty()) {
-    const std::size_t end = std::min(rest.find('\n'), rest.size());
-    text += "\n  " + std::string(rest.substr(0, end));
-    rest.remove_prefix(std::min(end + 1, rest.size()));
-  }
+  std::istringstream lines(examples);
+  for (std::string line; std::getline(lines, line);)
+    if ((line + " ").find("zarvo " + command + " ") != line.npos) text += "\n  " + line;
   return text;
 }
 
@@ -94,8 +93,9 @@ std::span<const Command> Commands() {
       {"ticket", "Translate and check job tickets",
        "zarvo ticket encode settings.json\n"
        "lp -d office -o \"$(zarvo ticket encode settings.json)\" report.pdf\n"
-       "zarvo ticket decode options.txt\n"
-       "zarvo ticket check settings.json",
+       "zarvo ticket decode options.txt > settings.json\n"
+       "zarvo ticket check settings.json\n"
+       "zarvo ticket keys | grep -i staple",
        &SetUpTicket},
       {"print", "Print with settings in the readable form",
        "zarvo print report.pdf -d office settings.json\n"
@@ -106,23 +106,30 @@ std::span<const Command> Commands() {
        "sudo zarvo watermark add-text DRAFT --angle 45 --color '#cc0000'\n"
        "sudo zarvo watermark add-image logo.png --scale 50\n"
        "zarvo watermark show DRAFT --output draft.png\n"
-       "sudo zarvo watermark publish -q office",
+       "sudo zarvo watermark publish -q office\n"
+       "sudo zarvo watermark font garamond.pfb\n"
+       "sudo zarvo watermark remove logo.png",
        &SetUpWatermark},
       {"recipient", "Look after your fax recipients",
-       "zarvo recipient add --first Ada --fax '+44 20 7946 0018'\n"
-       "zarvo recipient edit Ada --phone '+44 20 7946 0000'\n"
-       "zarvo recipient list --json\n"
-       "zarvo recipient group Branches 5f1c... 77ab...",
+       "zarvo recipient add --first Ada --last Byron --fax '+44 20 7946 0018'\n"
+       "zarvo recipient add --organization Mill --fax 0911-4711 --email mill@example.org\n"
+       "zarvo recipient edit 'Ada Byron' --phone '+44 20 7946 0000'\n"
+       "zarvo recipient list --json > recipients.json\n"
+       "zarvo recipient group Branches 'Ada Byron' Mill\n"
+       "zarvo recipient remove Mill",
        &SetUpRecipient},
-      {"fax", "See the cover sheet of a fax", "zarvo fax preview fax.json --output cover.pdf",
+      {"fax", "Send a fax, see its cover sheet",
+       "zarvo fax send report.pdf -d office --to '+44 20 7946 0018' --to 'Ada Byron'\n"
+       "zarvo fax send report.pdf -d office --to Branches --cover a4 --from 'Charles' --at 22:30\n"
+       "zarvo recipient list --json | zarvo fax send report.pdf -d office -s -\n"
+       "zarvo fax preview --to Branches --cover a4 --notes 'Please call back' --output cover.pdf",
        &SetUpFax},
       {"why", "Say what became of a job and what was left out of it",
-       "zarvo why\nzarvo why office-12\nzarvo why 12 --json", &SetUpWhy},
+       "zarvo why\nzarvo why office-3\nzarvo why 3 --json", &SetUpWhy},
       {"doctor", "Check the installation and say what to do", "zarvo doctor\nzarvo doctor --json",
        &SetUpDoctor},
       {"manual", "Write manual pages and shell completion",
-       "zarvo manual --man man1\nzarvo manual --completion bash > /etc/bash_completion.d/zarvo",
-       &SetUpManual},
+       "zarvo manual --man man1\nzarvo manual --completion fish > zarvo.fish", &SetUpManual},
   };
   return kCommands;
 }
@@ -133,8 +140,10 @@ void BuildCommandLine(CLI::App& app, Action* action) {
   app.footer(kFooter);
   for (const Command& command : Commands()) {
     CLI::App* subcommand = app.add_subcommand(command.name, command.summary);
-    subcommand->footer(ExamplesText(command.examples));
+    subcommand->footer(ExamplesText(command.examples, command.name));
     command.set_up(*subcommand, action);
+    for (CLI::App* part : subcommand->get_subcommands([](const CLI::App*) { return true; }))
+      part->footer(ExamplesText(command.examples, command.name + (" " + part->get_name())));
   }
 }
 

@@ -89,7 +89,9 @@ TOLD = {
     "FaxNumber=Custom.1 FaxCover=A4 com.zarvo.print.FaxOptions..d_ShowWatermark..b=true "
     "com.zarvo.print.FaxOptions..d_WatermarkName=gone": ['cover\'s watermark "gone" was left out'],
     "FaxNumber=Custom.1 com.zarvo.print.FaxOptions..d_DialingPrefix=12345": ["DialingPrefix is cut"],
-    "Accounting=Group FaxCover=A4": ["no user", "no account", "without a fax number"],
+    "Accounting=Group FaxCover=A4": ["no user", "no account", "no fax; give FaxNumber=Custom.NUMBER"],
+    "com.zarvo.print.JTMLOptions..d_JTMLOptionAll..b=true com.zarvo.print.BookletFoldStaple..n=8":
+        ["folded in the middle, but the pages are not laid out as a booklet; give BookletLayout="],
     "com.zarvo.print.Gutter..a_5..n=1": ["com.zarvo.print.Gutter..a_5..n"],
     f"{TYPE}=12": ["job type 12"],
 }  # fmt: skip

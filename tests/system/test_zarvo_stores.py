@@ -131,15 +131,15 @@ class Recipients(ZarvoTest):
         self.assertIn("group Branches  members 1", self.run_zarvo("recipient", "list"))
         self.run_zarvo("recipient", "remove", ada, status=2)
         # What it prints goes into a ticket as it is.
-        self.run_zarvo("ticket", "check", stdin=self.run_zarvo("recipient", "list", "--json"))
+        told = self.run_zarvo("ticket", "check", stdin=self.run_zarvo("recipient", "list", "--json"), status=1)
+        self.assertRegex(told, "^com.zarvo.print.FaxRecipientList: .* no fax.*\n$")
 
     def test_bad_arguments(self):
         for _ in range(2):
             self.run_zarvo("recipient", "add", "--first", "Bo", "--fax", "1")
         for arguments, told in (
             ("add --first Ada", ""), ("add --fax no-number", ""), ("add --fax 1 --last \udce9", ""),
-            ("remove ", ""),
-            ("remove Bo", "more than one"), ("edit Bo --fax 2", "more than one"), ("edit Cy --fax 2", "no such"),
+            ("remove ", "means nobody"), ("remove Bo", "more than one"), ("edit Bo --fax 2", "more than one"), ("edit Cy --fax 2", "no such"),
         ):
             self.run_zarvo("recipient", *arguments.split(" "), status=2)
             self.assertIn(told, self.errors)
@@ -147,14 +147,31 @@ class Recipients(ZarvoTest):
         self.run_zarvo("recipient", "add", "--fax", "1", status=2)
         self.assertIn("/proc/contacts", self.errors)
 
+    def test_faxes_that_are_not_sent(self):
+        """Before any queue is asked."""
+        self.run_zarvo("recipient", "add", "--first", "Ada", "--last", "Byron", "--mailbox", "12")
+        for arguments, told in (
+            ([], "has no recipient"),
+            (["--to", "Ada Bryon"], "no such recipient; did you mean Ada Byron?"),
+            (["--to", "Ada Byron"], "has no fax number"),
+            (["--to", "1", "--at", "25:00"], "25:00: is no time"),
+            (["--to", "1", "--prefix", "12345"], "DialingPrefix is cut"),
+        ):
+            self.run_zarvo("fax", "send", "missing.pdf", "-d", "nowhere", *arguments, status=2)
+            self.assertIn(told, self.errors)
+
     def test_cover_sheet(self):
-        settings = {"FaxOptions": {"ShowRecipients": "names", "LocalizedToLabel": "To",
+        """Of settings, to which the command line adds what it has."""
+        settings = {"FaxOptions": {"ShowRecipients": "names", "LocalizedToLabel": "An",
                                    "CoverSheetNotes": "With thanks", "Size": "a4"},
                     "FaxRecipientList": [{"FirstName": "Ada"}, {"LastName": "Hopper"}]}
-        self.run_zarvo("fax", "preview", "--output", "c.pdf", stdin=json.dumps(settings))
+        self.run_zarvo("recipient", "add", "--first", "Mary", "--fax", "030 1")
+        self.run_zarvo("recipient", "group", "All", "Mary")
+        self.run_zarvo("fax", "preview", "-", "--to", "All", "--to", "(030) 1", "--cover", "letter", "--from", "Bo",
+                       "--output", "c.pdf", stdin=json.dumps(settings))
         text = subprocess.run(["pdftotext", "-layout", self.scratch / "c.pdf", "-"],
                               capture_output=True, text=True, check=True).stdout
-        self.assertRegex(text, r"(?s)^ *To\n.*Ada, Hopper.*With thanks")
+        self.assertRegex(text, r"(?s)^ *From\n.*Bo.*An\n.*Ada, Hopper, Mary\n.*With thanks")
 
 
 if __name__ == "__main__":

@@ -101,7 +101,9 @@ class Ticket(ZarvoTest):
             "com.zarvo.print.JobType..d_JobTyp..n=6": "did you mean JobType?",
             '{"siides": "one-sided"}': "siides: unknown option; did you mean sides?",
             '{"JTMLOptions": {"JTMLOptionAll": true}, "FinishingOptions": 24, "BookletFoldStaple": 8}':
-                "folds sheets that are not laid out as a booklet",
+                "not laid out as a booklet; add com.zarvo.print.BookletLayout: true",
+            '{"com.zarvo.Act.On": 2}': "com.zarvo.Act.On: accounting: the job names no user; add com.zarvo.Act.UID",
+            '{"FaxOptions": {"CoverSheet": true}}': "in a job that is no fax; add com.zarvo.print.JobType",
         }.items():
             with self.subTest(ticket=ticket):
                 self.assertIn(finding, self.run_zarvo("ticket", "check", stdin=ticket, status=1))

@@ -13,6 +13,7 @@
 #include "Source/Fax.h"
 #include "Source/TicketNames.h"
 #include "Tools/zarvo/Command.h"
+#include "Tools/zarvo/job/Recipients.h"
 #include "Tools/zarvo/ticket/TicketText.h"
 
 namespace zarvo::tool {
@@ -24,30 +25,6 @@ struct Options {
   std::vector<std::string> who;
   bool json = false;
 };
-
-std::string NameOf(const AddressBookRecord& record) {
-  return VCardFindText(record.card, "FN").value_or("");
-}
-
-/// The records that `who` means: a UID, the beginning of one, or a name.
-std::vector<const AddressBookRecord*> Matches(const std::vector<AddressBookRecord>& records,
-                                              const std::string& who) {
-  std::vector<const AddressBookRecord*> matches;
-  for (const AddressBookRecord& record : records) {
-    if (record.uid() == who) return {&record};
-    if (record.uid().starts_with(who) || NameOf(record) == who) matches.push_back(&record);
-  }
-  return matches;
-}
-
-const AddressBookRecord* TheOne(const std::vector<AddressBookRecord>& records,
-                                const std::string& who) {
-  const std::vector<const AddressBookRecord*> matches = Matches(records, who);
-  if (matches.size() == 1 && !who.empty()) return matches[0];
-  Fail(who, matches.empty() ? "no such recipient" : "fits more than one recipient",
-       "\"zarvo recipient list\" shows them; take the beginning of the UID");
-  return nullptr;
-}
 
 int CannotWrite() {
   return Fail(AddressBookFolder(), "the address book cannot be written",
@@ -68,7 +45,7 @@ void PrintPerson(const AddressBookRecord& record) {
   const FaxRecipient person = FaxRecipientFromCard(record.card);
   const auto text = [](const std::string* value) { return value != nullptr ? *value : "-"; };
   std::printf("%s\n",
-              PrintableText(record.uid() + "  " + NameOf(record) + "  fax " +
+              PrintableText(record.uid() + "  " + RecipientName(record) + "  fax " +
                             text(person.faxNumber()) + "  mailbox " + text(person.mailbox()))
                   .c_str());
 }
@@ -80,7 +57,7 @@ int List(const Options& options) {
     if (!IsGroupCard(record.card)) people.push_back(&record);
   }
   if (!options.group.empty()) {
-    const AddressBookRecord* group = TheOne(records, options.group);
+    const AddressBookRecord* group = FindRecipient(records, options.group);
     if (group == nullptr) return kExitFailure;
     const std::vector<std::string> members = GroupMembers(group->card);
     std::erase_if(people, [&members](const AddressBookRecord* person) {
@@ -102,9 +79,9 @@ int List(const Options& options) {
   for (const AddressBookRecord& record : records) {
     if (!IsGroupCard(record.card)) continue;
     const std::string members = std::to_string(GroupMembers(record.card).size());
-    std::printf(
-        "%s\n",
-        PrintableText(record.uid() + "  group " + NameOf(record) + "  members " + members).c_str());
+    std::printf("%s\n", PrintableText(record.uid() + "  group " + RecipientName(record) +
+                                      "  members " + members)
+                            .c_str());
   }
   return kExitOk;
 }
@@ -156,7 +133,7 @@ int Add(const Options& options) {
 int Edit(const Options& options) {
   if (!IsGood(options)) return kExitFailure;
   const std::vector<AddressBookRecord> records = AddressBookRecords();
-  const AddressBookRecord* found = TheOne(records, options.who[0]);
+  const AddressBookRecord* found = FindRecipient(records, options.who[0]);
   if (found == nullptr) return kExitFailure;
   if (IsGroupCard(found->card))
     return Fail(options.who[0], "is a group", "Remove it and make it anew");
@@ -175,7 +152,7 @@ int Remove(const Options& options) {
                 "Try again when that has ended");
   std::vector<AddressBookRecord> records = AddressBookRecords();
   for (const std::string& who : options.who) {
-    const AddressBookRecord* record = TheOne(records, who);
+    const AddressBookRecord* record = FindRecipient(records, who);
     if (record == nullptr) return kExitFailure;
     if (!AddressBookRemove(*record)) return CannotWrite();
     const std::string uid = record->uid();
@@ -195,7 +172,7 @@ int Group(const Options& options) {
   FaxRecipientList list;
   std::set<std::string> uids;
   for (const std::string& who : options.who) {
-    const AddressBookRecord* record = TheOne(records, who);
+    const AddressBookRecord* record = FindRecipient(records, who);
     if (record == nullptr) return kExitFailure;
     if (IsGroupCard(record->card)) return Fail(who, "is a group itself");
     if (!uids.insert(record->uid()).second) continue;  // named twice

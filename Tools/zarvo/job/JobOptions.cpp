@@ -10,25 +10,40 @@
 
 namespace zarvo::tool {
 
-std::optional<std::string> OptionTextOf(const JobOptions& job, bool* doubtful) {
+std::optional<std::string> OptionTextOf(const std::vector<std::string>& options,
+                                        const Dictionary& ticket, const std::string& place,
+                                        bool* doubtful) {
   std::string text;
-  for (const std::string& option : job.options) text += (text.empty() ? "" : " ") + option;
-  if (job.settings.empty()) return text;
-  std::string readable;
-  if (!ReadInput(job.settings, &readable)) return std::nullopt;
+  for (const std::string& option : options) text += (text.empty() ? "" : " ") + option;
   std::string error;
-  const std::optional<Dictionary> ticket = ReadTicket(readable, &error);
-  const auto flat = ticket ? FlattenTicket(*ticket, &error) : std::nullopt;
+  const auto flat = FlattenTicket(ticket, &error);
   if (!flat) {
-    Fail(job.settings, error);
+    Fail(place, error);
     return std::nullopt;
   }
-  const std::vector<TicketFinding> findings = CheckTicket(*ticket);
+  const std::vector<TicketFinding> findings = CheckTicket(ticket, /*whole=*/false);
   if (doubtful != nullptr) *doubtful = !findings.empty();
   for (const TicketFinding& finding : findings)
     std::fprintf(stderr, "zarvo: %s\n",
-                 PrintableText(job.settings + ": " + finding.place + ": " + finding.text).c_str());
+                 PrintableText(place + ": " + finding.place + ": " + finding.text).c_str());
+  if (flat->empty()) return text;
   return text + (text.empty() ? "" : " ") + OptionText(*flat);
+}
+
+std::optional<std::string> OptionTextOf(const JobOptions& job, bool* doubtful) {
+  Dictionary ticket;
+  if (!job.settings.empty()) {
+    std::string readable;
+    if (!ReadInput(job.settings, &readable)) return std::nullopt;
+    std::string error;
+    std::optional<Dictionary> read = ReadTicket(readable, &error);
+    if (!read) {
+      Fail(job.settings, error);
+      return std::nullopt;
+    }
+    ticket = *std::move(read);
+  }
+  return OptionTextOf(job.options, ticket, job.settings, doubtful);
 }
 
 }  // namespace zarvo::tool

@@ -7,6 +7,7 @@
 
 #include "CUPSFilter/Options/OptionCheck.h"
 #include "CUPSFilter/Options/PinPolicy.h"
+#include "CUPSFilter/Options/TicketGaps.h"
 #include "Source/CFAdditions.h"
 #include "Source/Mappings.h"
 #include "Source/NearestName.h"
@@ -211,33 +212,9 @@ Judgement Judge(Dictionary ticket) {
   return verdict;
 }
 
-/// Folding in the middle, by one of the presets for it, asks for pages that are laid out so.
-void CheckFold(const Dictionary& ticket, Checker* checker) {
-  constexpr int kFold = 7;
-  constexpr int kFoldAndStaple = 8;
-  constexpr int kHalf = 43;
-  constexpr int kHalfAndStaple = 44;
-  const auto preset = [&ticket](int wanted) {
-    return HasNumber(ticket, key::kFinishingOptions, wanted);
-  };
-  const auto has = [&ticket](const char* name, int one, int other) {
-    return HasNumber(ticket, name, one) || HasNumber(ticket, name, other);
-  };
-  const bool folded =
-      preset(3) ||
-      ((preset(0) || preset(24) || !DictionaryContains(ticket, key::kFinishingOptions)) &&
-       has(key::kBookletFoldStaple, kFold, kFoldAndStaple)) ||
-      (preset(40) && has(key::kFinishingFoldValue, kHalf, kHalfAndStaple));
-  if (folded && DictionaryGetBoolean(ticket, key::kBookletLayout) != true)
-    checker->Add(key::kFinishingOptions,
-                 std::string("folds sheets that are not laid out as a booklet; add ") +
-                     key::kBookletLayout + ": true");
-}
-
 /// Settings that do nothing by themselves, or harm without another one, and secrets
 /// that cannot be kept.
 void CheckSense(const Dictionary& ticket, Checker* checker) {
-  CheckFold(ticket, checker);
   const Dictionary* sections = DictionaryGetDictionary(ticket, key::kJTMLOptions);
   if (sections == nullptr && !HasNumber(ticket, key::kEmitJTML, 0)) {
     for (const TicketKey& key : TopLevelKeys()) {
@@ -278,9 +255,13 @@ std::string SecretFault(const Dictionary& ticket) {
   return pin != nullptr && !pin->empty() ? TypedPinFault(*pin) : "";
 }
 
-std::vector<TicketFinding> CheckTicket(const Dictionary& ticket) {
+std::vector<TicketFinding> CheckTicket(const Dictionary& ticket, bool whole) {
   Checker checker;
   checker.Group("", ticket, TopLevelKeys());
+  if (whole) {
+    for (const TicketGap& gap : FindGaps(ticket))
+      checker.Add(gap.key, gap.cause + "; add " + gap.setting);
+  }
   CheckSense(ticket, &checker);
   return std::move(checker.findings);
 }

@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Tools/zarvo/job/PrintJob.h"
+
+#include <cups/cups.h>
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <memory>
+
+#include "CUPSFilter/Options/OptionList.h"
+#include "Platform/Log.h"
+#include "Platform/UniqueFd.h"
+#include "Tools/zarvo/Command.h"
+#include "Tools/zarvo/job/JobKind.h"
+#include "Tools/zarvo/job/OptionFaults.h"
+#include "Tools/zarvo/system/Office.h"
+#include "Tools/zarvo/system/Queues.h"
+#include "Tools/zarvo/system/Run.h"
+#include "Tools/zarvo/ticket/TicketCheck.h"
+#include "Tools/zarvo/ticket/TicketText.h"
+
+namespace zarvo::tool {
+namespace {
+
+/// The user's own defaults for the queue, as lp takes them too.
+void AddDefaults(const std::string& queue, OptionList* options) {
+  const std::unique_ptr<cups_dest_t, void (*)(cups_dest_t*)> destination(
+      cupsGetNamedDest(CUPS_HTTP_DEFAULT, queue.c_str(), nullptr),
+      [](cups_dest_t* found) { cupsFreeDests(1, found); });
+  if (!destination) return;
+  for (int i = 0; i < destination->num_options; ++i) {
+    const cups_option_t& option = destination->options[i];
+    if (cupsGetOption(option.name, options->size(), options->data()) == nullptr)
+      options->Add(option.name, option.value);
+  }
+}
+
+int SpoolerFault(const std::string& queue) {
+  return Fail(queue, cupsLastErrorString(), "\"lpstat -e\" lists the queues");
+}
+
+std::string BaseName(const std::string& file) {
+  return file == "-" ? "(stdin)" : file.substr(file.rfind('/') + 1);
+}
+
+/// Hands the file to the spooler's job of this number.
+int SendFile(const PrintJob& job, int number, int file) {
+  const std::string name = job.file == "-" ? "(stdin)" : job.file;
+  http_status_t status = cupsStartDocument(CUPS_HTTP_DEFAULT, job.queue.c_str(), number,
+                                           name.c_str(), CUPS_FORMAT_AUTO, 1);
+  char block[1 << 16];
+  ssize_t count = 0;
+  int error = 0;
+  while (status == HTTP_STATUS_CONTINUE) {
+    count = read(file, block, sizeof block);
+    if (count < 0 && errno == EINTR) continue;
+    if (count < 0) error = errno;
+    if (count <= 0) break;
+    status = cupsWriteRequestData(CUPS_HTTP_DEFAULT, block, static_cast<std::size_t>(count));
+  }
+  const ipp_status_t finished = cupsFinishDocument(CUPS_HTTP_DEFAULT, job.queue.c_str());
+  if (error == 0 && status == HTTP_STATUS_CONTINUE && finished <= IPP_STATUS_OK_CONFLICTING)
+    return kExitOk;
+  const int fault = error != 0 ? Fail(name, std::strerror(error)) : SpoolerFault(job.queue);
+  cupsCancelJob2(CUPS_HTTP_DEFAULT, job.queue.c_str(), number, 0);  // half a file must not print
+  return fault;
+}
+
+int Send(const PrintJob& job, const std::string& text) {
+  UniqueFd opened;
+  if (job.file != "-") {
+    opened = UniqueFd(open(job.file.c_str(), O_RDONLY | O_CLOEXEC));
+    if (!opened) return Fail(job.file, std::strerror(errno));
+  }
+  OptionList list = OptionList::Parse(text.c_str());
+  if (job.copies > 0) list.Add("copies", std::to_string(job.copies).c_str());
+  AddDefaults(job.queue, &list);
+  const std::string title = job.title.empty() ? BaseName(job.file) : job.title;
+  const int number =
+      cupsCreateJob(CUPS_HTTP_DEFAULT, job.queue.c_str(), title.c_str(), list.size(), list.data());
+  if (number == 0) return SpoolerFault(job.queue);
+  const int status = SendFile(job, number, opened ? opened.get() : STDIN_FILENO);
+  if (status == kExitOk)
+    std::printf("request id is %s-%d (1 file(s))\n", job.queue.c_str(), number);
+  return status;
+}
+
+}  // namespace
+
+void AddPrintOptions(CLI::App& app, PrintJob* job) {
+  app.add_option("-d,--queue", job->queue, "queue")->required();
+  app.add_option("-t,--title", job->title, "title of the job");
+  app.add_flag("--force", job->force, "print even when something is wrong with the settings");
+}
+
+int PrintChecked(PrintJob job, const std::string& options, bool doubtful) {
+  std::string error;
+  const QueuePpd ppd(job.queue, &error);
+  std::vector<std::string> faults;
+  if (!ppd.path().empty() && UsesOurFilter(ppd.path())) faults = OptionFaults(options, ppd.path());
+  for (const std::string& fault : faults)
+    std::fprintf(stderr, "zarvo: %s\n", PrintableText(fault).c_str());
+  if ((doubtful || !faults.empty()) && !job.force)
+    return Fail(job.file, "is not printed with such settings",
+                "Correct them, or give --force to print it all the same");
+  if (const std::string fault = SecretFault(TicketOfOptions(options)); !fault.empty())
+    return Fail("settings", fault);
+  std::string start(kKindBytes, '\0');
+  const Stream file(job.file != "-" ? std::fopen(job.file.c_str(), "rbe") : nullptr);
+  start.resize(file ? std::fread(start.data(), 1, start.size(), file.get()) : 0);
+  if (KindOfJob(start, job.file) != JobKind::kOffice) return Send(job, options);
+  const ScratchFolder scratch;
+  if (!scratch) return Fail("TMPDIR", "no folder for temporary files can be made");
+  std::string pdf;
+  const std::string failure = ConvertOfficeDocument(job.file, scratch, &pdf);
+  if (!failure.empty()) return Fail(job.file, failure);
+  if (job.title.empty()) job.title = BaseName(job.file);
+  job.file = pdf;
+  return Send(job, options);
+}
+
+}  // namespace zarvo::tool
