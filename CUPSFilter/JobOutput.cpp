@@ -34,7 +34,7 @@ void JobOutput::Write(std::string_view bytes) {
   if (error() != 0) return;  // of a formatted write before
   Count(bytes.size());
   if (bytes.size() >= kLargePiece) {
-    if (Flush() == 0) WriteThrough(bytes);
+    if (Flush()) WriteThrough(bytes);
     return;
   }
   errno = 0;
@@ -56,7 +56,7 @@ void JobOutput::WriteThrough(std::string_view bytes) {
 }
 
 std::size_t JobOutput::Transfer(int from, const off_t* offset, std::size_t size) {
-  if (!can_transfer_ || Flush() != 0) return 0;
+  if (!can_transfer_ || !Flush()) return 0;
   off_t position = offset != nullptr ? *offset : 0;
   std::size_t moved = 0;
   while (moved < size) {
@@ -108,12 +108,13 @@ void JobOutput::EndFormatted() {
   Count(now > mark_ ? now - mark_ : 0);
 }
 
-int JobOutput::Flush() {
+bool JobOutput::Flush() {
   error();  // the reason of an earlier failure is forgotten soon
   drained_ += Pending();
   errno = 0;
   if (std::fflush(stream_) != 0) Fail(errno);
-  return error();
+  errno = error();
+  return errno == 0;
 }
 
 void JobOutput::Fail(int error) {

@@ -46,14 +46,13 @@ class JobOutput {
   /// The bytes of all writes and transfers, and of the formatted writes between these two calls.
   std::uint64_t written() const { return written_; }
 
-  /// Writes out what is buffered. Returns 0, or the system's error number of the first write that
-  /// failed since the stream was wrapped.
-  int Flush();
+  /// Writes out what is buffered. False, with errno as error() has it, after a failed write.
+  bool Flush();
 
   /// Counts as a failed write: something that belongs here cannot be had any more.
   void Fail(int error);
 
-  /// The error number of the first failed write so far, or 0.
+  /// The error number of the first failed write since the stream was wrapped, or 0.
   int error();
 
  private:

@@ -29,7 +29,7 @@ void ReadBooklet(const Dictionary& ticket, JobSettings* settings) {
   settings->booklet = DictionaryGetBoolean(ticket, key::kBookletLayout) == true;
   if (!settings->booklet || DictionaryGetBoolean(ticket, key::kBookletForceNewSize) != true) return;
   if (const Dictionary* stock = DictionaryGetDictionary(ticket, key::kJobLevelStock)) {
-    _MEDIADATA media;
+    MediaData media;
     FillMediaSize(&media, *stock);
     settings->mediaWidth = HundredthsToPoints(media.MediaSize.cx);
     settings->mediaLength = HundredthsToPoints(media.MediaSize.cy);
@@ -51,7 +51,7 @@ std::optional<std::string> WatermarkAtIndex(std::int32_t index, JobNotices* noti
 
 /// Loads a watermark and notes one that is missing, unless the log tells it already.
 void LoadWatermark(const char* collection, const char* what, const std::string& name,
-                   _WatermarkData* data, JobNotices* notices) {
+                   WatermarkData* data, JobNotices* notices) {
   if (loadWatermarkData(collection, &name, data) != 0 || !notices->told()) return;
   Array entries;
   loadWatermarkList(collection, nullptr, &entries);
@@ -76,7 +76,7 @@ void CheckCoverWatermark(const Dictionary& ticket, JobNotices* notices) {
   if (!wanted(kFaxPrintCoverSheetProperty) || !wanted(kFaxCoverShowWatermarkProperty) ||
       name == nullptr)
     return;
-  const auto data = std::make_unique<_WatermarkData>();
+  const auto data = std::make_unique<WatermarkData>();
   LoadWatermark(kFaxImageCollection, "the cover's watermark", *name, data.get(), notices);
 }
 

@@ -24,7 +24,7 @@ struct WatermarkChoice {
   /// How far all pages lie turned on their sheets, in quarter turns counterclockwise; without it
   /// that is found out. Only jobs with page hooks have it.
   std::optional<int> turn;
-  _WatermarkData watermarkData{};
+  WatermarkData watermarkData{};
 
   bool IsText() const { return watermarkData.textString[0] != '\0'; }
 };

@@ -52,14 +52,15 @@ std::unique_ptr<SpoolFile> SpoolFile::Create() {
   return std::unique_ptr<SpoolFile>(new SpoolFile(stream, std::move(path), std::move(name)));
 }
 
-int SpoolFile::CopyTo(JobOutput& output) {
-  if (std::fflush(stream()) != 0) return errno;
+bool SpoolFile::CopyTo(JobOutput& output) {
+  if (std::fflush(stream()) != 0) return false;
   std::rewind(stream());
   char block[kBufferBytes];
   std::size_t count = 0;
   while (output.error() == 0 && (count = std::fread(block, 1, sizeof block, stream())) > 0)
     output.Write({block, count});
-  return std::ferror(stream()) != 0 ? EIO : 0;
+  errno = EIO;  // of a failed read; the reason is forgotten by now
+  return std::ferror(stream()) == 0;
 }
 
 SpoolFile::~SpoolFile() {

@@ -36,9 +36,9 @@ class SpoolFile {
   SpoolFile& operator=(const SpoolFile&) = delete;
   ~SpoolFile();
 
-  /// Writes all that is in the file to `output`, where failures of its own show. Returns 0, or the
-  /// error number of what went wrong with the file. To be called when the file is complete.
-  int CopyTo(JobOutput& output);
+  /// Writes all that is in the file to `output`, where failures of its own show. False, with errno
+  /// set, when something goes wrong with the file itself. To be called when the file is complete.
+  bool CopyTo(JobOutput& output);
 
   /// Open for writing and, once rewound, for reading.
   FILE* stream() const { return stream_.get(); }

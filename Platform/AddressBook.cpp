@@ -104,7 +104,7 @@ std::optional<AddressBookRecord> AddressBookAdd(VCard card) {
 
 bool AddressBookSave(const AddressBookRecord& record) {
   const fs::path path = fs::path(AddressBookFolder()) / record.file;
-  return WriteFileAtomically(path.string(), FormatVCard(record.card), 0600) == 0;
+  return WriteFileAtomically(path.string(), FormatVCard(record.card), 0600);
 }
 
 std::optional<AddressBookRecord> AddressBookFind(std::string_view uid) {

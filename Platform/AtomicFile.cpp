@@ -45,16 +45,16 @@ std::string TargetOf(std::string path) {
 }
 
 /// Gives the new file what the old one has, or `mode` when there is none.
-int SetOwnership(int fd, const std::string& path, mode_t mode) {
+bool SetOwnership(int fd, const std::string& path, mode_t mode) {
   struct stat existing {};
-  if (::stat(path.c_str(), &existing) != 0) return ::fchmod(fd, mode) == 0 ? 0 : errno;
+  if (::stat(path.c_str(), &existing) != 0) return ::fchmod(fd, mode) == 0;
   mode = existing.st_mode & 0777;
   if (::fchown(fd, existing.st_uid, existing.st_gid) != 0 &&
       ::fchown(fd, static_cast<uid_t>(-1), existing.st_gid) != 0) {
     // What the old group might do is not for the new one, unless everybody may.
     mode = (mode & 0707) | (mode & 0007) << 3;
   }
-  return ::fchmod(fd, mode) == 0 ? 0 : errno;
+  return ::fchmod(fd, mode) == 0;
 }
 
 /// Removes the temporary files of writers that were killed. A living writer has its own locked.
@@ -89,43 +89,42 @@ UniqueFd MakeTemporary(const std::string& folder, const std::string& name, std::
   return UniqueFd();
 }
 
-int WriteAll(int fd, std::string_view bytes) {
+bool WriteAll(int fd, std::string_view bytes) {
   while (!bytes.empty()) {
     const ssize_t written = ::write(fd, bytes.data(), bytes.size());
     if (written < 0 && errno == EINTR) continue;
-    if (written < 0) return errno;
+    if (written < 0) return false;
     bytes.remove_prefix(static_cast<std::size_t>(written));
   }
-  return 0;
+  return true;
 }
 
-int FillAndRename(int fd, const std::string& temporary, const std::string& path,
-                  std::string_view bytes, mode_t mode) {
-  if (const int error = WriteAll(fd, bytes)) return error;
-  if (const int error = SetOwnership(fd, path, mode)) return error;
-  // Without this a power cut after the rename could leave an empty file under the final name.
-  if (::fsync(fd) != 0) return errno;
-  if (std::rename(temporary.c_str(), path.c_str()) != 0) return errno;
-  return 0;
+bool FillAndRename(int fd, const std::string& temporary, const std::string& path,
+                   std::string_view bytes, mode_t mode) {
+  // Without the sync a power cut after the rename could leave an empty file under the final name.
+  return WriteAll(fd, bytes) && SetOwnership(fd, path, mode) && ::fsync(fd) == 0 &&
+         std::rename(temporary.c_str(), path.c_str()) == 0;
 }
 
 }  // namespace
 
-int WriteFileAtomically(const std::string& path, std::string_view bytes, mode_t mode) {
+bool WriteFileAtomically(const std::string& path, std::string_view bytes, mode_t mode) {
   const std::string target = TargetOf(path);
   const std::string folder = FolderOf(target);
   RemoveLeftFiles(folder);
   std::string temporary;
   const UniqueFd fd = MakeTemporary(folder, NameOf(target), &temporary);
-  if (!fd) return errno;
-  if (const int error = FillAndRename(fd.get(), temporary, target, bytes, mode)) {
+  if (!fd) return false;
+  if (!FillAndRename(fd.get(), temporary, target, bytes, mode)) {
+    const int error = errno;
     ::unlink(temporary.c_str());
-    return error;
+    errno = error;
+    return false;
   }
   // The file is in place; syncing the folder only makes its new name durable.
   const UniqueFd folder_fd(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   if (folder_fd) ::fsync(folder_fd.get());
-  return 0;
+  return true;
 }
 
 UniqueFd OpenRegularFile(const std::string& path) {
@@ -177,10 +176,7 @@ FolderLock::FolderLock(const std::string& folder) : path_(folder + '/' + kLockFi
   const auto deadline = std::chrono::steady_clock::now() + 10s;
   for (;;) {
     UniqueFd file(::open(path_.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, 0600));
-    if (!file) {
-      error_ = errno;
-      return;
-    }
+    if (!file) return;
     // Who may write the folder may lock it, and nobody else.
     struct stat of_folder {
     }, opened{}, named{};
@@ -199,7 +195,8 @@ FolderLock::FolderLock(const std::string& folder) : path_(folder + '/' + kLockFi
       return;
     }
     if (std::chrono::steady_clock::now() >= deadline) {
-      error_ = EAGAIN;
+      file.reset();
+      errno = EAGAIN;
       return;
     }
     if (!locked) std::this_thread::sleep_for(5ms);

@@ -18,9 +18,9 @@ namespace zarvo {
 /// it to the disk and renames it over the target. Of two writers the last one to rename wins,
 /// whole. A file that was there keeps its owner, group and permission bits, as far as the writer
 /// may give them; a new one gets `mode`, whatever the umask. Temporary files that killed writers
-/// have left in the folder are removed. Returns 0, or the error number of the step that failed; the
-/// old file is then untouched and no temporary file stays behind.
-int WriteFileAtomically(const std::string& path, std::string_view bytes, mode_t mode);
+/// have left in the folder are removed. False, with errno set, when a step fails; the old file is
+/// then untouched and no temporary file stays behind.
+bool WriteFileAtomically(const std::string& path, std::string_view bytes, mode_t mode);
 
 /// The content of the regular file at `path`. Nothing, with errno set, when it cannot be read, is
 /// no regular file (EINVAL) or is longer than `max_bytes` (EFBIG).
@@ -34,6 +34,8 @@ UniqueFd OpenRegularFile(const std::string& path);
 /// read a file, alter it and write it back. The lock is advisory. It is a file of its own
 /// (kLockFile) that only those can open who may write the folder, and that goes with the object;
 /// one that a killed program has left is taken over. Waits at most ten seconds for another holder.
+/// An object that could not have the lock is false, and errno is set, to EAGAIN when there is still
+/// another holder.
 class FolderLock {
  public:
   static constexpr char kLockFile[] = ".zarvo-lock";
@@ -43,14 +45,11 @@ class FolderLock {
   FolderLock(const FolderLock&) = delete;
   FolderLock& operator=(const FolderLock&) = delete;
 
-  /// False when the lock could not be had; error() tells why, EAGAIN being another holder.
   explicit operator bool() const { return static_cast<bool>(file_); }
-  int error() const { return error_; }
 
  private:
   std::string path_;
   UniqueFd file_;
-  int error_ = 0;
 };
 
 }  // namespace zarvo

@@ -160,26 +160,21 @@ Tree MakeTree(const Value& value, int levels) {
 
 }  // namespace
 
-std::optional<Value> ParsePropertyList(std::string_view bytes, std::string* error) {
-  const char* reason = nullptr;
-  plist_t root = nullptr;
+Failure ParsePropertyList(std::string_view bytes, Value* value) {
+  if (bytes.size() > kMaxPropertyListBytes) return "the property list is too large";
   const bool is_binary = bytes.starts_with(kBinarySignature);
-  if (bytes.size() > kMaxPropertyListBytes) reason = "the property list is too large";
-  if (reason == nullptr) reason = is_binary ? RefuseBinaryList(bytes) : RefuseXmlList(bytes);
-  if (reason != nullptr) {
-    *error = reason;
-    return std::nullopt;
-  }
+  if (Failure refused = is_binary ? RefuseBinaryList(bytes) : RefuseXmlList(bytes);
+      !refused.empty())
+    return refused;
+  plist_t root = nullptr;
   const auto parse = is_binary ? &plist_from_bin : &plist_from_xml;
   parse(bytes.data(), static_cast<std::uint32_t>(bytes.size()), &root);
   const Tree tree(root, &plist_free);
-  if (!tree) {
-    *error = "the property list is damaged";
-    return std::nullopt;
-  }
-  std::optional<Value> value = ReadNode(tree.get());
-  if (!value) *error = "the property list holds text that is not UTF-8, or references";
-  return value;
+  if (!tree) return "the property list is damaged";
+  std::optional<Value> read = ReadNode(tree.get());
+  if (!read) return "the property list holds text that is not UTF-8, or references";
+  *value = *std::move(read);
+  return "";
 }
 
 std::optional<std::string> SerializePropertyList(const Value& value) {

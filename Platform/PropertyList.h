@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "Platform/Failure.h"
 #include "Platform/Value.h"
 
 namespace zarvo {
@@ -20,10 +21,9 @@ constexpr std::size_t kMaxPropertyListBytes = 64 << 20;
 
 /// Parses an XML or a binary property list. Texts and keys come out in Normalisation Form C. An
 /// integer above the signed 64-bit range becomes a 64-bit real; a date becomes the whole number of
-/// seconds since 1904-01-01 00:00:00 UTC. Gives nothing, and the reason in `error` (one line, for
-/// people), when the list is damaged, passes a limit above, or holds text that is not UTF-8 or a
-/// keyed-archiver reference.
-std::optional<Value> ParsePropertyList(std::string_view bytes, std::string* error);
+/// seconds since 1904-01-01 00:00:00 UTC. Fails when the list is damaged, passes a limit above, or
+/// holds text that is not UTF-8 or a keyed-archiver reference.
+Failure ParsePropertyList(std::string_view bytes, Value* value);
 
 /// The value as an XML property list. Whole numbers are written as integers and reals with all
 /// their digits, so that parsing gives an equal value back. Gives nothing when the value nests

@@ -11,9 +11,9 @@
 namespace zarvo {
 namespace {
 
-constexpr const char* kDamaged = "the property list is damaged";
-constexpr const char* kTooDeep = "the property list nests too deep";
-constexpr const char* kTooLarge = "the property list is too large";
+constexpr char kDamaged[] = "the property list is damaged";
+constexpr char kTooDeep[] = "the property list nests too deep";
+constexpr char kTooLarge[] = "the property list is too large";
 
 /// Follows the tags of an XML property list. Where this and the library could see different tags
 /// (quotes inside tags, document type subsets, odd comments) the list is refused: no writer of
@@ -22,17 +22,17 @@ class XmlScan {
  public:
   explicit XmlScan(std::string_view text) : rest_(text) {}
 
-  const char* Run() {
+  Failure Run() {
     for (;;) {
       const std::size_t start = rest_.find('<');
-      if (start == std::string_view::npos) return nullptr;
+      if (start == std::string_view::npos) return "";
       rest_.remove_prefix(start);
-      if (const char* reason = Markup()) return reason;
+      if (Failure reason = Markup(); !reason.empty()) return reason;
     }
   }
 
  private:
-  const char* Markup() {
+  Failure Markup() {
     if (rest_.starts_with("<!-->") || rest_.starts_with("<!--->")) return kDamaged;
     if (rest_.starts_with("<!--")) return Skip(4, "-->");
     if (rest_.starts_with("<![CDATA[")) return Skip(9, "]]>");
@@ -41,22 +41,22 @@ class XmlScan {
     if (end == std::string_view::npos) return kDamaged;
     const std::string_view tag = rest_.substr(1, end - 1);
     rest_.remove_prefix(end + 1);
-    if (tag.starts_with("!")) return tag.find('[') == std::string_view::npos ? nullptr : kDamaged;
-    if (tag.starts_with("/")) return --depth_ < 0 ? kDamaged : nullptr;
+    if (tag.starts_with("!")) return tag.find('[') == std::string_view::npos ? "" : kDamaged;
+    if (tag.starts_with("/")) return --depth_ < 0 ? kDamaged : "";
     const bool is_root = tag == "plist" || tag.starts_with("plist ");
     if (is_root && roots_++ > 0) return kDamaged;
     if (!is_root && tag.find_first_of("\"'<") != std::string_view::npos) return kDamaged;
     if (++elements_ > kMaxPropertyListElements) return kTooLarge;
-    if (tag.ends_with("/")) return nullptr;
+    if (tag.ends_with("/")) return "";
     // The root element and the text element at the bottom come on top of the containers.
-    return ++depth_ > kMaxPropertyListDepth + 2 ? kTooDeep : nullptr;
+    return ++depth_ > kMaxPropertyListDepth + 2 ? kTooDeep : "";
   }
 
-  const char* Skip(std::size_t opening, std::string_view closing) {
+  Failure Skip(std::size_t opening, std::string_view closing) {
     const std::size_t end = rest_.find(closing, opening);
     if (end == std::string_view::npos) return kDamaged;
     rest_.remove_prefix(end + closing.size());
-    return nullptr;
+    return "";
   }
 
   std::string_view rest_;
@@ -71,7 +71,7 @@ class BinaryScan {
  public:
   explicit BinaryScan(std::string_view bytes) : bytes_(bytes) {}
 
-  const char* Run() {
+  Failure Run() {
     constexpr std::size_t header = 8, trailer = 32;
     if (bytes_.size() < header + trailer + 1) return kDamaged;
     const std::size_t tail = bytes_.size() - trailer;
@@ -109,9 +109,9 @@ class BinaryScan {
     std::uint64_t keys_end;   // the references before it are a dictionary's keys
   };
 
-  const char* Walk(std::uint64_t root) {
+  Failure Walk(std::uint64_t root) {
     std::vector<Frame> path;
-    if (const char* reason = Enter(root, &path)) return reason;
+    if (Failure reason = Enter(root, &path); !reason.empty()) return reason;
     while (!path.empty()) {
       Frame& frame = path.back();
       Object& object = objects_[frame.object];
@@ -126,7 +126,7 @@ class BinaryScan {
       if (below.state == Object::kOpen) return kDamaged;  // it would hold itself
       if (below.state == Object::kNew) {
         if (path.size() > kMaxPropertyListDepth) return kTooDeep;
-        if (const char* reason = Enter(child, &path)) return reason;
+        if (Failure reason = Enter(child, &path); !reason.empty()) return reason;
         continue;  // comes back to the same reference with the child done
       }
       if (frame.next < frame.keys_end && !below.is_key) return kDamaged;
@@ -138,11 +138,11 @@ class BinaryScan {
       if (object.elements > kMaxPropertyListElements || object.size > kMaxPropertyListBytes)
         return kTooLarge;
     }
-    return nullptr;
+    return "";
   }
 
   /// Marks an object as open and puts it, with the place of its references, on the path.
-  const char* Enter(std::uint64_t index, std::vector<Frame>* path) {
+  Failure Enter(std::uint64_t index, std::vector<Frame>* path) {
     Object& object = objects_[index];
     const unsigned marker = Byte(object.offset);
     std::uint64_t place = object.offset + 1;
@@ -167,7 +167,7 @@ class BinaryScan {
     const std::uint64_t keys = kind == 0xD ? length : 0;
     path->push_back(
         {index, place, place + references * reference_size_, place + keys * reference_size_});
-    return nullptr;
+    return "";
   }
 
   /// Whether a text may be a key: at another kind of key, or one with a NUL inside, the library
@@ -196,8 +196,8 @@ class BinaryScan {
 
 }  // namespace
 
-const char* RefuseXmlList(std::string_view bytes) { return XmlScan(bytes).Run(); }
+Failure RefuseXmlList(std::string_view bytes) { return XmlScan(bytes).Run(); }
 
-const char* RefuseBinaryList(std::string_view bytes) { return BinaryScan(bytes).Run(); }
+Failure RefuseBinaryList(std::string_view bytes) { return BinaryScan(bytes).Run(); }
 
 }  // namespace zarvo

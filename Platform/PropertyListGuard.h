@@ -5,11 +5,13 @@
 
 #include <string_view>
 
+#include "Platform/Failure.h"
+
 namespace zarvo {
 
-// Null when the list keeps the limits of PropertyList.h, else the reason why it is not parsed.
+// Empty when the list keeps the limits of PropertyList.h, else the reason why it is not parsed.
 // These are no validity checks: the parser still has the last word.
-const char* RefuseXmlList(std::string_view bytes);
-const char* RefuseBinaryList(std::string_view bytes);
+Failure RefuseXmlList(std::string_view bytes);
+Failure RefuseBinaryList(std::string_view bytes);
 
 }  // namespace zarvo

@@ -33,7 +33,8 @@ class ScratchFolder {
   /// Kills this program's children that still run, and removes the folder with all it holds.
   ~ScratchFolder();
 
-  const std::string& path() const { return path_; }
+  /// The path of a file in it.
+  std::string File(const std::string& name) const { return path_ + '/' + name; }
 
   /// This program's environment for a child whose temporary files are to go here: TMPDIR, TEMP and
   /// TMP name the folder. For ProcessOptions::environment.

@@ -101,12 +101,10 @@ void LogDecoderFailure(const char* path, Process& decoder) {
     LogImageFailure(path, "the decoder gave no image");
 }
 
-std::optional<FaxCoverDrawing> FaxCoverDrawing::Start(const FaxCover& cover, std::string* problem) {
+Failure FaxCoverDrawing::Start(const FaxCover& cover, std::optional<FaxCoverDrawing>* drawing) {
   const std::optional<std::string> description = SerializePropertyList(FaxCoverToDictionary(cover));
-  if (!description) {
-    *problem = "the watermark holds characters that no text may hold; type its text again";
-    return std::nullopt;
-  }
+  if (!description)
+    return "the watermark holds characters that no text may hold; type its text again";
   const char* image = cover.watermark.filePath;
   const bool draws_image = cover.watermark.filename[0] != '\0' && image[0] != '\0' &&
                            cover.watermark.scale > 0 && cover.watermark.density > 0;
@@ -115,12 +113,11 @@ std::optional<FaxCoverDrawing> FaxCoverDrawing::Start(const FaxCover& cover, std
   const UniqueFd input = OpenMemoryFile(*description);
   std::optional<Process> page =
       input ? StartDrawHelper({"faxcover"}, input.get(), pixels.get()) : std::nullopt;
-  if (!page) {
-    *problem = DrawHelperPath() + " cannot be started: " + std::strerror(errno) +
-               "; install the package zarvo again";
-    return std::nullopt;
-  }
-  return FaxCoverDrawing(*std::move(page), std::move(decoder), image);
+  if (!page)
+    return DrawHelperPath() + " cannot be started: " + std::strerror(errno) +
+           "; install the package zarvo again";
+  drawing->emplace(FaxCoverDrawing(*std::move(page), std::move(decoder), image));
+  return "";
 }
 
 int FaxCoverDrawing::Wait() {

@@ -9,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "Platform/Failure.h"
 #include "Platform/Process.h"
 #include "Source/FaxCover.h"
 
@@ -42,9 +43,8 @@ void LogDecoderFailure(const char* path, Process& decoder);
 /// A fax cover sheet while helpers draw it: one the page, and one decodes the watermark's image.
 class FaxCoverDrawing {
  public:
-  /// Nothing, and the reason in `problem` (cause and remedy), when it cannot begin. An image that
-  /// cannot be read is logged and left out.
-  static std::optional<FaxCoverDrawing> Start(const FaxCover& cover, std::string* problem);
+  /// An image that cannot be read is logged and left out.
+  static Failure Start(const FaxCover& cover, std::optional<FaxCoverDrawing>* drawing);
 
   /// The page as PDF, as Process::output.
   std::FILE* output() { return page_.output(); }

@@ -26,7 +26,7 @@ struct FaxCover {
   FaxCoverBlock sender;
   FaxCoverBlock recipients;
   FaxCoverBlock notes;
-  _WatermarkData watermark{};  // all zeros when there is none
+  WatermarkData watermark{};  // all zeros when there is none
 };
 
 /// The cover sheet that the ticket asks for, or nothing when it asks for none. Reads the watermark

@@ -82,14 +82,14 @@ std::optional<Value> CopyXMLData(std::string_view file_name) {
               std::strerror(errno));
     return std::nullopt;
   }
-  std::string error;
-  std::optional<Value> value = ParsePropertyList(*bytes, &error);
-  if (!value)
-    LogLine(
-        "CopyXMLData()::CFPropertyListCreateFromXMLData() error: %s (%s); save it again from "
-        "the print dialog",
-        error.c_str(), std::string(file_name).c_str());
-  return value;
+  Value value;
+  const Failure failure = ParsePropertyList(*bytes, &value);
+  if (failure.empty()) return value;
+  LogLine(
+      "CopyXMLData()::CFPropertyListCreateFromXMLData() error: %s (%s); save it again from "
+      "the print dialog",
+      failure.c_str(), std::string(file_name).c_str());
+  return std::nullopt;
 }
 
 bool ChangeSharedFile(std::string_view file_name, MissingFile missing,
@@ -97,18 +97,15 @@ bool ChangeSharedFile(std::string_view file_name, MissingFile missing,
   const std::optional<std::string> path = CopyPreferenceFileURL(file_name);
   if (!path) return false;
   const FolderLock lock(*SharedFolder());
-  if (!lock) {
-    errno = lock.error();
-    return false;
-  }
+  if (!lock) return false;
   Dictionary dictionary;
   const std::optional<std::string> bytes = ReadWholeFile(*path, kMaxPropertyListBytes);
   if (!bytes && errno != ENOENT) return false;
-  std::string error;
-  std::optional<Value> old = bytes ? ParsePropertyList(*bytes, &error) : std::nullopt;
-  const bool is_usable = old && old->AsDictionary() != nullptr;
+  Value old;
+  const bool is_usable =
+      bytes && ParsePropertyList(*bytes, &old).empty() && old.AsDictionary() != nullptr;
   if (is_usable) {
-    dictionary = std::move(*old->AsDictionary());
+    dictionary = std::move(*old.AsDictionary());
   } else if (missing == MissingFile::kDoNothing) {
     return false;
   }
@@ -117,27 +114,27 @@ bool ChangeSharedFile(std::string_view file_name, MissingFile missing,
   const std::optional<std::string> xml = SerializePropertyList(Value(std::move(dictionary)));
   if (!xml) return false;
   if (bytes && !is_usable) std::rename(path->c_str(), (*path + ".damaged").c_str());
-  errno = WriteFileAtomically(*path, *xml, kSharedFileMode);
-  return errno == 0;
+  return WriteFileAtomically(*path, *xml, kSharedFileMode);
 }
 
 std::optional<Dictionary> CopyUserPreferences(std::string_view file_name) {
   const std::optional<std::string> path = UserFile(file_name);
   if (!path) return std::nullopt;
-  std::string error;
   const std::optional<std::string> bytes = ReadWholeFile(*path, kMaxPropertyListBytes);
-  std::optional<Value> value = bytes ? ParsePropertyList(*bytes, &error) : std::nullopt;
-  if (!value || value->AsDictionary() == nullptr) return Dictionary();
-  return std::move(*value->AsDictionary());
+  Value value;
+  if (!bytes || !ParsePropertyList(*bytes, &value).empty() || value.AsDictionary() == nullptr)
+    return Dictionary();
+  return std::move(*value.AsDictionary());
 }
 
 bool WriteUserPreferences(std::string_view file_name, const Value& preferences) {
   const std::optional<std::string> path = UserFile(file_name);
   if (!path) return false;
   const std::optional<std::string> xml = SerializePropertyList(preferences);
-  const int error = xml ? WriteFileAtomically(*path, *xml, kUserFileMode) : EINVAL;
-  if (error != 0) LogLine("WriteUserPreferences() failed (%d)", error);
-  return error == 0;
+  errno = EINVAL;
+  const bool written = xml && WriteFileAtomically(*path, *xml, kUserFileMode);
+  if (!written) LogLine("WriteUserPreferences() failed (%d)", errno);
+  return written;
 }
 
 }  // namespace zarvo

@@ -416,7 +416,7 @@ inline constexpr char kFaxRecipientEmailAddressProperty[] = "EmailAddress";
 inline constexpr char kFaxRecipientMailboxProperty[] = "Mailbox";
 inline constexpr char kFaxRecipientUIDProperty[] = "UID";
 
-// Settings of the dialog; the filter does not read them.
+// The dialog's interface: nothing of the filter or its tools reads what follows.
 inline constexpr char kFaxPromptDuplicateProperty[] = "PromptDuplicate";
 inline constexpr char kFaxPromptRemoveProperty[] = "PromptRemove";
 

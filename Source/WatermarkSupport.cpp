@@ -20,56 +20,56 @@ constexpr char kListKey[] = "WatermarkListEntries";
 struct TextField {
   const char* key;
   std::size_t size;
-  char* (*field)(_WatermarkData&);
+  char* (*field)(WatermarkData&);
 };
 template <class T>
 struct NumberField {
   const char* key;
-  T _WatermarkData::*field;
+  T WatermarkData::*field;
 };
 
 constexpr TextField kTextFields[] = {
-    {"textString", sizeof(_WatermarkData::textString),
-     [](_WatermarkData& data) -> char* { return data.textString; }},
-    {"filename", sizeof(_WatermarkData::filename),
-     [](_WatermarkData& data) -> char* { return data.filename; }},
-    {"filePath", sizeof(_WatermarkData::filePath),
-     [](_WatermarkData& data) -> char* { return data.filePath; }},
-    {"fontName", sizeof(_WatermarkData::fontName),
-     [](_WatermarkData& data) -> char* { return data.fontName; }},
+    {"textString", sizeof(WatermarkData::textString),
+     [](WatermarkData& data) -> char* { return data.textString; }},
+    {"filename", sizeof(WatermarkData::filename),
+     [](WatermarkData& data) -> char* { return data.filename; }},
+    {"filePath", sizeof(WatermarkData::filePath),
+     [](WatermarkData& data) -> char* { return data.filePath; }},
+    {"fontName", sizeof(WatermarkData::fontName),
+     [](WatermarkData& data) -> char* { return data.fontName; }},
 };
 constexpr NumberField<float> kFloatFields[] = {
-    {"xOffset", &_WatermarkData::xOffset},
-    {"yOffset", &_WatermarkData::yOffset},
-    {"wellColorRed", &_WatermarkData::wellColorRed},
-    {"wellColorGreen", &_WatermarkData::wellColorGreen},
-    {"wellColorBlue", &_WatermarkData::wellColorBlue},
-    {"wellColorAlpha", &_WatermarkData::wellColorAlpha},
-    {"fontColorRed", &_WatermarkData::fontColorRed},
-    {"fontColorGreen", &_WatermarkData::fontColorGreen},
-    {"fontColorBlue", &_WatermarkData::fontColorBlue},
-    {"fontColorAlpha", &_WatermarkData::fontColorAlpha},
+    {"xOffset", &WatermarkData::xOffset},
+    {"yOffset", &WatermarkData::yOffset},
+    {"wellColorRed", &WatermarkData::wellColorRed},
+    {"wellColorGreen", &WatermarkData::wellColorGreen},
+    {"wellColorBlue", &WatermarkData::wellColorBlue},
+    {"wellColorAlpha", &WatermarkData::wellColorAlpha},
+    {"fontColorRed", &WatermarkData::fontColorRed},
+    {"fontColorGreen", &WatermarkData::fontColorGreen},
+    {"fontColorBlue", &WatermarkData::fontColorBlue},
+    {"fontColorAlpha", &WatermarkData::fontColorAlpha},
 };
 constexpr NumberField<double> kDoubleFields[] = {
-    {"xPos", &_WatermarkData::xPos},
-    {"yPos", &_WatermarkData::yPos},
+    {"xPos", &WatermarkData::xPos},
+    {"yPos", &WatermarkData::yPos},
 };
 constexpr NumberField<std::int32_t> kIntFields[] = {
-    {"angle", &_WatermarkData::angle},       {"density", &_WatermarkData::density},
-    {"scale", &_WatermarkData::scale},       {"units", &_WatermarkData::units},
-    {"fontSize", &_WatermarkData::fontSize},
+    {"angle", &WatermarkData::angle},       {"density", &WatermarkData::density},
+    {"scale", &WatermarkData::scale},       {"units", &WatermarkData::units},
+    {"fontSize", &WatermarkData::fontSize},
 };
 
 /// Numbers that are infinite in their field, or no numbers at all, would break the page they are
 /// written into.
 template <class T>
-void LoadNumber(const Dictionary& entry, const NumberField<T>& row, _WatermarkData* data) {
+void LoadNumber(const Dictionary& entry, const NumberField<T>& row, WatermarkData* data) {
   T value{};
   if (CFDictionaryGetNumber(entry, row.key, &value) && std::isfinite(value))
     data->*row.field = value;
 }
 
-void LoadText(const Dictionary& entry, const TextField& row, _WatermarkData* data) {
+void LoadText(const Dictionary& entry, const TextField& row, WatermarkData* data) {
   const std::string* text = DictionaryGetString(entry, row.key);
   if (text == nullptr) return;
   char* field = row.field(*data);
@@ -79,7 +79,7 @@ void LoadText(const Dictionary& entry, const TextField& row, _WatermarkData* dat
 }
 
 template <class Rows>
-void StoreNumbers(const Rows& rows, const _WatermarkData& data, Dictionary* entry) {
+void StoreNumbers(const Rows& rows, const WatermarkData& data, Dictionary* entry) {
   for (const auto& row : rows) CFDictionarySetNumber(*entry, row.key, &(data.*row.field));
 }
 
@@ -100,7 +100,7 @@ bool ChangeCollection(const char* collection, MissingFile missing,
 }
 
 /// What a watermark is stored under.
-std::string NameIn(const Dictionary& entry, const _WatermarkData& watermark) {
+std::string NameIn(const Dictionary& entry, const WatermarkData& watermark) {
   return *DictionaryGetString(entry, watermark.isTextWatermark != 0 ? "textString" : "filename");
 }
 
@@ -148,29 +148,29 @@ bool saveWatermarkList(const char* inCollection, const Array* inWatermarkNames) 
 }
 
 int loadWatermarkData(const char* inCollection, const std::string* inWatermarkName,
-                      _WatermarkData* outWMData) {
+                      WatermarkData* outWMData) {
   const std::optional<std::string> name =
       inWatermarkName != nullptr ? MakeString(*inWatermarkName) : std::nullopt;
   const std::optional<Dictionary> file = name ? LoadCollection(inCollection) : std::nullopt;
   const Dictionary* entry = file ? DictionaryGetDictionary(*file, *name) : nullptr;
   if (entry == nullptr) {
-    *outWMData = _WatermarkData{};
+    *outWMData = WatermarkData{};
     return 0;
   }
   WatermarkFromDictionary(*entry, outWMData);
   return 1;
 }
 
-void WatermarkFromDictionary(const Dictionary& entry, _WatermarkData* outWMData) {
+void WatermarkFromDictionary(const Dictionary& entry, WatermarkData* outWMData) {
   for (const TextField& row : kTextFields) LoadText(entry, row, outWMData);
   for (const auto& row : kFloatFields) LoadNumber(entry, row, outWMData);
   for (const auto& row : kDoubleFields) LoadNumber(entry, row, outWMData);
   for (const auto& row : kIntFields) LoadNumber(entry, row, outWMData);
 }
 
-std::optional<Dictionary> WatermarkToDictionary(const _WatermarkData& wmData) {
+std::optional<Dictionary> WatermarkToDictionary(const WatermarkData& wmData) {
   Dictionary entry;
-  _WatermarkData copy = wmData;
+  WatermarkData copy = wmData;
   for (const TextField& row : kTextFields) {
     std::optional<std::string> text = FieldText(row.field(copy), row.size);
     if (!text) return std::nullopt;
@@ -182,14 +182,14 @@ std::optional<Dictionary> WatermarkToDictionary(const _WatermarkData& wmData) {
   return entry;
 }
 
-bool saveWatermarkData(const char* inCollection, const _WatermarkData& wmData) {
+bool saveWatermarkData(const char* inCollection, const WatermarkData& wmData) {
   std::optional<Dictionary> entry = WatermarkToDictionary(wmData);
   if (!entry) return false;
   const std::string name = NameIn(*entry, wmData);
   return ChangeEntry(inCollection, name, MissingFile::kStartEmpty, Value(*std::move(entry)));
 }
 
-bool addWatermark(const char* collection, const _WatermarkData& watermark, const char* first) {
+bool addWatermark(const char* collection, const WatermarkData& watermark, const char* first) {
   std::optional<Dictionary> entry = WatermarkToDictionary(watermark);
   if (!entry) return false;
   const std::string name = NameIn(*entry, watermark);
@@ -217,9 +217,9 @@ bool addWatermarkFont(const char* collection, const std::string& name, const Dat
   });
 }
 
-bool dropWatermark(const char* collection, const std::string& name, _WatermarkData* removed) {
+bool dropWatermark(const char* collection, const std::string& name, WatermarkData* removed) {
   const std::optional<std::string> stored = MakeString(name);
-  *removed = _WatermarkData{};
+  *removed = WatermarkData{};
   if (!stored || *stored == kListKey) return false;
   return ChangeCollection(collection, MissingFile::kDoNothing, [&](Dictionary& file) {
     if (const Dictionary* entry = DictionaryGetDictionary(file, *stored)) {

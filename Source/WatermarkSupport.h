@@ -40,6 +40,8 @@ struct _WatermarkData {
   double paperHeight, paperWidth;  ///< in the dialog; not stored
   double xPos, yPos;               ///< of the text on the page, points
 };
+/// The name of the record everywhere else.
+using WatermarkData = _WatermarkData;
 
 /// The dialog's list control: is given all names to show.
 using WatermarkBrowser = std::function<void(const Array& names)>;
@@ -59,29 +61,29 @@ bool saveWatermarkList(const char* inCollection, const Array* inWatermarkNames);
 /// other fields stay as they were. Otherwise zeroes the record and returns 0; a null name is not
 /// found.
 int loadWatermarkData(const char* inCollection, const std::string* inWatermarkName,
-                      _WatermarkData* outWMData);
+                      WatermarkData* outWMData);
 
 /// Stores one watermark under its text when isTextWatermark is not 0, else under its file name,
 /// replacing an entry of that name; starts the file when it is missing. Does not touch the list of
 /// names. A watermark that is named like the list is not stored.
-bool saveWatermarkData(const char* inCollection, const _WatermarkData& wmData);
+bool saveWatermarkData(const char* inCollection, const WatermarkData& wmData);
 
 /// Stores one watermark as saveWatermarkData does and puts its name at the end of the list, unless
 /// it is there, all in one change: no other program sees, or loses, one without the other. A list
 /// that is started begins with `first`. An entry that holds a font is not replaced.
-bool addWatermark(const char* collection, const _WatermarkData& watermark, const char* first);
+bool addWatermark(const char* collection, const WatermarkData& watermark, const char* first);
 /// Stores a font as storeFontData does, in a file that is started as addWatermark does. An entry
 /// that is no font is not replaced.
 bool addWatermarkFont(const char* collection, const std::string& name, const Data& font,
                       const char* first);
 /// Takes a name off the list, and removes the watermark that is stored under it, in one change.
 /// `removed` gets what was stored, or zeros.
-bool dropWatermark(const char* collection, const std::string& name, _WatermarkData* removed);
+bool dropWatermark(const char* collection, const std::string& name, WatermarkData* removed);
 
 /// The stored form of a watermark and back. The dictionary is missing when a text is not UTF-8;
 /// reading treats the record as loadWatermarkData does.
-std::optional<Dictionary> WatermarkToDictionary(const _WatermarkData& wmData);
-void WatermarkFromDictionary(const Dictionary& entry, _WatermarkData* outWMData);
+std::optional<Dictionary> WatermarkToDictionary(const WatermarkData& wmData);
+void WatermarkFromDictionary(const Dictionary& entry, WatermarkData* outWMData);
 
 /// Removes one watermark; its name stays in the list. Does nothing when there is no file.
 bool removeWatermarkData(const char* inCollection, const std::string& inWatermarkName);

@@ -14,7 +14,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const UniqueFd spool = OpenMemoryFile(AsText(data + kLayoutBytes, size - kLayoutBytes));
   const std::string path = "/proc/self/fd/" + std::to_string(spool.get());
   FILE* const nowhere = std::fopen("/dev/null", "wb");
-  _tag_Q7B_PS_BOOKLET_VARS bv;
+  BookletVars bv;
   bv.hPrinter = nowhere;
   bv.pwstrPSFileIn = path.c_str();
   bv.bDoBooklet = data[0] & 1;

@@ -16,10 +16,10 @@ constexpr std::size_t kBookletBlockSize = 128 * 1024;
 /// feed after the line's end is taken into it too. At the end of the file, where an unfinished
 /// comment line is dropped, sets bEndOfFile. bNewPageOrSection says that fpPDL was opened or
 /// repositioned since the last call. Returns 1, 0 on a write error, -501 on a read error.
-int xWritePdlUntilNextDSC(_tag_Q7B_PS_BOOKLET_VARS* lpbv, std::FILE* fpPDL, int bNewPageOrSection);
+int xWritePdlUntilNextDSC(BookletVars* bv, std::FILE* fpPDL, int bNewPageOrSection);
 
 /// The place in fpPDL of the next byte that the copier will examine, or -1.
-off_t CopierPosition(const _tag_Q7B_PS_BOOKLET_VARS* lpbv, std::FILE* fpPDL);
+off_t CopierPosition(const BookletVars* bv, std::FILE* fpPDL);
 
 /// Writes stChars bytes. Returns stChars, 9999 when that is 0, or 0 on a write error.
 unsigned long xWriteSpool(std::FILE* hPrinter, const char* szString, unsigned long stChars);

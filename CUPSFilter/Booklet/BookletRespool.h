@@ -23,18 +23,18 @@ enum enumRespoolOnePageState { rpsScanningForBeginPageSetupAndSettingUpPage, rps
 /// on a write error, or a negative code: -201 no memory, -204 the file cannot be opened, -205 and
 /// -206 a read error, -207 the procset cannot be written, -209 and -210 the trailer or the end
 /// cannot be sought, and the codes of xProcessAndRespoolOnePage().
-int xProcessAndRespoolFile(_tag_Q7B_PS_BOOKLET_VARS* lpbv);
+int xProcessAndRespoolFile(BookletVars* bv);
 
 /// Writes destination slot iDestSlot (1-based) with the source page iSrcPage (1-based, -1 for a
 /// blank) out of iPages. lpBuf, of cchBufSizeChar bytes, is written ahead of a page that is not
 /// imposed. Returns 1 at the next page and at the end of the file, 2 at the trailer or the
 /// document's end, 0 on a write error, -301 when the page cannot be sought, -501 on a read error.
-int xProcessAndRespoolOnePage(_tag_Q7B_PS_BOOKLET_VARS* lpbv, std::FILE* fpPDL, char* lpBuf,
-                              int cchBufSizeChar, int iPages, int iSrcPage, int iDestSlot);
+int xProcessAndRespoolOnePage(BookletVars* bv, std::FILE* fpPDL, char* lpBuf, int cchBufSizeChar,
+                              int iPages, int iSrcPage, int iDestSlot);
 
 /// The source page (1-based, possibly beyond the last) that goes into slot iDestSlot (1-based) of
 /// iDestSlots. Reads bDoBooklet, bDoReversePgOrder, iMode and iImagesPerSheet.
-int xMapToSrcPageNum(const _tag_Q7B_PS_BOOKLET_VARS* lpbv, int iDestSlots, int iDestSlot);
+int xMapToSrcPageNum(const BookletVars* bv, int iDestSlots, int iDestSlot);
 
 /// Writes the imposition procset and a line feed. The first two arguments are ignored. Returns
 /// non-zero on success.

@@ -48,7 +48,7 @@ bool GrowTable(Table* table, int last_entry, int used) {
 
 class PageScan {
  public:
-  PageScan(_tag_Q7B_PS_BOOKLET_VARS* vars, CommentReader* reader) : vars_(vars), reader_(reader) {}
+  PageScan(BookletVars* vars, CommentReader* reader) : vars_(vars), reader_(reader) {}
 
   int Run();
 
@@ -70,7 +70,7 @@ class PageScan {
 
   std::size_t Count() const { return static_cast<std::size_t>(pages_); }
 
-  _tag_Q7B_PS_BOOKLET_VARS* vars_;
+  BookletVars* vars_;
   CommentReader* reader_;
   char line_[CommentReader::kLineSize];
   enumScanPagesState state_ = spsValidatingPctBang;
@@ -274,13 +274,13 @@ int xScanForPageSize(CommentReader* fpPDL, char (&lpBuf)[CommentReader::kLineSiz
   return -401;
 }
 
-int xScanFileForPages(_tag_Q7B_PS_BOOKLET_VARS* lpbv) {
-  lpbv->bIsBadMsBinderPS = 0;
-  lpbv->adwPageSize[0] = 0;
+int xScanFileForPages(BookletVars* bv) {
+  bv->bIsBadMsBinderPS = 0;
+  bv->adwPageSize[0] = 0;
   try {
-    CommentReader reader(lpbv->pwstrPSFileIn, lpbv->iDocumentStart);
+    CommentReader reader(bv->pwstrPSFileIn, bv->iDocumentStart);
     if (!reader.IsOpen()) return -102;
-    return PageScan(lpbv, &reader).Run();
+    return PageScan(bv, &reader).Run();
   } catch (const std::bad_alloc&) {
     return -101;
   }

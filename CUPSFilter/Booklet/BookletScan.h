@@ -40,6 +40,6 @@ int xScanForPageSize(CommentReader* fpPDL, char (&lpBuf)[CommentReader::kLineSiz
 /// job is imposed already, -105 no memory or a bad size in the document's setup, -106 no memory,
 /// -107 and -108 the file has no positions, -109 and -110 a bad size in the setup of an embedded
 /// document or of a page.
-int xScanFileForPages(_tag_Q7B_PS_BOOKLET_VARS* lpbv);
+int xScanFileForPages(BookletVars* bv);
 
 }  // namespace zarvo

@@ -71,9 +71,9 @@ int DuplexCode(const std::string& sides) {
 }
 
 /// A booklet that takes its document from `spool`; that must outlive the record.
-_tag_Q7B_PS_BOOKLET_VARS Booklet(const Dictionary& ticket, const JobSettings& settings,
-                                 const SpoolFile& spool, JobOutput& output) {
-  _tag_Q7B_PS_BOOKLET_VARS bv;
+BookletVars Booklet(const Dictionary& ticket, const JobSettings& settings, const SpoolFile& spool,
+                    JobOutput& output) {
+  BookletVars bv;
   bv.bDoBooklet = 1;
   bv.hPrinter = output.stream();
   bv.pwstrPSFileIn = spool.path().c_str();
@@ -137,9 +137,9 @@ class RewrittenJob {
     rewriter_.height = settings.mediaLength;
   }
 
-  /// Writes the whole job, each document as a booklet of its own. Returns an empty text, or cause
-  /// and remedy; the output then holds a part of it.
-  std::string Write(const std::vector<DocumentRange>& documents) {
+  /// Writes the whole job, each document as a booklet of its own. When that
+  /// fails the output holds a part of it.
+  Failure Write(const std::vector<DocumentRange>& documents) {
     off_t copied = 0;
     int pages = 0;
     for (const DocumentRange& document : documents) {
@@ -148,7 +148,7 @@ class RewrittenJob {
       // Each leaves the next one a printer as it found it.
       const bool last = &document == &documents.back();
       if (!last) output_.Write("%!PS-Adobe-3.0\nuserdict /ZRVdocument save put\n");
-      const std::string failure = WriteDocument(document, &pages);
+      const Failure failure = WriteDocument(document, &pages);
       if (!failure.empty()) return failure;
       if (!last) output_.Write("clear cleardictstack userdict /ZRVdocument get restore\n");
     }
@@ -160,23 +160,22 @@ class RewrittenJob {
   long sheets() const { return sheets_; }
 
  private:
-  std::string WriteDocument(const DocumentRange& document, int* pages) {
+  Failure WriteDocument(const DocumentRange& document, int* pages) {
     const std::unique_ptr<SpoolFile> source = SpoolFile::Create();
     const std::unique_ptr<SpoolFile> rewritten = SpoolFile::Create();
     if (!source || !rewritten) return std::strerror(errno) + std::string(kMakeRoom);
     JobOutput slice(source->stream());
     if (!CopyRange(spool_, document.begin, document.end, slice)) return kReadFailed;
-    if (const int error = slice.Flush()) return std::strerror(error) + std::string(kMakeRoom);
+    if (!slice.Flush()) return std::strerror(errno) + std::string(kMakeRoom);
     lseek(fileno(source->stream()), 0, SEEK_SET);
     rewriter_.limit =
         std::max(std::chrono::milliseconds(1),
                  std::chrono::duration_cast<std::chrono::milliseconds>(deadline_ - Clock::now()));
-    const std::string failure =
-        RewritePages(fileno(source->stream()), rewriter_, rewritten->stream());
+    const Failure failure = RewritePages(fileno(source->stream()), rewriter_, rewritten->stream());
     if (!failure.empty()) return failure;
 
     PageHooks hooks(settings_, output_);
-    _tag_Q7B_PS_BOOKLET_VARS bv = Booklet(ticket_, settings_, *rewritten, output_);
+    BookletVars bv = Booklet(ticket_, settings_, *rewritten, output_);
     bv.pPageHooks = &hooks;
     bv.szFeatures = ReadPageStructure(spool_.path().c_str(), document.begin, document.end).features;
     const int imposed = xPostProcessAndRespoolJob(&bv);
@@ -202,7 +201,7 @@ class RewrittenJob {
 
 std::optional<long> ImposeJob(const Dictionary& ticket, const JobSettings& settings,
                               const SpoolFile& spool, JobOutput& output) {
-  _tag_Q7B_PS_BOOKLET_VARS bv = Booklet(ticket, settings, spool, output);
+  BookletVars bv = Booklet(ticket, settings, spool, output);
   const int pages = xPostProcessAndRespoolJob(&bv);
   if (pages > 0) return Sheets(pages);
   LogFailure(pages, output);
@@ -216,7 +215,7 @@ std::optional<long> ImposeDocuments(const Dictionary& ticket, const JobSettings&
   if (documents.size() == 1 &&
       ReadPageStructure(spool.path().c_str(), documents[0].begin, documents[0].end).reliable) {
     PageHooks hooks(settings, output);
-    _tag_Q7B_PS_BOOKLET_VARS bv = Booklet(ticket, settings, spool, output);
+    BookletVars bv = Booklet(ticket, settings, spool, output);
     bv.pPageHooks = &hooks;
     bv.iDocumentStart = documents[0].begin;
     const int pages = xPostProcessAndRespoolJob(&bv);
@@ -228,7 +227,7 @@ std::optional<long> ImposeDocuments(const Dictionary& ticket, const JobSettings&
   }
   // A job without any document has nothing that could be imposed.
   if (documents.empty()) {
-    if (const int error = const_cast<SpoolFile&>(spool).CopyTo(output)) output.Fail(error);
+    if (!const_cast<SpoolFile&>(spool).CopyTo(output)) output.Fail(errno);
     return 0;
   }
   LogLine(
@@ -237,7 +236,7 @@ std::optional<long> ImposeDocuments(const Dictionary& ticket, const JobSettings&
   std::vector<std::vector<DocumentRange> > attempts = {documents};
   // What seems to be a document may be the beginning of the next one.
   if (documents.size() > 1) attempts.push_back({{documents.front().begin, documents.back().end}});
-  std::string failure;
+  Failure failure;
   for (const std::vector<DocumentRange>& attempt : attempts) {
     const std::unique_ptr<SpoolFile> imposed = SpoolFile::Create();
     if (!imposed) {
@@ -247,10 +246,10 @@ std::optional<long> ImposeDocuments(const Dictionary& ticket, const JobSettings&
     JobOutput whole(imposed->stream());
     RewrittenJob job(ticket, settings, spool, whole);
     failure = job.Write(attempt);
-    if (const int error = whole.Flush(); failure.empty() && error != 0)
-      failure = std::string(std::strerror(error)) + "; make room in TMPDIR and send the job again";
+    if (!whole.Flush() && failure.empty())
+      failure = std::string(std::strerror(errno)) + "; make room in TMPDIR and send the job again";
     if (!failure.empty()) continue;
-    if (const int error = imposed->CopyTo(output)) output.Fail(error);
+    if (!imposed->CopyTo(output)) output.Fail(errno);
     return job.sheets();
   }
   LogLine("ERROR: booklet: the pages could not be written anew, nothing was printed: %s",

@@ -35,7 +35,7 @@ std::vector<std::string> Command(const PageRewriter& rewriter) {
 
 }  // namespace
 
-std::string RewritePages(int document, const PageRewriter& rewriter, FILE* output) {
+Failure RewritePages(int document, const PageRewriter& rewriter, FILE* output) {
   const std::unique_ptr<ScratchFolder> scratch = ScratchFolder::Create();
   if (scratch == nullptr)
     return std::string("no folder for its files: ") + std::strerror(errno) + kMakeRoom;

@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <string>
 
+#include "Platform/Failure.h"
 #include "Platform/Process.h"
 
 namespace zarvo {
@@ -23,7 +24,7 @@ struct PageRewriter {
 
 /// Runs the document that the open file `document` holds from its present place to its end, and
 /// writes its pages, of which there must be one at least, as a document of their own to `output`.
-/// Returns an empty text, or cause and remedy for people; `output` may then hold a part of it.
-std::string RewritePages(int document, const PageRewriter& rewriter, FILE* output);
+/// When it fails `output` may hold a part of it.
+Failure RewritePages(int document, const PageRewriter& rewriter, FILE* output);
 
 }  // namespace zarvo

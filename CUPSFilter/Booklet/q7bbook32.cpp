@@ -13,53 +13,53 @@ namespace {
 constexpr int kFirstPageAlloc = 100;
 
 /// Sets the buffers up, all zero. Returns false without memory.
-bool AllocateBuffers(_tag_Q7B_PS_BOOKLET_VARS* v) {
+bool AllocateBuffers(BookletVars* bv) {
   try {
-    v->pBlock.assign(kBookletBlockSize, '\0');
-    v->aPageFilePos.assign(kFirstPageAlloc + 1, 0);
-    v->adwPageSize.assign(kFirstPageAlloc + 1, 0);
-    v->aPlainTextEnd.assign(kFirstPageAlloc + 1, 0);
+    bv->pBlock.assign(kBookletBlockSize, '\0');
+    bv->aPageFilePos.assign(kFirstPageAlloc + 1, 0);
+    bv->adwPageSize.assign(kFirstPageAlloc + 1, 0);
+    bv->aPlainTextEnd.assign(kFirstPageAlloc + 1, 0);
     return true;
   } catch (const std::bad_alloc&) {
     return false;
   }
 }
 
-void FreeBuffers(_tag_Q7B_PS_BOOKLET_VARS* v) {
-  v->pBlock = {};
-  v->aPageFilePos = {};
-  v->adwPageSize = {};
-  v->aPlainTextEnd = {};
+void FreeBuffers(BookletVars* bv) {
+  bv->pBlock = {};
+  bv->aPageFilePos = {};
+  bv->adwPageSize = {};
+  bv->aPlainTextEnd = {};
 }
 
 }  // namespace
 
-int xPostProcessAndRespoolJob(_tag_Q7B_PS_BOOKLET_VARS* lpbv) {
-  FreeBuffers(lpbv);
-  lpbv->iPass1Result = 0;
-  lpbv->iPass2Result = 0;
-  lpbv->iPages = 0;
-  lpbv->iSepFileDiscardLineCount = 0;
-  lpbv->iCurPageAlloc = kFirstPageAlloc;
-  lpbv->iImagesPerSheet = 1;
-  if (!lpbv->hPrinter) return -1000;
-  if (lpbv->bDoBooklet && lpbv->bDoAutoPaperSaver) return -1001;
-  if (!AllocateBuffers(lpbv)) {
-    FreeBuffers(lpbv);
+int xPostProcessAndRespoolJob(BookletVars* bv) {
+  FreeBuffers(bv);
+  bv->iPass1Result = 0;
+  bv->iPass2Result = 0;
+  bv->iPages = 0;
+  bv->iSepFileDiscardLineCount = 0;
+  bv->iCurPageAlloc = kFirstPageAlloc;
+  bv->iImagesPerSheet = 1;
+  if (!bv->hPrinter) return -1000;
+  if (bv->bDoBooklet && bv->bDoAutoPaperSaver) return -1001;
+  if (!AllocateBuffers(bv)) {
+    FreeBuffers(bv);
     return -1002;
   }
-  if (lpbv->bRightToLeft) {
+  if (bv->bRightToLeft) {
     // Turning each page and the sheet puts the first page on the other half.
-    lpbv->bRotBooklet180 = !lpbv->bRotBooklet180;
-    lpbv->bRotPagelets180 = !lpbv->bRotPagelets180;
+    bv->bRotBooklet180 = !bv->bRotBooklet180;
+    bv->bRotPagelets180 = !bv->bRotPagelets180;
   }
-  int result = lpbv->iPass1Result = xScanFileForPages(lpbv);
+  int result = bv->iPass1Result = xScanFileForPages(bv);
   if (result > 0) {
-    lpbv->iPages = lpbv->iPass1Result;
-    result = lpbv->iPass2Result = xProcessAndRespoolFile(lpbv);
+    bv->iPages = bv->iPass1Result;
+    result = bv->iPass2Result = xProcessAndRespoolFile(bv);
   }
-  FreeBuffers(lpbv);
-  return result < 0 ? result : lpbv->iPages;
+  FreeBuffers(bv);
+  return result < 0 ? result : bv->iPages;
 }
 
 }  // namespace zarvo

@@ -127,12 +127,14 @@ struct _tag_Q7B_PS_BOOKLET_VARS {
   int iDiagCntBytesReturned = 0;
   int iDiagCntBytesWritten = 0;
 };
+/// The name of the record everywhere else; its parameter is called `bv`.
+using BookletVars = _tag_Q7B_PS_BOOKLET_VARS;
 
-/// Imposes the spooled job lpbv->pwstrPSFileIn onto lpbv->hPrinter. Returns the number of pages,
+/// Imposes the spooled job bv->pwstrPSFileIn onto bv->hPrinter. Returns the number of pages,
 /// 0 when the job has none (then nothing is written), or a negative code:
 /// -1000 no output stream; -1001 booklet and paper saver both asked for; -1002 no memory;
 /// -101 to -110 the page scan, -401 a set-up section without end; -201 to -210 the second pass;
 /// -301 a page that cannot be sought; -501 a block that cannot be read.
-int xPostProcessAndRespoolJob(_tag_Q7B_PS_BOOKLET_VARS* lpbv);
+int xPostProcessAndRespoolJob(BookletVars* bv);
 
 }  // namespace zarvo

@@ -243,7 +243,7 @@ bool CopyRules::WatchesEveryLine() const {
 }
 
 void CopyRules::WriteCover() {
-  if (const int error = WriteFaxCover(output_, ticket_, &fax_cover_)) output_.Fail(error);
+  if (!WriteFaxCover(output_, ticket_, &fax_cover_)) output_.Fail(errno);
 }
 
 void CopyRules::CopyDocumentHeader(std::string_view line) {
@@ -385,7 +385,7 @@ void CopyRules::CopyEndSetup(std::string_view line) {
   output_.Write(line);
 }
 
-void CopyRules::WriteImage(const _WatermarkData& watermark) {
+void CopyRules::WriteImage(const WatermarkData& watermark) {
   if (!std::exchange(image_written_, true)) {
     if (!outputImageWatermark(&watermark, output_.stream()) && notices_ != nullptr)
       notices_->Add(kImageLeftOut);
@@ -402,7 +402,7 @@ void CopyRules::WriteImage(const _WatermarkData& watermark) {
     }
     outputImageWatermark(&watermark, image_->stream());
   }
-  if (const int error = image_->CopyTo(output_)) output_.Fail(error);
+  if (!image_->CopyTo(output_)) output_.Fail(errno);
 }
 
 }  // namespace zarvo

@@ -111,7 +111,7 @@ class CopyRules {
   void CopyPageEnd(std::string_view line);
   void CopyFeatureLine(std::string_view line);
   void CopyEndSetup(std::string_view line);
-  void WriteImage(const _WatermarkData& watermark);
+  void WriteImage(const WatermarkData& watermark);
   void WritePageTransform();
   bool OnThisPage(int first_page) const;
 

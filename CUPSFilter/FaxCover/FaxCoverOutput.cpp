@@ -41,10 +41,9 @@ bool CopyStream(FILE* input, FILE* output, std::size_t max_bytes) {
 
 /// Lets the helper draw the cover into the file. False, with one log line written, on failure.
 bool DrawPdf(const FaxCover& cover, SpoolFile& pdf) {
-  std::string problem;
-  std::optional<FaxCoverDrawing> helper = FaxCoverDrawing::Start(cover, &problem);
-  if (!helper) {
-    LogLeftOut(problem);
+  std::optional<FaxCoverDrawing> helper;
+  if (const Failure failure = FaxCoverDrawing::Start(cover, &helper); !failure.empty()) {
+    LogLeftOut(failure);
     return false;
   }
   FILE* drawn = helper->output();
@@ -69,8 +68,7 @@ std::unique_ptr<SpoolFile> DrawPostScript(const FaxCover& cover, const PdfConver
   }
   if (!DrawPdf(cover, *pdf)) return nullptr;
 
-  std::string failure =
-      ConvertPdfToPostScript(::fileno(pdf->stream()), converters, document->stream());
+  Failure failure = ConvertPdfToPostScript(::fileno(pdf->stream()), converters, document->stream());
   if (failure.empty() &&
       (std::fflush(document->stream()) != 0 || std::ferror(document->stream()) != 0))
     failure = std::string("no room for it: ") + std::strerror(errno) + "; make room in TMPDIR";
@@ -90,19 +88,21 @@ void Draw(const Dictionary& ticket, PdfConverters converters, FaxCoverDocument* 
 
 }  // namespace
 
-int WriteFaxCover(JobOutput& output, const Dictionary& ticket, FaxCoverDocument* kept,
-                  const PdfConverters& converters) {
+bool WriteFaxCover(JobOutput& output, const Dictionary& ticket, FaxCoverDocument* kept,
+                   const PdfConverters& converters) {
   if (!std::exchange(kept->drawn, true)) Draw(ticket, converters, kept);
-  if (kept->postscript == nullptr) return 0;
+  if (kept->postscript == nullptr) return true;
   if (kept->own_paper)
     std::fprintf(
         output.stream(),
         "%%!PS-Adobe-3.0\nuserdict /ZRVcover save put\n<< /PageSize [%d %d] >> setpagedevice\n",
         kept->width, kept->height);
-  const int error = kept->postscript->CopyTo(output);
+  const bool copied = kept->postscript->CopyTo(output);
+  const int error = errno;
   if (kept->own_paper)
     std::fputs("clear cleardictstack userdict /ZRVcover get restore\n", output.stream());
-  return error;
+  errno = error;
+  return copied;
 }
 
 }  // namespace zarvo

@@ -34,9 +34,9 @@ struct FaxCoverDocument {
 /// Writes the cover sheet that the ticket asks for as a PostScript document of its own; draws it
 /// at the first call for `kept` and writes the same bytes from then on. Writes nothing when none is
 /// asked for; when drawing or conversion fails, writes nothing of the cover and, the first time,
-/// one log line, so that the job goes out whole. Returns 0, or an error number when a cover that
+/// one log line, so that the job goes out whole. False, with errno set, when a cover that
 /// had been drawn could not be read back whole.
-int WriteFaxCover(JobOutput& output, const Dictionary& ticket, FaxCoverDocument* kept,
-                  const PdfConverters& converters = PdfConverters());
+bool WriteFaxCover(JobOutput& output, const Dictionary& ticket, FaxCoverDocument* kept,
+                   const PdfConverters& converters = PdfConverters());
 
 }  // namespace zarvo

@@ -82,26 +82,26 @@ std::vector<Command> ChooseCommands(const PdfConverters& converters) {
   return {};
 }
 
-std::string FailureText(const std::string& program, const std::string& cause) {
+Failure FailureText(const std::string& program, const std::string& cause) {
   return program + " " + cause +
          "; see the log lines before this one, or install its package again";
 }
 
-/// The failure of the converter that failed first, or an empty text.
-std::string CheckStatuses(const std::vector<Command>& commands, std::vector<Process>& running) {
-  std::string text;
+/// The failure of the converter that failed first.
+Failure CheckStatuses(const std::vector<Command>& commands, std::vector<Process>& running) {
+  Failure failure;
   for (std::size_t i = 0; i < running.size(); ++i) {
     const int status = running[i].Wait();
     if (status == 0) continue;
     // A converter that lost its reader is a victim of that one.
     const bool lost_reader = WIFSIGNALED(status) && WTERMSIG(status) == SIGPIPE;
-    text = FailureText(commands[i][0],
-                       WIFSIGNALED(status)
-                           ? "was ended by signal " + std::to_string(WTERMSIG(status))
-                           : "ended with status " + std::to_string(WEXITSTATUS(status)));
+    failure = FailureText(commands[i][0],
+                          WIFSIGNALED(status)
+                              ? "was ended by signal " + std::to_string(WTERMSIG(status))
+                              : "ended with status " + std::to_string(WEXITSTATUS(status)));
     if (!lost_reader) break;
   }
-  return text;
+  return failure;
 }
 
 }  // namespace
@@ -111,7 +111,7 @@ std::string PdfConverters::DefaultFilterFolder() {
   return folder != nullptr && *folder != '\0' ? folder : ZARVO_CUPS_FILTER_DIR;
 }
 
-std::string ConvertPdfToPostScript(int pdf, const PdfConverters& converters, FILE* document) {
+Failure ConvertPdfToPostScript(int pdf, const PdfConverters& converters, FILE* document) {
   const std::vector<Command> commands = ChooseCommands(converters);
   if (commands.empty())
     return "there is no PDF converter in " + converters.filter_folder +
@@ -142,7 +142,7 @@ std::string ConvertPdfToPostScript(int pdf, const PdfConverters& converters, FIL
     case CopyEnd::kTooLong:
       return FailureText(commands[0][0], "wrote without end");
     case CopyEnd::kNoDocument: {
-      const std::string failure = CheckStatuses(commands, running);
+      const Failure failure = CheckStatuses(commands, running);
       return failure.empty() ? FailureText(commands[0][0], "wrote no PostScript document")
                              : failure;
     }

@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <string>
 
+#include "Platform/Failure.h"
 #include "Platform/Process.h"
 
 namespace zarvo {
@@ -28,8 +29,8 @@ struct PdfConverters {
 
 /// Converts the open PDF file `pdf` (anywhere positioned, at any offset) and writes the PostScript
 /// document, from its first line that contains "%!PS-Adobe-3.0" to the first one that contains
-/// "%%EOF", to `document`. Returns an empty text, or cause and remedy for people; `document` may
-/// then hold a part of it.
-std::string ConvertPdfToPostScript(int pdf, const PdfConverters& converters, FILE* document);
+/// "%%EOF", to `document`. When it fails `document` may hold a
+/// part of it.
+Failure ConvertPdfToPostScript(int pdf, const PdfConverters& converters, FILE* document);
 
 }  // namespace zarvo

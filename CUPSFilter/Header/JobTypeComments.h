@@ -32,6 +32,8 @@ void WriteJobTypeSampleSet(FILE* output, const Dictionary& job_type);
 /// becomes zero.
 void p_encrypt(char* pin);
 
+// The dialog's interface: nothing of the filter or its tools calls what follows.
+
 /// Writes into `dateTimeString` (room for 32 bytes) the date of the next time the clock shows
 /// `hour`:`minute` (12-hour clock), followed by hour and minute as given and "00". The calendar is
 /// the print dialog's: 28 February is always followed by 1 March.

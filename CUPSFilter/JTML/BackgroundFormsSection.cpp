@@ -13,7 +13,7 @@ namespace {
 
 /// The offsets. Unlike the shifts of a job they are inches when the ticket doesn't say, and their
 /// unit is a tenth as large.
-void FillBGFormsOffset(_BGFORMSDATA* forms, const Dictionary& options) {
+void FillBGFormsOffset(FormsData* forms, const Dictionary& options) {
   forms->nXSide1ImgShift = NumberOr(options, key::shift::kX1, 0);
   forms->nYSide1ImgShift = NumberOr(options, key::shift::kY1, 0);
   if (HasFullPrecision(options)) return;
@@ -24,7 +24,7 @@ void FillBGFormsOffset(_BGFORMSDATA* forms, const Dictionary& options) {
 
 /// Fills the record from the forms dictionary and the whole ticket. The record's texts live in
 /// `texts`.
-void FillBGFormsData(_BGFORMSDATA* forms, EscapedTexts* texts, const Dictionary& options,
+void FillBGFormsData(FormsData* forms, EscapedTexts* texts, const Dictionary& options,
                      const Dictionary& ticket) {
   forms->strNewFormName = NumberOr(options, key::forms::kUseDocumentName, 0) == 1
                               ? texts->Take(ticket, key::kDocumentName)
@@ -49,7 +49,7 @@ void WriteJTMLBackgroundForms(const Dictionary& ticket) {
   }
 
   EscapedTexts texts;
-  _BGFORMSDATA forms;
+  FormsData forms;
   FillBGFormsData(&forms, &texts, *options, ticket);
   WriteJtmlBackgroundForms(&writeData, &forms);
 }

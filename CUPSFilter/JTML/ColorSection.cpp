@@ -12,52 +12,51 @@ namespace {
 
 struct NumberKey {
   const char* key;
-  std::int32_t _PAGEDATA::*field;
+  std::int32_t PageData::*field;
 };
 constexpr NumberKey kNumbers[] = {
-    {key::full_color::kLightness, &_PAGEDATA::fcLightness},
-    {key::full_color::kContrast, &_PAGEDATA::fcContrast},
-    {key::full_color::kSaturation, &_PAGEDATA::fcSaturation},
-    {key::full_color::kCyanRed, &_PAGEDATA::fcCyanRed},
-    {key::full_color::kMagentaGreen, &_PAGEDATA::fcMagentaGreen},
-    {key::full_color::kYellowBlue, &_PAGEDATA::fcYellowBlue},
-    {key::full_color::kTrapping, &_PAGEDATA::fcTrapping},
-    {key::full_color::kTrappingFastDirection, &_PAGEDATA::fcTrappingFastDirection},
-    {key::full_color::kTrappingSlowDirection, &_PAGEDATA::fcTrappingSlowDirection},
-    {key::full_color::kBlackOverprint, &_PAGEDATA::fcBlackOverprint},
-    {key::full_color::kImageRendering, &_PAGEDATA::fcImageRendering},
-    {key::full_color::kTextRendering, &_PAGEDATA::fcTextRendering},
-    {key::full_color::kGraphicsRendering, &_PAGEDATA::fcGraphicsRendering},
-    {key::full_color::kAntiAliasing, &_PAGEDATA::fcAntiAliasing},
-    {key::full_color::kHalftone, &_PAGEDATA::fcHalftone},
-    {key::full_color::kOutputColor, &_PAGEDATA::fcOutputColor},
+    {key::full_color::kLightness, &PageData::fcLightness},
+    {key::full_color::kContrast, &PageData::fcContrast},
+    {key::full_color::kSaturation, &PageData::fcSaturation},
+    {key::full_color::kCyanRed, &PageData::fcCyanRed},
+    {key::full_color::kMagentaGreen, &PageData::fcMagentaGreen},
+    {key::full_color::kYellowBlue, &PageData::fcYellowBlue},
+    {key::full_color::kTrapping, &PageData::fcTrapping},
+    {key::full_color::kTrappingFastDirection, &PageData::fcTrappingFastDirection},
+    {key::full_color::kTrappingSlowDirection, &PageData::fcTrappingSlowDirection},
+    {key::full_color::kBlackOverprint, &PageData::fcBlackOverprint},
+    {key::full_color::kImageRendering, &PageData::fcImageRendering},
+    {key::full_color::kTextRendering, &PageData::fcTextRendering},
+    {key::full_color::kGraphicsRendering, &PageData::fcGraphicsRendering},
+    {key::full_color::kAntiAliasing, &PageData::fcAntiAliasing},
+    {key::full_color::kHalftone, &PageData::fcHalftone},
+    {key::full_color::kOutputColor, &PageData::fcOutputColor},
 };
 
 struct TextKey {
   const char* key;
-  const char* _PAGEDATA::*field;
+  const char* PageData::*field;
 };
 constexpr TextKey kTexts[] = {
-    {key::full_color::kTRC, &_PAGEDATA::fcTRC},
-    {key::full_color::kGrayImages, &_PAGEDATA::fcGrayImagesString},
-    {key::full_color::kGrayTextGraphics, &_PAGEDATA::fcGrayTextGraphicsString},
+    {key::full_color::kTRC, &PageData::fcTRC},
+    {key::full_color::kGrayImages, &PageData::fcGrayImagesString},
+    {key::full_color::kGrayTextGraphics, &PageData::fcGrayTextGraphicsString},
 };
 
 /// A profile: a number is the printer's code for it, a string its name.
 struct ProfileKey {
   const char* key;
-  std::int32_t _PAGEDATA::*number;
-  const char* _PAGEDATA::*name;
+  std::int32_t PageData::*number;
+  const char* PageData::*name;
 };
 constexpr ProfileKey kProfiles[] = {
-    {key::full_color::kRGBImages, &_PAGEDATA::fcRGBImagesNumber, &_PAGEDATA::fcRGBImagesString},
-    {key::full_color::kRGBTextGraphics, &_PAGEDATA::fcRGBTextGraphicsNumber,
-     &_PAGEDATA::fcRGBTextGraphicsString},
-    {key::full_color::kCMYKImages, &_PAGEDATA::fcCMYKImagesNumber, &_PAGEDATA::fcCMYKImagesString},
-    {key::full_color::kCMYKTextGraphics, &_PAGEDATA::fcCMYKTextGraphicsNumber,
-     &_PAGEDATA::fcCMYKTextGraphicsString},
-    {key::full_color::kDestination, &_PAGEDATA::fcDestinationNumber,
-     &_PAGEDATA::fcDestinationString},
+    {key::full_color::kRGBImages, &PageData::fcRGBImagesNumber, &PageData::fcRGBImagesString},
+    {key::full_color::kRGBTextGraphics, &PageData::fcRGBTextGraphicsNumber,
+     &PageData::fcRGBTextGraphicsString},
+    {key::full_color::kCMYKImages, &PageData::fcCMYKImagesNumber, &PageData::fcCMYKImagesString},
+    {key::full_color::kCMYKTextGraphics, &PageData::fcCMYKTextGraphicsNumber,
+     &PageData::fcCMYKTextGraphicsString},
+    {key::full_color::kDestination, &PageData::fcDestinationNumber, &PageData::fcDestinationString},
 };
 
 /// The choice under `key` counted from 0, or -1 when it is not one of `count`.
@@ -66,7 +65,7 @@ int Choice(const Dictionary& options, std::string_view key, int count) {
   return number >= 1 && number <= count ? number - 1 : -1;
 }
 
-void FillHighlightColor(_PAGEDATA* page, const Dictionary& options) {
+void FillHighlightColor(PageData* page, const Dictionary& options) {
   page->hlcPrintingColor = Choice(options, key::highlight::kPrintingColor, 5);
   page->hlcMappingColor = Choice(options, key::highlight::kMappingColor, 13);
   page->hlcMappingAlgorithm = Choice(options, key::highlight::kMappingAlgorithm, 5);
@@ -85,7 +84,7 @@ void FillHighlightColor(_PAGEDATA* page, const Dictionary& options) {
 
 }  // namespace
 
-void FillFullColor(_PAGEDATA* page, EscapedTexts* texts, const Dictionary& options) {
+void FillFullColor(PageData* page, EscapedTexts* texts, const Dictionary& options) {
   for (const NumberKey& row : kNumbers) page->*row.field = NumberOr(options, row.key, kNotSet);
   for (const TextKey& row : kTexts) page->*row.field = texts->Take(options, row.key);
   for (const ProfileKey& row : kProfiles) {
@@ -96,14 +95,14 @@ void FillFullColor(_PAGEDATA* page, EscapedTexts* texts, const Dictionary& optio
 }
 
 void WriteJTMLHighlightColor(const Dictionary& options) {
-  _PAGEDATA page;
+  PageData page;
   FillHighlightColor(&page, options);
   WriteJtmlHLC(&writeData, &page);
 }
 
 void WriteJTMLFullColor(const Dictionary& options) {
   EscapedTexts texts;
-  _PAGEDATA page;
+  PageData page;
   FillFullColor(&page, &texts, options);
   WriteJtmlFullColor(&writeData, &page);
 }

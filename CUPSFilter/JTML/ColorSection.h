@@ -10,7 +10,7 @@ namespace zarvo {
 
 /// Fills the full-colour fields (`fc`) of a record that has none of them set. The record's texts
 /// live in `texts`.
-void FillFullColor(_PAGEDATA* page, EscapedTexts* texts, const Dictionary& options);
+void FillFullColor(PageData* page, EscapedTexts* texts, const Dictionary& options);
 
 void WriteJTMLHighlightColor(const Dictionary& options);
 void WriteJTMLFullColor(const Dictionary& options);

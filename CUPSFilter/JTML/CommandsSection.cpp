@@ -101,7 +101,7 @@ void WriteJTMLOutputColor(const Dictionary& ticket) {
 }
 
 void WriteJTMLResolution(const Dictionary& ticket) {
-  constexpr _RESOLUTIONDATA kResolutions[] = {
+  constexpr ResolutionData kResolutions[] = {
       {0, 0, 3}, {300, 300, 3}, {600, 600, 3}, {1200, 600, 3}, {1200, 1200, 3}};
   if (const auto choice = NumberIfPresent(ticket, key::kResolution)) {
     WriteJtmlResolution(&writeData, &kResolutions[*choice >= 1 && *choice <= 4 ? *choice : 0]);

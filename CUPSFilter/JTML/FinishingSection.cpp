@@ -65,7 +65,7 @@ Choices ReadChoices(const Dictionary& ticket) {
   return choices;
 }
 
-void FillCodes(_FINISHERDATA* data, const Choices& choices) {
+void FillCodes(FinisherData* data, const Choices& choices) {
   const auto staple = [&] { data->nStapleOptions = MapCode(kStaples, choices.stapleValue, -1); };
   const auto punch = [&] {
     data->nHolePunchOptions = MapCode(kPunches, choices.holePunchValue, -1);
@@ -160,7 +160,7 @@ void WriteJTMLFinishing(const Dictionary& ticket) {
   WriteSlipSheets(ticket);
 
   EscapedTexts texts;
-  _FINISHERDATA data;
+  FinisherData data;
   FillCodes(&data, choices);
   if (choices.finishingOptions == kPresetTemplate) {
     data.szFinishingStr = texts.Take(ticket, key::kFinishingCustom);

@@ -15,7 +15,7 @@
 
 namespace zarvo {
 
-const _WRITEDATA writeData = {nullptr, &DevWriteJtml};
+const JtmlSink writeData = {nullptr, &DevWriteJtml};
 
 namespace {
 

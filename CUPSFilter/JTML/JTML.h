@@ -28,7 +28,7 @@
 namespace zarvo {
 
 /// The sink of all sections: DevWriteJtml.
-extern const _WRITEDATA writeData;
+extern const JtmlSink writeData;
 
 /// Writes the sections that the ticket's "JTMLOptions" ask for to `ofp`, ahead of the job; nothing
 /// when that dictionary is missing. A missing or wrongly typed key leaves its section out or takes

@@ -50,7 +50,7 @@ const char* FillSavedJobLocation(EscapedTexts* texts, const Dictionary& job_type
 
 /// Fills the record from the job-type dictionary, which may be null, and the whole ticket. The
 /// record's texts live in `texts`.
-void FillJobTypeData(_JOBDATA* job, EscapedTexts* texts, const Dictionary* job_type,
+void FillJobTypeData(JobData* job, EscapedTexts* texts, const Dictionary* job_type,
                      const Dictionary& ticket) {
   const Dictionary none;
   const Dictionary& options = job_type != nullptr ? *job_type : none;
@@ -79,7 +79,7 @@ void WriteJTMLJobNameAndUser(const Dictionary& ticket) {
 
 void WriteJTMLJobNotes(const Dictionary& ticket) {
   EscapedTexts texts;
-  _JOBNOTEDATA notes;
+  JobNoteData notes;
   notes.strJobMsg = texts.Take(ticket, key::kJobNotesMessage);
   notes.strJobRecipient = texts.Take(ticket, key::kJobNotesRecipient);
   notes.strJobSheetMsg = texts.Take(ticket, key::kJobNotesSheetMessage);
@@ -89,7 +89,7 @@ void WriteJTMLJobNotes(const Dictionary& ticket) {
 
 void WriteJTMLJobType(const Dictionary& ticket) {
   EscapedTexts texts;
-  _JOBDATA job;
+  JobData job;
   FillJobTypeData(&job, &texts, DictionaryGetDictionary(ticket, key::kJobType), ticket);
   WriteJtmlJobTypes(&writeData, &job);
 }

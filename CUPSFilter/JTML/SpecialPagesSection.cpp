@@ -22,7 +22,7 @@ constexpr CodePair kSides[] = {
     {kOneSided, kJtmlOneSided}, {kLongEdge, kJtmlLongEdge}, {kShortEdge, kJtmlShortEdge}};
 
 /// The medium of a special page; without a stock it is the page's size that is known.
-_MEDIADATA MediaOf(const Dictionary& special, EscapedTexts* texts) {
+MediaData MediaOf(const Dictionary& special, EscapedTexts* texts) {
   const Dictionary* stock = DictionaryGetDictionary(special, key::special_page::kStock);
   return MediaFromStock(stock != nullptr ? *stock : Dictionary(), texts);
 }
@@ -33,18 +33,18 @@ void WriteCover(const Dictionary& ticket, std::string_view key, int which) {
   const int type =
       MapCode(kCoverTypes, NumberOr(*cover, key::special_page::kSidesImaged, 0), kJtmlCoverBlank);
   EscapedTexts texts;
-  const _MEDIADATA media = MediaOf(*cover, &texts);
+  const MediaData media = MediaOf(*cover, &texts);
   WriteJtmlCovers(&writeData, which, type, &media);
 }
 
 void WriteInsert(const Dictionary& insert) {
   EscapedTexts texts;
-  const _MEDIADATA media = MediaOf(insert, &texts);
+  const MediaData media = MediaOf(insert, &texts);
   WriteJtmlInserts(&writeData, NumberOr(insert, key::special_page::kStartPage, 0),
                    NumberOr(insert, key::special_page::kQuantity, 1), &media);
 }
 
-void FillShift(_PAGEDATA* page, const Dictionary& exception) {
+void FillShift(PageData* page, const Dictionary& exception) {
   const Dictionary* options = DictionaryGetDictionary(exception, key::special_page::kImageShift);
   if (options == nullptr) return;
   const ImageShift shift = FillImageShift(*options);
@@ -57,7 +57,7 @@ void FillShift(_PAGEDATA* page, const Dictionary& exception) {
 
 void WriteException(const Dictionary& exception) {
   EscapedTexts texts;
-  _PAGEDATA page;
+  PageData page;
   page.nInDocLB = page.nInDocUB = 1;
   page.nPagesLB = NumberOr(exception, key::special_page::kStartPage, 1);
   page.nPagesUB = NumberOr(exception, key::special_page::kEndPage, page.nPagesLB);
@@ -73,7 +73,7 @@ void WriteException(const Dictionary& exception) {
   CFDictionaryGetNumber(exception, key::special_page::kAntialiasing, &page.fcAntiAliasing);
   CFDictionaryGetNumber(exception, key::special_page::kHalftoneScreen, &page.fcHalftone);
   CFDictionaryGetNumber(exception, key::special_page::kOutputColor, &page.fcOutputColor);
-  const _MEDIADATA media = MediaOf(exception, &texts);
+  const MediaData media = MediaOf(exception, &texts);
   WriteJtmlPageExceptions(&writeData, &page, &media);
 }
 

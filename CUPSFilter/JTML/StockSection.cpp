@@ -36,8 +36,8 @@ int InRange(const Dictionary& stock, std::string_view key, std::int32_t low, std
 
 }  // namespace
 
-_MEDIADATA MediaFromStock(const Dictionary& stock, EscapedTexts* texts) {
-  _MEDIADATA media;
+MediaData MediaFromStock(const Dictionary& stock, EscapedTexts* texts) {
+  MediaData media;
   media.strMediaName = texts->Take(stock, key::stock::kName);
   const std::int32_t type = NumberOr(stock, key::stock::kType, 0);
   media.nMediaType = IsCustom(type) ? kJtmlNamedType : MapCode(kTypes, type, -1);
@@ -64,7 +64,7 @@ void WriteJTMLJobLevelStock(const Dictionary& ticket) {
   const Dictionary* stock = DictionaryGetDictionary(ticket, key::kJobLevelStock);
   if (stock == nullptr) return;
   EscapedTexts texts;
-  const _MEDIADATA media = MediaFromStock(*stock, &texts);
+  const MediaData media = MediaFromStock(*stock, &texts);
   WriteJtmlMedia(&writeData, &media);
 }
 

@@ -11,7 +11,7 @@ namespace zarvo {
 /// The medium that a stock dictionary describes. A number out of its range and a value of a wrong
 /// type leave their field unset; a stock without a size has that of the page. The record's texts
 /// live in `texts`.
-_MEDIADATA MediaFromStock(const Dictionary& stock, EscapedTexts* texts);
+MediaData MediaFromStock(const Dictionary& stock, EscapedTexts* texts);
 
 void WriteJTMLJobLevelStock(const Dictionary& ticket);
 

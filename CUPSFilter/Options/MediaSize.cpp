@@ -32,7 +32,7 @@ XSIZE SizeOfPage() {
 
 }  // namespace
 
-void FillMediaSize(_MEDIADATA* media, const Dictionary& stockTicket) {
+void FillMediaSize(MediaData* media, const Dictionary& stockTicket) {
   std::int32_t size = kNotSet;
   CFDictionaryGetNumber(stockTicket, key::stock::kSize, &size);
   std::int32_t width = 0;

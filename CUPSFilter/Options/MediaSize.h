@@ -9,6 +9,6 @@ namespace zarvo {
 /// Fills the record's MediaSize (hundredths of a millimetre) from a stock dictionary: the stock
 /// size of its "Size", else its "Width" and "Length", else the stock size that has the job's page
 /// size. It stays 0 x 0 when nothing fits. No other field is touched.
-void FillMediaSize(_MEDIADATA* media, const Dictionary& stockTicket);
+void FillMediaSize(MediaData* media, const Dictionary& stockTicket);
 
 }  // namespace zarvo

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "CUPSFilter/Options/ParseOptions.h"
+#include "Platform/Failure.h"
 
 namespace zarvo {
 namespace {
@@ -16,7 +17,7 @@ using CustomValues = std::vector<std::optional<std::string>>;
 
 bool IsBlank(char c) { return std::isspace(static_cast<unsigned char>(c)) != 0; }
 
-/// Reads the items of one attribute. What goes wrong is a constant text, null while all is well.
+/// Reads the items of one attribute. It stops at the first failure.
 class ItemReader {
  public:
   ItemReader(std::string_view text, const CustomValues& custom) : rest_(text), custom_(custom) {}
@@ -24,13 +25,13 @@ class ItemReader {
   /// Reads the next name and value. Returns false at the end or when there is an error.
   bool Next(std::string* name, std::string* value) {
     while (!rest_.empty() && IsBlank(rest_.front())) rest_.remove_prefix(1);
-    if (rest_.empty() && !any_) error_ = "it is empty";
+    if (rest_.empty() && !any_) failure_ = "it is empty";
     if (rest_.empty()) return false;
     any_ = true;
     return ReadName(name) && ReadValue(value);
   }
 
-  const char* error() const { return error_; }
+  const Failure& failure() const { return failure_; }
 
  private:
   bool ReadName(std::string* name) {
@@ -79,8 +80,8 @@ class ItemReader {
     return c;
   }
 
-  bool Fail(const char* error) {
-    error_ = error;
+  bool Fail(const char* failure) {
+    failure_ = failure;
     return false;
   }
 
@@ -88,28 +89,28 @@ class ItemReader {
   const CustomValues& custom_;
   std::size_t used_ = 0;  // parameters that have been filled in
   bool any_ = false;
-  const char* error_ = nullptr;
+  Failure failure_;
 };
 
-/// Adds the options of one attribute, all or none. Returns what is wrong with it, or null.
-const char* AddAttribute(const Ppd& ppd, const PpdAttribute& attribute, const OptionNames& names,
-                         PpdChoices* choices) {
+/// Adds the options of one attribute, all or none.
+Failure AddAttribute(const Ppd& ppd, const PpdAttribute& attribute, const OptionNames& names,
+                     PpdChoices* choices) {
   const std::size_t dot = attribute.selector.find('.');
   if (dot == attribute.selector.npos) return "its name is not of the form Option.Choice";
   const std::string option(attribute.selector.substr(0, dot));
   const std::string choice(attribute.selector.substr(dot + 1));
   if (!ppd.HasChoice(option.c_str(), choice.c_str())) return "the PPD has no such choice";
-  if (!ppd.IsMarked(option.c_str(), choice.c_str())) return nullptr;
+  if (!ppd.IsMarked(option.c_str(), choice.c_str())) return "";
 
   const CustomValues custom = ppd.CustomValues(option.c_str());
   ItemReader reader(attribute.value, custom);
   std::vector<std::pair<std::string, std::string>> items;
   std::string name, value;
   while (reader.Next(&name, &value)) items.emplace_back(name, value);
-  if (reader.error() != nullptr) return reader.error();
+  if (!reader.failure().empty()) return reader.failure();
   OptionList& options = names.contains(option) ? choices->named : choices->others;
   for (const auto& item : items) options.Add(item.first.c_str(), item.second.c_str());
-  return nullptr;
+  return "";
 }
 
 }  // namespace
@@ -118,9 +119,9 @@ PpdChoices PpdTicketOptions(const Ppd& ppd, const OptionNames& names,
                             std::vector<std::string>* faults) {
   PpdChoices choices;
   for (const PpdAttribute& attribute : ppd.Attributes("ZRVTicket")) {
-    if (const char* error = AddAttribute(ppd, attribute, names, &choices))
+    if (const Failure failure = AddAttribute(ppd, attribute, names, &choices); !failure.empty())
       faults->push_back("PPD attribute *ZRVTicket " + std::string(attribute.selector) +
-                        " is not used: " + error + "; correct the PPD or the job's option");
+                        " is not used: " + failure + "; correct the PPD or the job's option");
   }
   return choices;
 }

@@ -138,24 +138,17 @@ IppMessage ReadAnswer(http_t* http) {
   return state == IPP_STATE_DATA ? std::move(answer) : nullptr;
 }
 
-IppMessage Exchange(http_t* http, int job, const char* user, std::string* why) {
+Failure Exchange(http_t* http, int job, const char* user, IppMessage* attributes) {
   cupsSetPasswordCB2(&NoPassword, nullptr);
   const IppMessage request(NewRequest(job, user));
   const http_status_t sent = cupsSendRequest(http, request.get(), "/", ippLength(request.get()));
-  if (sent != HTTP_STATUS_CONTINUE && sent != HTTP_STATUS_OK) {
-    *why = "it does not take the request";
-    return nullptr;
-  }
+  if (sent != HTTP_STATUS_CONTINUE && sent != HTTP_STATUS_OK) return "it does not take the request";
   IppMessage answer = ReadAnswer(http);
-  if (!answer) {
-    *why = "no whole answer in " + std::to_string(kRequestMilliseconds) + " ms";
-    return nullptr;
-  }
-  if (ippGetStatusCode(answer.get()) > IPP_STATUS_OK_CONFLICTING) {
-    *why = std::string("it answers ") + ippErrorString(ippGetStatusCode(answer.get()));
-    return nullptr;
-  }
-  return answer;
+  if (!answer) return "no whole answer in " + std::to_string(kRequestMilliseconds) + " ms";
+  if (ippGetStatusCode(answer.get()) > IPP_STATUS_OK_CONFLICTING)
+    return std::string("it answers ") + ippErrorString(ippGetStatusCode(answer.get()));
+  *attributes = std::move(answer);
+  return "";
 }
 
 }  // namespace
@@ -164,34 +157,24 @@ bool UnderScheduler() {
   return std::getenv("CUPS_SERVER") != nullptr && std::getenv("CUPS_REQUESTROOT") != nullptr;
 }
 
-IppMessage RequestJobAttributes(const char* job_id, const char* user, std::string* why) {
+Failure RequestJobAttributes(const char* job_id, const char* user, IppMessage* attributes) {
   const auto end = SteadyClock::now() + std::chrono::milliseconds(kRequestMilliseconds);
   const char* named = std::getenv("CUPS_SERVER");
   const std::string server = named != nullptr ? named : "";
   const int port = PortOfScheduler();
   const int job = JobNumber(job_id);
-  if (job < 1) {
-    *why = "the job has no number";
-    return nullptr;
-  }
-  if (!IsLocal(server) || (port == 0 && !server.starts_with("/"))) {
-    *why = "CUPS_SERVER and IPP_PORT name no scheduler of this machine";
-    return nullptr;
-  }
+  if (job < 1) return "the job has no number";
+  if (!IsLocal(server) || (port == 0 && !server.starts_with("/")))
+    return "CUPS_SERVER and IPP_PORT name no scheduler of this machine";
   const Connection http(httpConnect2(server.c_str(), port, nullptr, AF_UNSPEC,
                                      HTTP_ENCRYPTION_IF_REQUESTED, 1, kRequestMilliseconds,
                                      nullptr));
-  if (http == nullptr || httpAddrLocalhost(httpGetAddress(http.get())) == 0) {
-    *why = "it cannot be reached";
-    return nullptr;
-  }
+  if (http == nullptr || httpAddrLocalhost(httpGetAddress(http.get())) == 0)
+    return "it cannot be reached";
   const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(end - SteadyClock::now());
   const Deadline deadline(httpGetFd(http.get()), std::max(left, std::chrono::milliseconds(1)));
-  if (!deadline.running()) {
-    *why = "there is no timer";
-    return nullptr;
-  }
-  return Exchange(http.get(), job, user, why);
+  if (!deadline.running()) return "there is no timer";
+  return Exchange(http.get(), job, user, attributes);
 }
 
 }  // namespace zarvo

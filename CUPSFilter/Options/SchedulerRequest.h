@@ -6,7 +6,8 @@
 #include <cups/ipp.h>
 
 #include <memory>
-#include <string>
+
+#include "Platform/Failure.h"
 
 namespace zarvo {
 
@@ -20,9 +21,8 @@ bool UnderScheduler();
 
 /// Asks the scheduler that started this process for all attributes of a job, over its local socket
 /// or its loopback port, for `user`, whose job it is. One try of at most kRequestMilliseconds in
-/// all, however slowly the answer drips in. Null when there is no answer, with the reason in
-/// `*why`.
+/// all, however slowly the answer drips in.
 constexpr int kRequestMilliseconds = 300;
-IppMessage RequestJobAttributes(const char* job_id, const char* user, std::string* why);
+Failure RequestJobAttributes(const char* job_id, const char* user, IppMessage* attributes);
 
 }  // namespace zarvo

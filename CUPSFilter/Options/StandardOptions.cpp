@@ -58,8 +58,8 @@ void KeepReversedOrder(const OptionList& options, StandardTicket* ticket) {
 StandardJob ReadStandardJob(const char* job_id, const char* user, const OptionList& options,
                             Ppd* ppd) {
   StandardJob job;
-  std::string why;
-  IppMessage message = UnderScheduler() ? RequestJobAttributes(job_id, user, &why) : nullptr;
+  IppMessage message;
+  const Failure why = UnderScheduler() ? RequestJobAttributes(job_id, user, &message) : "";
   const bool answered = message != nullptr;
   if (!message) message.reset(ippNew());
   for (ipp_attribute_t* known = ippFirstAttribute(message.get()); known != nullptr;

@@ -35,7 +35,7 @@ void WriteImageCall(FILE* output, const WatermarkChoice& watermark) {
 }
 
 void WriteDrawing(FILE* output, const WatermarkChoice& watermark) {
-  const _WatermarkData& data = watermark.watermarkData;
+  const WatermarkData& data = watermark.watermarkData;
   if (!watermark.IsText()) {
     WriteImageCall(output, watermark);
   } else if (watermark.watermark_option == kWatermarkBackground) {
@@ -104,7 +104,7 @@ void PageHooks::AfterLine(std::string_view line, bool own) {
 /// Documents bring parts of fonts under the names of whole ones, so this goes ahead of them.
 void PageHooks::WriteFont() {
   if (!settings_.watermark || !settings_.watermark->IsText()) return;
-  const _WatermarkData& data = settings_.watermark->watermarkData;
+  const WatermarkData& data = settings_.watermark->watermarkData;
   Data font;
   loadFontData(kWatermarkCollection, data.fontName, &font);
   WriteWatermarkFont(output_.stream(), font);

@@ -11,29 +11,29 @@
 namespace zarvo {
 namespace {
 
-std::string ShownText(const _WatermarkData& watermark) {
+std::string ShownText(const WatermarkData& watermark) {
   return PostScriptText(watermark.textString);
 }
 
-void WriteColor(FILE* output, const _WatermarkData& watermark) {
+void WriteColor(FILE* output, const WatermarkData& watermark) {
   std::fprintf(output, "%.2f %.2f %.2f setrgbcolor\n", watermark.fontColorRed,
                watermark.fontColorGreen, watermark.fontColorBlue);
 }
 
-void WritePosition(FILE* output, const _WatermarkData& watermark) {
+void WritePosition(FILE* output, const WatermarkData& watermark) {
   std::fprintf(output, "%.2f %.2f moveto\n", watermark.xPos, watermark.yPos);
 }
 
-void WriteFont(FILE* output, const _WatermarkData& watermark) {
+void WriteFont(FILE* output, const WatermarkData& watermark) {
   std::fprintf(output, "%s %d selectfont\n", PostScriptName(watermark.fontName).c_str(),
                watermark.fontSize);
 }
 
-void WriteAngle(FILE* output, const _WatermarkData& watermark) {
+void WriteAngle(FILE* output, const WatermarkData& watermark) {
   std::fprintf(output, "%d rotate\n", watermark.angle);
 }
 
-void WriteShow(FILE* output, const _WatermarkData& watermark) {
+void WriteShow(FILE* output, const WatermarkData& watermark) {
   std::fprintf(output, "(%s) show\ngrestore\n", ShownText(watermark).c_str());
 }
 
@@ -47,7 +47,7 @@ int OffsetPoints(float offset, int units) {
 
 }  // namespace
 
-void WriteBackgroundText(FILE* output, const _WatermarkData& watermark) {
+void WriteBackgroundText(FILE* output, const WatermarkData& watermark) {
   std::fputs("gsave\n", output);
   WriteColor(output, watermark);
   WritePosition(output, watermark);
@@ -56,14 +56,14 @@ void WriteBackgroundText(FILE* output, const _WatermarkData& watermark) {
   WriteShow(output, watermark);
 }
 
-void WriteForegroundText(FILE* output, const _WatermarkData& watermark, bool endp) {
+void WriteForegroundText(FILE* output, const WatermarkData& watermark, bool endp) {
   std::fputs(
       endp ? "pm restore /pm save store gsave\n" : "pgsave restore /pgsave save store gsave\n",
       output);
   WriteForegroundDrawing(output, watermark);
 }
 
-void WriteForegroundDrawing(FILE* output, const _WatermarkData& watermark) {
+void WriteForegroundDrawing(FILE* output, const WatermarkData& watermark) {
   WriteColor(output, watermark);
   WriteFont(output, watermark);
   WritePosition(output, watermark);
@@ -71,7 +71,7 @@ void WriteForegroundDrawing(FILE* output, const _WatermarkData& watermark) {
   WriteShow(output, watermark);
 }
 
-void WriteOverlayForm(FILE* output, const _WatermarkData& watermark) {
+void WriteOverlayForm(FILE* output, const WatermarkData& watermark) {
   const int half_width = WholePoints(PageWidth) / 2;
   const int half_length = WholePoints(PageLength) / 2;
   std::fputs(
@@ -99,7 +99,7 @@ void WriteOverlayForm(FILE* output, const _WatermarkData& watermark) {
       watermark.fontColorRed, watermark.fontColorGreen, watermark.fontColorBlue);
 }
 
-void WriteOverlayDefinitions(FILE* output, const _WatermarkData& watermark, bool booklet) {
+void WriteOverlayDefinitions(FILE* output, const WatermarkData& watermark, bool booklet) {
   WriteOverlayForm(output, watermark);
   std::fputs(booklet ? "/zrvshowpage /showpage load def /showpage { [ OverlayForm execform "
                        "cleartomark zrvshowpage } def\n"

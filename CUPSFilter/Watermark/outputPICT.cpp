@@ -39,10 +39,12 @@ struct Rectangle {
   std::int16_t top, left, bottom, right;
 };
 
-// Shared between the data block and the calls of the pages after it.
-Rectangle blendedRect;
-float imageableAreaWidth;
-float imageableAreaHeight;
+/// What the calls of the pages need to know of the data block that was written last.
+struct WrittenImage {
+  Rectangle blendedRect;
+  float imageableAreaWidth;
+  float imageableAreaHeight;
+} image;
 
 void doCR(FILE* stream) { std::putc('\r', stream); }
 
@@ -91,13 +93,14 @@ ImageResult WritePpmImage(FILE* pixels, FILE* ofp) {
       columns <= 0 || rows <= 0)
     return ImageResult::kNoImage;
   if (columns > kMaxColumns || rows > kMaxRows) return ImageResult::kTooLarge;
-  imageableAreaWidth = PageRight - PageLeft;
-  imageableAreaHeight = PageTop - PageBottom;
-  blendedRect = {0, 0, static_cast<std::int16_t>(rows), static_cast<std::int16_t>(columns)};
-  return sendImageData(pixels, blendedRect, ofp) ? ImageResult::kWritten : ImageResult::kIncomplete;
+  image.imageableAreaWidth = PageRight - PageLeft;
+  image.imageableAreaHeight = PageTop - PageBottom;
+  image.blendedRect = {0, 0, static_cast<std::int16_t>(rows), static_cast<std::int16_t>(columns)};
+  return sendImageData(pixels, image.blendedRect, ofp) ? ImageResult::kWritten
+                                                       : ImageResult::kIncomplete;
 }
 
-bool outputImageWatermark(const _WatermarkData* wmData, FILE* ofp) {
+bool outputImageWatermark(const WatermarkData* wmData, FILE* ofp) {
   const char* path = wmData->filePath;
   if (path[0] == '\0') {
     LogLine(
@@ -123,21 +126,22 @@ bool outputImageWatermark(const _WatermarkData* wmData, FILE* ofp) {
 }
 
 void insertWatermarkCall(int inScale, int inBlended, FILE* ofp) {
-  float width = blendedRect.right;
-  float height = blendedRect.bottom;
-  if (imageableAreaWidth > kLargestAreaInPoints || imageableAreaHeight > kLargestAreaInPoints) {
-    width = static_cast<float>(blendedRect.right / 72 * 300);
-    height = static_cast<float>(blendedRect.bottom / 72 * 300);
+  float width = image.blendedRect.right;
+  float height = image.blendedRect.bottom;
+  if (image.imageableAreaWidth > kLargestAreaInPoints ||
+      image.imageableAreaHeight > kLargestAreaInPoints) {
+    width = static_cast<float>(image.blendedRect.right / 72 * 300);
+    height = static_cast<float>(image.blendedRect.bottom / 72 * 300);
     std::fprintf(ofp, "%.2f %.2f scale\n", kFineScale, kFineScale);
   }
   const float scale = static_cast<float>(inScale) / 100;
   width *= scale;
   height *= scale;
-  const float tx = imageableAreaWidth / 2 - width / 2;
-  const float ty =
-      inBlended != 0 ? imageableAreaHeight / 2 - height / 2 : imageableAreaHeight / 2 + height / 2;
-  const int rows = blendedRect.bottom - blendedRect.top;
-  const int columns = blendedRect.right - blendedRect.left;
+  const float tx = image.imageableAreaWidth / 2 - width / 2;
+  const float ty = inBlended != 0 ? image.imageableAreaHeight / 2 - height / 2
+                                  : image.imageableAreaHeight / 2 + height / 2;
+  const int rows = image.blendedRect.bottom - image.blendedRect.top;
+  const int columns = image.blendedRect.right - image.blendedRect.left;
   std::fprintf(ofp,
                "/line 0 def /picdata { line %d lt { picstr line get line 1 add /line exch def } "
                "{ () } ifelse } bind def\n",

@@ -26,7 +26,7 @@ inline constexpr char kImageLeftOut[] =
 /// An image that cannot be decoded, or is wider than 21845 or taller than 32767 pixels, writes
 /// nothing but a line to the log, and gives false. A record without text and image is told by who
 /// loads it. Sets the size that insertWatermarkCall uses.
-bool outputImageWatermark(const _WatermarkData* wmData, FILE* ofp);
+bool outputImageWatermark(const WatermarkData* wmData, FILE* ofp);
 
 enum class ImageResult {
   kWritten,

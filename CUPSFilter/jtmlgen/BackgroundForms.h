@@ -8,6 +8,6 @@ namespace zarvo {
 
 /// Form names are cut to 255 bytes, the longest name that the form repository takes, without
 /// leaving half a character or half an entity.
-JtmlGenError WriteJtmlBackgroundForms(LPWRITEDATA lpWriteData, LPBGFORMSDATA lpBGFormsData);
+JtmlGenError WriteJtmlBackgroundForms(const JtmlSink* sink, const FormsData* forms);
 
 }  // namespace zarvo

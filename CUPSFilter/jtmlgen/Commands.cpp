@@ -111,8 +111,8 @@ std::string CommandText(int command, int value) {
 
 }  // namespace
 
-JtmlGenError WriteJtmlCommands(LPWRITEDATA lpWriteData, int enumCommand, int value) {
-  Send(lpWriteData, CommandText(enumCommand, value));  // also when there is nothing to write
+JtmlGenError WriteJtmlCommands(const JtmlSink* sink, int enumCommand, int value) {
+  Send(sink, CommandText(enumCommand, value));  // also when there is nothing to write
   return JTML_SUCCESS;
 }
 

@@ -41,6 +41,6 @@ enum JtmlCommand : int {
   kJtmlColorEffects = 30,
 };
 /// One element chosen by a JtmlCommand. `value` is a number or the code of a keyword.
-JtmlGenError WriteJtmlCommands(LPWRITEDATA lpWriteData, int enumCommand, int value);
+JtmlGenError WriteJtmlCommands(const JtmlSink* sink, int enumCommand, int value);
 
 }  // namespace zarvo

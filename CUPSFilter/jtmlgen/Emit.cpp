@@ -67,11 +67,11 @@ const char* FindKeyword(std::span<const Keyword> table, int code) {
   return nullptr;
 }
 
-void Send(LPWRITEDATA sink, const std::string& text) {
+void Send(const JtmlSink* sink, const std::string& text) {
   sink->lpfnDevWriteData(sink->lpdv, text.c_str(), static_cast<std::int32_t>(text.size()));
 }
 
-void SendUncounted(LPWRITEDATA sink, const std::string& text) {
+void SendUncounted(const JtmlSink* sink, const std::string& text) {
   sink->lpfnDevWriteData(nullptr, text.c_str(), 0);
 }
 

@@ -49,8 +49,8 @@ const char* FindKeyword(std::span<const Keyword> table, int code);
 inline const char* TextOrEmpty(const char* text) { return text != nullptr ? text : ""; }
 
 /// Hands a text to the sink with its context and length.
-void Send(LPWRITEDATA sink, const std::string& text);
+void Send(const JtmlSink* sink, const std::string& text);
 /// Hands a text to the sink with a null context and a length of 0.
-void SendUncounted(LPWRITEDATA sink, const std::string& text);
+void SendUncounted(const JtmlSink* sink, const std::string& text);
 
 }  // namespace zarvo

@@ -30,25 +30,25 @@ constexpr Keyword kPunchHoles[] = {
 
 }  // namespace
 
-JtmlGenError WriteJtmlFinishing(LPWRITEDATA lpWriteData, LPFINISHERDATA lpFinisherData) {
-  const _FINISHERDATA& data = *lpFinisherData;
-  if (data.szFinishingStr != nullptr) {
-    SendUncounted(lpWriteData, StartLine(2, "finishings-col", Syntax::kCollection));
-    SendUncounted(lpWriteData,
-                  Element(3, "finishing-template", Syntax::kName, data.szFinishingStr));
-    SendUncounted(lpWriteData, EndLine(2, "finishings-col"));
+JtmlGenError WriteJtmlFinishing(const JtmlSink* sink, const FinisherData* finisher) {
+  if (finisher->szFinishingStr != nullptr) {
+    SendUncounted(sink, StartLine(2, "finishings-col", Syntax::kCollection));
+    SendUncounted(sink, Element(3, "finishing-template", Syntax::kName, finisher->szFinishingStr));
+    SendUncounted(sink, EndLine(2, "finishings-col"));
     return JTML_SUCCESS;
   }
-  if (data.nStapleOptions == -1 && data.nFoldOptions == -1 && data.nHolePunchOptions == -1) {
+  if (finisher->nStapleOptions == -1 && finisher->nFoldOptions == -1 &&
+      finisher->nHolePunchOptions == -1) {
     return JTML_SUCCESS;
   }
   LogLine(
       "DEBUG: WriteJtmlFinishing: nStapleOptions = %d, nFoldOptions = %d, nHolePunchOptions = %d, "
       "nHolePunchNumHoles = %d",
-      data.nStapleOptions, data.nFoldOptions, data.nHolePunchOptions, data.nHolePunchNumHoles);
+      finisher->nStapleOptions, finisher->nFoldOptions, finisher->nHolePunchOptions,
+      finisher->nHolePunchNumHoles);
 
   std::string line = StartLine(2, "finishings", Syntax::kSetOf);
-  SendUncounted(lpWriteData, line);
+  SendUncounted(sink, line);
   const auto member = [](const char* keyword) {
     return Element(3, "value", Syntax::kEnum, keyword);
   };
@@ -56,16 +56,16 @@ JtmlGenError WriteJtmlFinishing(LPWRITEDATA lpWriteData, LPFINISHERDATA lpFinish
   const auto add = [&](std::span<const Keyword> table, int code) {
     if (code == -1) return;
     if (const char* keyword = FindKeyword(table, code)) line = member(keyword);
-    SendUncounted(lpWriteData, line);
+    SendUncounted(sink, line);
   };
-  add(kStaples, data.nStapleOptions);
-  add(kFolds, data.nFoldOptions);
-  add(kPunches, data.nHolePunchOptions);
-  if (data.nHolePunchOptions != -1) {
-    const char* holes = FindKeyword(kPunchHoles, data.nHolePunchNumHoles);
-    SendUncounted(lpWriteData, holes != nullptr ? member(holes) : "");
+  add(kStaples, finisher->nStapleOptions);
+  add(kFolds, finisher->nFoldOptions);
+  add(kPunches, finisher->nHolePunchOptions);
+  if (finisher->nHolePunchOptions != -1) {
+    const char* holes = FindKeyword(kPunchHoles, finisher->nHolePunchNumHoles);
+    SendUncounted(sink, holes != nullptr ? member(holes) : "");
   }
-  SendUncounted(lpWriteData, EndLine(2, "finishings"));
+  SendUncounted(sink, EndLine(2, "finishings"));
   return JTML_SUCCESS;
 }
 

@@ -8,6 +8,6 @@ namespace zarvo {
 
 /// The finishing template, or the set of the staple, fold and punch codes. A code that the format
 /// has no word for repeats the line written last. Logs the codes of a set.
-JtmlGenError WriteJtmlFinishing(LPWRITEDATA lpWriteData, LPFINISHERDATA lpFinisherData);
+JtmlGenError WriteJtmlFinishing(const JtmlSink* sink, const FinisherData* finisher);
 
 }  // namespace zarvo

@@ -5,44 +5,43 @@
 
 namespace zarvo {
 
-JtmlGenError WriteJtmlHeader(LPWRITEDATA lpWriteData, int dtdFileVer) {
+JtmlGenError WriteJtmlHeader(const JtmlSink* sink, int dtdFileVer) {
   std::string text = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
   if (dtdFileVer >= 0 && dtdFileVer <= 5) {
     text += "<!DOCTYPE jtml SYSTEM \"jtml-v0202" + std::to_string(dtdFileVer) + ".dtd\">\n";
   }
   text += "<jtml version=\"1.0\" xml:lang=\"en-US\" cpss-version=\"2.01\">\n";
-  Send(lpWriteData, text);
+  Send(sink, text);
   return JTML_SUCCESS;
 }
 
-JtmlGenError WriteJtmlOpAttrib(LPWRITEDATA lpWriteData, int bJobRecipient, const char* szJobName,
+JtmlGenError WriteJtmlOpAttrib(const JtmlSink* sink, int bJobRecipient, const char* szJobName,
                                const char* szUserName) {
   const char* user = TextOrEmpty(szUserName);
   if (bJobRecipient == 1) {
-    Send(lpWriteData, Element(2, "job-recipient-name", Syntax::kName, user));
+    Send(sink, Element(2, "job-recipient-name", Syntax::kName, user));
     return JTML_SUCCESS;
   }
-  Send(lpWriteData,
-       "\t<jtml-operation-attributes>\n" +
-           Element(2, "job-name", Syntax::kName, TextOrEmpty(szJobName)) +
-           Element(2, "requesting-user-name", Syntax::kName, user) +
-           Element(2, "document-format", Syntax::kMimeMediaType, "application/postscript") +
-           "\t</jtml-operation-attributes>\n");
+  Send(sink, "\t<jtml-operation-attributes>\n" +
+                 Element(2, "job-name", Syntax::kName, TextOrEmpty(szJobName)) +
+                 Element(2, "requesting-user-name", Syntax::kName, user) +
+                 Element(2, "document-format", Syntax::kMimeMediaType, "application/postscript") +
+                 "\t</jtml-operation-attributes>\n");
   return JTML_SUCCESS;
 }
 
-JtmlGenError WriteJtmlJobAttribStart(LPWRITEDATA lpWriteData) {
-  Send(lpWriteData, "\t<job-template-attributes>\n");
+JtmlGenError WriteJtmlJobAttribStart(const JtmlSink* sink) {
+  Send(sink, "\t<job-template-attributes>\n");
   return JTML_SUCCESS;
 }
 
-JtmlGenError WriteJtmlJobAttribEnd(LPWRITEDATA lpWriteData) {
-  Send(lpWriteData, "\t</job-template-attributes>\n");
+JtmlGenError WriteJtmlJobAttribEnd(const JtmlSink* sink) {
+  Send(sink, "\t</job-template-attributes>\n");
   return JTML_SUCCESS;
 }
 
-JtmlGenError WriteJtmlTrailer(LPWRITEDATA lpWriteData) {
-  Send(lpWriteData, "</jtml>");
+JtmlGenError WriteJtmlTrailer(const JtmlSink* sink) {
+  Send(sink, "</jtml>");
   return JTML_SUCCESS;
 }
 

@@ -37,12 +37,12 @@ constexpr Profile kCMYKProfiles[] = {
     {15, Syntax::kName, "Swop Plus CMYK"},
 };
 
-JtmlGenError WriteNamed(LPWRITEDATA sink, const char* element, const char* name) {
+JtmlGenError WriteNamed(const JtmlSink* sink, const char* element, const char* name) {
   if (name != nullptr) Send(sink, Element(2, element, Syntax::kName, name));
   return JTML_SUCCESS;
 }
 
-JtmlGenError WriteProfile(LPWRITEDATA sink, std::span<const Profile> table, int code,
+JtmlGenError WriteProfile(const JtmlSink* sink, std::span<const Profile> table, int code,
                           const char* element, const char* name) {
   if (code == 0) return WriteNamed(sink, element, name);
   for (const Profile& row : table) {
@@ -53,75 +53,76 @@ JtmlGenError WriteProfile(LPWRITEDATA sink, std::span<const Profile> table, int 
 
 /// A full-colour number and the command that writes it.
 struct Adjustment {
-  std::int32_t _PAGEDATA::*field;
+  std::int32_t PageData::*field;
   JtmlCommand command;
 };
 
 constexpr Adjustment kAdjustments[] = {
-    {&_PAGEDATA::fcLightness, kJtmlLightness},
-    {&_PAGEDATA::fcContrast, kJtmlContrast},
-    {&_PAGEDATA::fcSaturation, kJtmlSaturation},
-    {&_PAGEDATA::fcCyanRed, kJtmlCyanRed},
-    {&_PAGEDATA::fcMagentaGreen, kJtmlMagentaGreen},
-    {&_PAGEDATA::fcYellowBlue, kJtmlYellowBlue},
-    {&_PAGEDATA::fcTrapping, kJtmlTrapping},
-    {&_PAGEDATA::fcTrappingFastDirection, kJtmlTrapWidthFast},
-    {&_PAGEDATA::fcTrappingSlowDirection, kJtmlTrapWidthSlow},
-    {&_PAGEDATA::fcBlackOverprint, kJtmlBlackOverprint},
+    {&PageData::fcLightness, kJtmlLightness},
+    {&PageData::fcContrast, kJtmlContrast},
+    {&PageData::fcSaturation, kJtmlSaturation},
+    {&PageData::fcCyanRed, kJtmlCyanRed},
+    {&PageData::fcMagentaGreen, kJtmlMagentaGreen},
+    {&PageData::fcYellowBlue, kJtmlYellowBlue},
+    {&PageData::fcTrapping, kJtmlTrapping},
+    {&PageData::fcTrappingFastDirection, kJtmlTrapWidthFast},
+    {&PageData::fcTrappingSlowDirection, kJtmlTrapWidthSlow},
+    {&PageData::fcBlackOverprint, kJtmlBlackOverprint},
 };
 
 // Written behind the profiles. A halftone choice writes nothing here: screens are job-wide.
 constexpr Adjustment kRenderings[] = {
-    {&_PAGEDATA::fcImageRendering, kJtmlRenderingImages},
-    {&_PAGEDATA::fcTextRendering, kJtmlRenderingText},
-    {&_PAGEDATA::fcGraphicsRendering, kJtmlRenderingGraphics},
-    {&_PAGEDATA::fcAntiAliasing, kJtmlAntiAliasing},
-    {&_PAGEDATA::fcHalftone, kJtmlHalftone},
-    {&_PAGEDATA::fcOutputColor, kJtmlColorEffects},
+    {&PageData::fcImageRendering, kJtmlRenderingImages},
+    {&PageData::fcTextRendering, kJtmlRenderingText},
+    {&PageData::fcGraphicsRendering, kJtmlRenderingGraphics},
+    {&PageData::fcAntiAliasing, kJtmlAntiAliasing},
+    {&PageData::fcHalftone, kJtmlHalftone},
+    {&PageData::fcOutputColor, kJtmlColorEffects},
 };
 
-void WriteAdjustments(LPWRITEDATA sink, const _PAGEDATA& page, std::span<const Adjustment> rows) {
+void WriteAdjustments(const JtmlSink* sink, const PageData& page,
+                      std::span<const Adjustment> rows) {
   for (const Adjustment& row : rows) {
     if (page.*row.field != kNotSet) WriteJtmlCommands(sink, row.command, page.*row.field);
   }
 }
 
-using ProfileWriter = JtmlGenError (*)(LPWRITEDATA, int, const char*, const char*);
+using ProfileWriter = JtmlGenError (*)(const JtmlSink*, int, const char*, const char*);
 
 /// A profile given by code, by name or by both, and the elements that it goes into.
 struct ProfileChoice {
   ProfileWriter writer;
-  std::int32_t _PAGEDATA::*number;
-  const char* _PAGEDATA::*name;
+  std::int32_t PageData::*number;
+  const char* PageData::*name;
   const char* elements[2];  ///< the second may be null
 };
 
 constexpr ProfileChoice kSourceChoices[] = {
     {&WriteJtmlRGBSource,
-     &_PAGEDATA::fcRGBImagesNumber,
-     &_PAGEDATA::fcRGBImagesString,
+     &PageData::fcRGBImagesNumber,
+     &PageData::fcRGBImagesString,
      {"undefined-source-rgb-images", nullptr}},
     {&WriteJtmlRGBSource,
-     &_PAGEDATA::fcRGBTextGraphicsNumber,
-     &_PAGEDATA::fcRGBTextGraphicsString,
+     &PageData::fcRGBTextGraphicsNumber,
+     &PageData::fcRGBTextGraphicsString,
      {"undefined-source-rgb-text", "undefined-source-rgb-graphics"}},
     {&WriteJtmlCMYKSource,
-     &_PAGEDATA::fcCMYKImagesNumber,
-     &_PAGEDATA::fcCMYKImagesString,
+     &PageData::fcCMYKImagesNumber,
+     &PageData::fcCMYKImagesString,
      {"undefined-source-cmyk-images", nullptr}},
     {&WriteJtmlCMYKSource,
-     &_PAGEDATA::fcCMYKTextGraphicsNumber,
-     &_PAGEDATA::fcCMYKTextGraphicsString,
+     &PageData::fcCMYKTextGraphicsNumber,
+     &PageData::fcCMYKTextGraphicsString,
      {"undefined-source-cmyk-text", "undefined-source-cmyk-graphics"}},
 };
 
 constexpr ProfileChoice kDestinationChoice = {
     &WriteJtmlColorDestination,
-    &_PAGEDATA::fcDestinationNumber,
-    &_PAGEDATA::fcDestinationString,
+    &PageData::fcDestinationNumber,
+    &PageData::fcDestinationString,
     {"color-destination-profile-front", "color-destination-profile-back"}};
 
-void WriteChoice(LPWRITEDATA sink, const _PAGEDATA& page, const ProfileChoice& choice) {
+void WriteChoice(const JtmlSink* sink, const PageData& page, const ProfileChoice& choice) {
   const auto write = [&](int code, const char* name) {
     for (const char* element : choice.elements) {
       if (element != nullptr) choice.writer(sink, code, element, name);
@@ -133,47 +134,44 @@ void WriteChoice(LPWRITEDATA sink, const _PAGEDATA& page, const ProfileChoice& c
 
 }  // namespace
 
-JtmlGenError WriteJtmlFullColor(LPWRITEDATA lpWriteData, LPPAGEDATA lpPageData) {
-  const _PAGEDATA& page = *lpPageData;
-  WriteAdjustments(lpWriteData, page, kAdjustments);
-  if (page.fcTRC != nullptr) WriteJtmlTRC(lpWriteData, page.fcTRC);
-  for (const ProfileChoice& choice : kSourceChoices) WriteChoice(lpWriteData, page, choice);
-  WriteJtmlGraySource(lpWriteData, "undefined-source-gray-images", page.fcGrayImagesString);
-  WriteJtmlGraySource(lpWriteData, "undefined-source-gray-text", page.fcGrayTextGraphicsString);
-  WriteJtmlGraySource(lpWriteData, "undefined-source-gray-graphics", page.fcGrayTextGraphicsString);
-  WriteChoice(lpWriteData, page, kDestinationChoice);
-  WriteAdjustments(lpWriteData, page, kRenderings);
+JtmlGenError WriteJtmlFullColor(const JtmlSink* sink, const PageData* page) {
+  WriteAdjustments(sink, *page, kAdjustments);
+  if (page->fcTRC != nullptr) WriteJtmlTRC(sink, page->fcTRC);
+  for (const ProfileChoice& choice : kSourceChoices) WriteChoice(sink, *page, choice);
+  WriteJtmlGraySource(sink, "undefined-source-gray-images", page->fcGrayImagesString);
+  WriteJtmlGraySource(sink, "undefined-source-gray-text", page->fcGrayTextGraphicsString);
+  WriteJtmlGraySource(sink, "undefined-source-gray-graphics", page->fcGrayTextGraphicsString);
+  WriteChoice(sink, *page, kDestinationChoice);
+  WriteAdjustments(sink, *page, kRenderings);
   return JTML_SUCCESS;
 }
 
-JtmlGenError WriteJtmlTRC(LPWRITEDATA lpWriteData, const char* szTRCName) {
-  Send(lpWriteData, StartLine(2, "trc", Syntax::kCollection) +
-                        Element(3, "trc-name", Syntax::kName, TextOrEmpty(szTRCName)) +
-                        EndLine(2, "trc"));
+JtmlGenError WriteJtmlTRC(const JtmlSink* sink, const char* szTRCName) {
+  Send(sink, StartLine(2, "trc", Syntax::kCollection) +
+                 Element(3, "trc-name", Syntax::kName, TextOrEmpty(szTRCName)) + EndLine(2, "trc"));
   return JTML_SUCCESS;
 }
 
-JtmlGenError WriteJtmlRGBSource(LPWRITEDATA lpWriteData, int nSource, const char* szJTMLName,
+JtmlGenError WriteJtmlRGBSource(const JtmlSink* sink, int nSource, const char* szJTMLName,
                                 const char* szName) {
-  return WriteProfile(lpWriteData, kRGBProfiles, nSource, szJTMLName, szName);
+  return WriteProfile(sink, kRGBProfiles, nSource, szJTMLName, szName);
 }
 
-JtmlGenError WriteJtmlCMYKSource(LPWRITEDATA lpWriteData, int nSource, const char* szJTMLName,
+JtmlGenError WriteJtmlCMYKSource(const JtmlSink* sink, int nSource, const char* szJTMLName,
                                  const char* szName) {
-  return WriteProfile(lpWriteData, kCMYKProfiles, nSource, szJTMLName, szName);
+  return WriteProfile(sink, kCMYKProfiles, nSource, szJTMLName, szName);
 }
 
-JtmlGenError WriteJtmlGraySource(LPWRITEDATA lpWriteData, const char* szJTMLName,
-                                 const char* szName) {
-  return WriteNamed(lpWriteData, szJTMLName, szName);
+JtmlGenError WriteJtmlGraySource(const JtmlSink* sink, const char* szJTMLName, const char* szName) {
+  return WriteNamed(sink, szJTMLName, szName);
 }
 
-JtmlGenError WriteJtmlColorDestination(LPWRITEDATA lpWriteData, int nSource, const char* szJTMLName,
+JtmlGenError WriteJtmlColorDestination(const JtmlSink* sink, int nSource, const char* szJTMLName,
                                        const char* szName) {
-  if (nSource == 0) return WriteNamed(lpWriteData, szJTMLName, szName);
+  if (nSource == 0) return WriteNamed(sink, szJTMLName, szName);
   std::string text = Element(2, szJTMLName, Syntax::kKeyword, "system-specified");
   text.pop_back();  // this form has no line feed
-  Send(lpWriteData, text);
+  Send(sink, text);
   return JTML_SUCCESS;
 }
 

@@ -7,18 +7,17 @@
 namespace zarvo {
 
 /// Every full-colour field (`fc`) of the record that is set.
-JtmlGenError WriteJtmlFullColor(LPWRITEDATA lpWriteData, LPPAGEDATA lpPageData);
-JtmlGenError WriteJtmlTRC(LPWRITEDATA lpWriteData, const char* szTRCName);
+JtmlGenError WriteJtmlFullColor(const JtmlSink* sink, const PageData* page);
+JtmlGenError WriteJtmlTRC(const JtmlSink* sink, const char* szTRCName);
 // The profile writers write one element named `szJTMLName`. `nSource` is the code of a profile
 // that the printer knows, or 0 for the profile named `szName` (none when null).
-JtmlGenError WriteJtmlRGBSource(LPWRITEDATA lpWriteData, int nSource, const char* szJTMLName,
+JtmlGenError WriteJtmlRGBSource(const JtmlSink* sink, int nSource, const char* szJTMLName,
                                 const char* szName);
-JtmlGenError WriteJtmlCMYKSource(LPWRITEDATA lpWriteData, int nSource, const char* szJTMLName,
+JtmlGenError WriteJtmlCMYKSource(const JtmlSink* sink, int nSource, const char* szJTMLName,
                                  const char* szName);
-JtmlGenError WriteJtmlGraySource(LPWRITEDATA lpWriteData, const char* szJTMLName,
-                                 const char* szName);
+JtmlGenError WriteJtmlGraySource(const JtmlSink* sink, const char* szJTMLName, const char* szName);
 /// Any code but 0 leaves the choice to the printer; that form ends without a line feed.
-JtmlGenError WriteJtmlColorDestination(LPWRITEDATA lpWriteData, int nSource, const char* szJTMLName,
+JtmlGenError WriteJtmlColorDestination(const JtmlSink* sink, int nSource, const char* szJTMLName,
                                        const char* szName);
 
 }  // namespace zarvo

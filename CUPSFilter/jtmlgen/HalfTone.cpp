@@ -28,14 +28,14 @@ constexpr Keyword kScreens[] = {
 
 }  // namespace
 
-JtmlGenError WriteJtmlHalfTone(LPWRITEDATA lpWriteData, int nSelection) {
+JtmlGenError WriteJtmlHalfTone(const JtmlSink* sink, int nSelection) {
   std::string text;
   if (const char* screen = FindKeyword(kScreens, nSelection)) {
     for (const char* element : {"halftone-graphics", "halftone-images", "halftone-text"}) {
       text += Element(2, element, Syntax::kKeyword, screen);
     }
   }
-  Send(lpWriteData, text);
+  Send(sink, text);
   return JTML_SUCCESS;
 }
 

@@ -7,6 +7,6 @@
 namespace zarvo {
 
 /// One halftone screen, by its code 1 to 47, for graphics, images and text.
-JtmlGenError WriteJtmlHalfTone(LPWRITEDATA lpWriteData, int nSelection);
+JtmlGenError WriteJtmlHalfTone(const JtmlSink* sink, int nSelection);
 
 }  // namespace zarvo

@@ -28,7 +28,7 @@ constexpr Keyword kMappings[] = {{0, "object-based"},
                                  {3, "color-to-highlight"},
                                  {4, "monochrome-grayscale"}};
 
-void SendCustomColor(LPWRITEDATA sink, const _PAGEDATA& page) {
+void SendCustomColor(const JtmlSink* sink, const PageData& page) {
   static constexpr const char* kRGBNames[] = {"color-srgb-red", "color-srgb-green",
                                               "color-srgb-blue"};
   static constexpr const char* kHSVNames[] = {"color-hsv-hue", "color-hsv-saturation",
@@ -45,20 +45,20 @@ void SendCustomColor(LPWRITEDATA sink, const _PAGEDATA& page) {
 
 }  // namespace
 
-JtmlGenError WriteJtmlHLC(LPWRITEDATA lpWriteData, LPPAGEDATA lpPageData) {
+JtmlGenError WriteJtmlHLC(const JtmlSink* sink, const PageData* page) {
   const char* keyword = nullptr;  // a code without a word repeats the one before it
   const auto send = [&](const char* element, std::span<const Keyword> table, int code) {
     if (code == -1) return;
     if (const char* found = FindKeyword(table, code)) keyword = found;
     if (keyword != nullptr) {
-      SendUncounted(lpWriteData, Element(2, element, Syntax::kKeyword, keyword));
+      SendUncounted(sink, Element(2, element, Syntax::kKeyword, keyword));
     }
   };
-  send("highlight-colorant", kColorants, lpPageData->hlcPrintingColor);
-  if (lpPageData->hlcMappingColor == kJtmlCustomMapColor) SendCustomColor(lpWriteData, *lpPageData);
-  send("highlight-map-color", kMapColors, lpPageData->hlcMappingColor);
-  send("highlight-colorant-mismatch", kMismatchActions, lpPageData->hlcMismatchAction);
-  send("highlight-map", kMappings, lpPageData->hlcMappingAlgorithm);
+  send("highlight-colorant", kColorants, page->hlcPrintingColor);
+  if (page->hlcMappingColor == kJtmlCustomMapColor) SendCustomColor(sink, *page);
+  send("highlight-map-color", kMapColors, page->hlcMappingColor);
+  send("highlight-colorant-mismatch", kMismatchActions, page->hlcMismatchAction);
+  send("highlight-map", kMappings, page->hlcMappingAlgorithm);
   return JTML_SUCCESS;
 }
 

@@ -8,6 +8,6 @@ namespace zarvo {
 
 /// Every highlight-colour field (`hlc`) of the record that is set. A code that the format has no
 /// word for repeats the word written last.
-JtmlGenError WriteJtmlHLC(LPWRITEDATA lpWriteData, LPPAGEDATA lpPageData);
+JtmlGenError WriteJtmlHLC(const JtmlSink* sink, const PageData* page);
 
 }  // namespace zarvo

@@ -6,14 +6,13 @@
 
 namespace zarvo {
 
-JtmlGenError WriteJtmlJobNotes(LPWRITEDATA lpWriteData, LPJOBNOTEDATA lpJobNoteData);
+JtmlGenError WriteJtmlJobNotes(const JtmlSink* sink, const JobNoteData* notes);
 /// How the printer keeps the job; a null name or location of a saved job is written empty.
-JtmlGenError WriteJtmlJobTypes(LPWRITEDATA lpWriteData, LPJOBDATA lpJobData);
+JtmlGenError WriteJtmlJobTypes(const JtmlSink* sink, const JobData* job);
 /// The accounting identities; a null text is written empty.
-JtmlGenError WriteJtmlAccounting(LPWRITEDATA lpWriteData, const char* inUserID,
+JtmlGenError WriteJtmlAccounting(const JtmlSink* sink, const char* inUserID,
                                  const char* inAccountID);
 /// The pages to print, counted from 1; always written.
-JtmlGenError WriteJtmlPageRanges(LPWRITEDATA lpWriteData, std::int32_t fromPage,
-                                 std::int32_t toPage);
+JtmlGenError WriteJtmlPageRanges(const JtmlSink* sink, std::int32_t fromPage, std::int32_t toPage);
 
 }  // namespace zarvo

@@ -147,7 +147,8 @@ struct _WRITEDATA {
   void* lpdv = nullptr;
   JTMLWRITE lpfnDevWriteData = nullptr;
 };
-using LPWRITEDATA = const _WRITEDATA*;
+using JtmlSink = _WRITEDATA;
+using LPWRITEDATA = const JtmlSink*;
 
 /// The stream of DevWriteJtml, set before the first writer is called. Not owned.
 extern std::FILE* jtml_ofp;
@@ -164,7 +165,8 @@ struct _FINISHERDATA {
   int nHolePunchNumHoles = -1;  ///< read only with a punch choice
   const char* szFinishingStr = nullptr;
 };
-using LPFINISHERDATA = const _FINISHERDATA*;
+using FinisherData = _FINISHERDATA;
+using LPFINISHERDATA = const FinisherData*;
 
 /// Notes that travel with the job.
 struct _JOBNOTEDATA {
@@ -173,7 +175,8 @@ struct _JOBNOTEDATA {
   const char* strJobSheetMsg = nullptr;        ///< on the banner sheet
   const char* strJobAdditionalInfo = nullptr;  ///< written as accounting data
 };
-using LPJOBNOTEDATA = const _JOBNOTEDATA*;
+using JobNoteData = _JOBNOTEDATA;
+using LPJOBNOTEDATA = const JobNoteData*;
 
 /// Printer resolution across and along the feed direction, in units of code `nUnit` (3: dots per
 /// inch).
@@ -182,7 +185,8 @@ struct _RESOLUTIONDATA {
   int nFeedDir = 0;
   int nUnit = 0;
 };
-using LPRESOLUTIONDATA = const _RESOLUTIONDATA*;
+using ResolutionData = _RESOLUTIONDATA;
+using LPRESOLUTIONDATA = const ResolutionData*;
 
 /// Width and height of a medium in hundredths of a millimetre; 0 is not set.
 struct _XSIZE {
@@ -211,7 +215,8 @@ struct _MEDIADATA {
   const char* strMediaName = nullptr;
   int nSource = -1;  ///< 0 post-fuser inserter, 1 and up a tray
 };
-using LPMEDIADATA = const _MEDIADATA*;
+using MediaData = _MEDIADATA;
+using LPMEDIADATA = const MediaData*;
 
 /// The settings of a page exception, or the colour settings of the whole job.
 struct _PAGEDATA {
@@ -256,7 +261,8 @@ struct _PAGEDATA {
   std::int32_t fcGraphicsRendering = kNotSet;
   std::int32_t fcAntiAliasing = kNotSet, fcHalftone = kNotSet, fcOutputColor = kNotSet;
 };
-using LPPAGEDATA = const _PAGEDATA*;
+using PageData = _PAGEDATA;
+using LPPAGEDATA = const PageData*;
 
 /// How the printer keeps or holds the job.
 struct _JOBDATA {
@@ -265,7 +271,8 @@ struct _JOBDATA {
   const char* strSavedJobName = nullptr;
   const char* strSavedLocation = nullptr;  ///< a URI
 };
-using LPJOBDATA = const _JOBDATA*;
+using JobData = _JOBDATA;
+using LPJOBDATA = const JobData*;
 
 /// Background forms: storing the job as a form, or printing a stored form behind it.
 struct _BGFORMSDATA {
@@ -275,6 +282,7 @@ struct _BGFORMSDATA {
   std::int32_t nXSide1ImgShift = 0;
   std::int32_t nYSide1ImgShift = 0;
 };
-using LPBGFORMSDATA = const _BGFORMSDATA*;
+using FormsData = _BGFORMSDATA;
+using LPBGFORMSDATA = const FormsData*;
 
 }  // namespace zarvo

@@ -42,7 +42,7 @@ std::string Text(const char* element, Syntax syntax, const char* text) {
 }
 
 /// The type, and what a type says of its being pre-printed or recycled.
-std::string TypeLines(const _MEDIADATA& media) {
+std::string TypeLines(const MediaData& media) {
   switch (media.nMediaType) {
     case kJtmlPrePrinted:
       return Coded("media-pre-printed", kPrePrinted, 1);
@@ -66,7 +66,7 @@ std::string SizeLines(const XSIZE& size) {
          Element(4, "y-dimension", size.cy) + EndLine(3, "media-size");
 }
 
-std::string CoatingLines(const _MEDIADATA& media) {
+std::string CoatingLines(const MediaData& media) {
   const char* coating = FindKeyword(kCoatings, media.nCoatingType);
   if (coating == nullptr) return "";
   constexpr int kFrontOnly = 2;
@@ -77,7 +77,7 @@ std::string CoatingLines(const _MEDIADATA& media) {
                  media.nSidesCoated == kFrontOnly ? "none" : coating);
 }
 
-std::string Members(const _MEDIADATA& media) {
+std::string Members(const MediaData& media) {
   if (media.strMediaName != nullptr && *media.strMediaName != '\0') {
     return Text("media-key", Syntax::kName, media.strMediaName);
   }
@@ -95,16 +95,15 @@ std::string Members(const _MEDIADATA& media) {
 
 }  // namespace
 
-JtmlGenError WriteJtmlMedia(LPWRITEDATA lpWriteData, LPMEDIADATA lpMediaData) {
-  const _MEDIADATA& media = *lpMediaData;
-  if (media.nSource >= 0) {
+JtmlGenError WriteJtmlMedia(const JtmlSink* sink, const MediaData* media) {
+  if (media->nSource >= 0) {
     const std::string tray =
-        media.nSource == 0 ? "post-fuser-inserter" : "tray-" + std::to_string(media.nSource);
-    Send(lpWriteData, Element(2, "media", Syntax::kKeyword, tray));
+        media->nSource == 0 ? "post-fuser-inserter" : "tray-" + std::to_string(media->nSource);
+    Send(sink, Element(2, "media", Syntax::kKeyword, tray));
     return JTML_SUCCESS;
   }
-  Send(lpWriteData,
-       StartLine(2, "media-col", Syntax::kCollection) + Members(media) + EndLine(2, "media-col"));
+  Send(sink,
+       StartLine(2, "media-col", Syntax::kCollection) + Members(*media) + EndLine(2, "media-col"));
   return JTML_SUCCESS;
 }
 

@@ -8,6 +8,6 @@ namespace zarvo {
 
 /// A medium: its tray alone when that is set, else its name alone when there is one, else all
 /// that is known of it.
-JtmlGenError WriteJtmlMedia(LPWRITEDATA lpWriteData, LPMEDIADATA lpMediaData);
+JtmlGenError WriteJtmlMedia(const JtmlSink* sink, const MediaData* media);
 
 }  // namespace zarvo

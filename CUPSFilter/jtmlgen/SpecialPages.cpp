@@ -27,63 +27,62 @@ std::string Range(const char* element, std::int32_t low, std::int32_t high) {
 
 }  // namespace
 
-JtmlGenError WriteJtmlSpecialPagesStart(LPWRITEDATA lpWriteData, int nSPOption) {
+JtmlGenError WriteJtmlSpecialPagesStart(const JtmlSink* sink, int nSPOption) {
   if (const char* section = FindKeyword(kSections, nSPOption)) {
-    Send(lpWriteData, StartLine(2, section, Syntax::kSetOf));
+    Send(sink, StartLine(2, section, Syntax::kSetOf));
   }
   return JTML_SUCCESS;
 }
 
-JtmlGenError WriteJtmlSpecialPagesEnd(LPWRITEDATA lpWriteData, int nSPOption) {
+JtmlGenError WriteJtmlSpecialPagesEnd(const JtmlSink* sink, int nSPOption) {
   if (const char* section = FindKeyword(kSections, nSPOption)) {
-    Send(lpWriteData, EndLine(2, section));
+    Send(sink, EndLine(2, section));
   }
   return JTML_SUCCESS;
 }
 
-JtmlGenError WriteJtmlCovers(LPWRITEDATA lpWriteData, int nCovers, int nCoverType,
-                             LPMEDIADATA lpMediaData) {
+JtmlGenError WriteJtmlCovers(const JtmlSink* sink, int nCovers, int nCoverType,
+                             const MediaData* media) {
   const char* cover = FindKeyword(kCovers, nCovers);
   const char* type = FindKeyword(kCoverTypes, nCoverType);
   std::string start;
   if (cover != nullptr) start += StartLine(2, cover, Syntax::kCollection);
   if (type != nullptr) start += Element(3, "cover-type", Syntax::kKeyword, type);
-  Send(lpWriteData, start);
-  WriteJtmlMedia(lpWriteData, lpMediaData);
-  Send(lpWriteData, cover != nullptr ? EndLine(2, cover) : "");
+  Send(sink, start);
+  WriteJtmlMedia(sink, media);
+  Send(sink, cover != nullptr ? EndLine(2, cover) : "");
   return JTML_SUCCESS;
 }
 
-JtmlGenError WriteJtmlInserts(LPWRITEDATA lpWriteData, int nInsertAfter, int nInsertCount,
-                              LPMEDIADATA lpMediaData) {
-  Send(lpWriteData, StartLine(3, "value", Syntax::kCollection) +
-                        Element(3, "insert-after-page-number", nInsertAfter) +
-                        Element(3, "insert-count", nInsertCount));
-  WriteJtmlMedia(lpWriteData, lpMediaData);
-  Send(lpWriteData, EndLine(3, "value"));
+JtmlGenError WriteJtmlInserts(const JtmlSink* sink, int nInsertAfter, int nInsertCount,
+                              const MediaData* media) {
+  Send(sink, StartLine(3, "value", Syntax::kCollection) +
+                 Element(3, "insert-after-page-number", nInsertAfter) +
+                 Element(3, "insert-count", nInsertCount));
+  WriteJtmlMedia(sink, media);
+  Send(sink, EndLine(3, "value"));
   return JTML_SUCCESS;
 }
 
-JtmlGenError WriteJtmlPageExceptions(LPWRITEDATA lpWriteData, LPPAGEDATA lpPageData,
-                                     LPMEDIADATA lpMediaData) {
-  const _PAGEDATA& page = *lpPageData;
-  Send(lpWriteData, StartLine(3, "value", Syntax::kCollection) +
-                        Range("input-documents", page.nInDocLB, page.nInDocUB));
-  Send(lpWriteData, Range("pages", page.nPagesLB, page.nPagesUB));
-  WriteJtmlCommands(lpWriteData, kJtmlSides, page.nSides);
+JtmlGenError WriteJtmlPageExceptions(const JtmlSink* sink, const PageData* page,
+                                     const MediaData* media) {
+  Send(sink, StartLine(3, "value", Syntax::kCollection) +
+                 Range("input-documents", page->nInDocLB, page->nInDocUB));
+  Send(sink, Range("pages", page->nPagesLB, page->nPagesUB));
+  WriteJtmlCommands(sink, kJtmlSides, page->nSides);
   // A page range takes its lightness as a black-and-white darkness, not as adjust-lightness.
-  if (page.bIsLightenDark) {
-    WriteJtmlCommands(lpWriteData, kJtmlDarknessValue, page.nAdjustLightness);
+  if (page->bIsLightenDark) {
+    WriteJtmlCommands(sink, kJtmlDarknessValue, page->nAdjustLightness);
   }
-  if (page.bImageShift) {
-    Send(lpWriteData, Element(3, "x-side1-image-shift", page.nXSide1ImgShift) +
-                          Element(3, "x-side2-image-shift", page.nXSide2ImgShift) +
-                          Element(3, "y-side1-image-shift", page.nYSide1ImgShift));
-    Send(lpWriteData, Element(3, "y-side2-image-shift", page.nYSide2ImgShift));
+  if (page->bImageShift) {
+    Send(sink, Element(3, "x-side1-image-shift", page->nXSide1ImgShift) +
+                   Element(3, "x-side2-image-shift", page->nXSide2ImgShift) +
+                   Element(3, "y-side1-image-shift", page->nYSide1ImgShift));
+    Send(sink, Element(3, "y-side2-image-shift", page->nYSide2ImgShift));
   }
-  WriteJtmlMedia(lpWriteData, lpMediaData);
-  WriteJtmlFullColor(lpWriteData, lpPageData);
-  Send(lpWriteData, EndLine(3, "value"));
+  WriteJtmlMedia(sink, media);
+  WriteJtmlFullColor(sink, page);
+  Send(sink, EndLine(3, "value"));
   return JTML_SUCCESS;
 }
 

@@ -7,16 +7,16 @@
 namespace zarvo {
 
 /// Start and end of a list of special pages; `nSPOption` is a JtmlSpecialPages.
-JtmlGenError WriteJtmlSpecialPagesStart(LPWRITEDATA lpWriteData, int nSPOption);
-JtmlGenError WriteJtmlSpecialPagesEnd(LPWRITEDATA lpWriteData, int nSPOption);
+JtmlGenError WriteJtmlSpecialPagesStart(const JtmlSink* sink, int nSPOption);
+JtmlGenError WriteJtmlSpecialPagesEnd(const JtmlSink* sink, int nSPOption);
 /// A cover; `nCovers` is a JtmlCover, `nCoverType` a JtmlCoverType.
-JtmlGenError WriteJtmlCovers(LPWRITEDATA lpWriteData, int nCovers, int nCoverType,
-                             LPMEDIADATA lpMediaData);
+JtmlGenError WriteJtmlCovers(const JtmlSink* sink, int nCovers, int nCoverType,
+                             const MediaData* media);
 /// `nInsertCount` sheets behind page `nInsertAfter`.
-JtmlGenError WriteJtmlInserts(LPWRITEDATA lpWriteData, int nInsertAfter, int nInsertCount,
-                              LPMEDIADATA lpMediaData);
+JtmlGenError WriteJtmlInserts(const JtmlSink* sink, int nInsertAfter, int nInsertCount,
+                              const MediaData* media);
 /// A range of pages with settings of its own.
-JtmlGenError WriteJtmlPageExceptions(LPWRITEDATA lpWriteData, LPPAGEDATA lpPageData,
-                                     LPMEDIADATA lpMediaData);
+JtmlGenError WriteJtmlPageExceptions(const JtmlSink* sink, const PageData* page,
+                                     const MediaData* media);
 
 }  // namespace zarvo

@@ -50,8 +50,8 @@ bool ReadInput(const std::string& path, std::string* content) {
 
 int WriteOutput(const std::string& path, const std::string& content) {
   if (path != "-") {
-    const int error = WriteFileAtomically(path, content, kNewFileMode);
-    return error == 0 ? kExitOk : Fail(path, std::strerror(error));
+    return WriteFileAtomically(path, content, kNewFileMode) ? kExitOk
+                                                            : Fail(path, std::strerror(errno));
   }
   std::fwrite(content.data(), 1, content.size(), stdout);
   if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0) return kExitOk;

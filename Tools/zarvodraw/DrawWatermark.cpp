@@ -47,7 +47,7 @@ FontDescription NearestFont(const std::string& postscript_name) {
   return {pango_font_description_from_string(name.c_str()), &pango_font_description_free};
 }
 
-void DrawText(cairo_t* context, const cairo_rectangle_t& area, const _WatermarkData& watermark) {
+void DrawText(cairo_t* context, const cairo_rectangle_t& area, const WatermarkData& watermark) {
   FontDescription font = InstalledFont(watermark.fontName);
   if (!font) font = NearestFont(watermark.fontName);
   pango_font_description_set_absolute_size(font.get(), double{PANGO_SCALE} * watermark.fontSize);
@@ -66,7 +66,7 @@ void DrawText(cairo_t* context, const cairo_rectangle_t& area, const _WatermarkD
   pango_cairo_show_layout_line(context, pango_layout_get_line_readonly(layout.get(), 0));
 }
 
-void DrawImage(cairo_t* context, const cairo_rectangle_t& area, const _WatermarkData& watermark,
+void DrawImage(cairo_t* context, const cairo_rectangle_t& area, const WatermarkData& watermark,
                cairo_surface_t* image) {
   cairo_translate(context, area.x + area.width / 2, area.y + area.height / 2);
   cairo_scale(context, watermark.scale / 100.0, watermark.scale / 100.0);
@@ -77,7 +77,7 @@ void DrawImage(cairo_t* context, const cairo_rectangle_t& area, const _Watermark
 
 }  // namespace
 
-void DrawWatermark(cairo_t* context, const cairo_rectangle_t& area, const _WatermarkData& watermark,
+void DrawWatermark(cairo_t* context, const cairo_rectangle_t& area, const WatermarkData& watermark,
                    cairo_surface_t* image) {
   const auto draw = [&](auto function, auto... more) {
     cairo_save(context);

@@ -15,7 +15,7 @@ namespace zarvo {
 /// the record. `image`, unless null, is drawn in the middle of the area, one point per pixel times
 /// `scale` percent. The text is drawn over the image. What lies outside the area is cut off. The
 /// colour's alpha plays no part, as in printing; opacity is the caller's matter.
-void DrawWatermark(cairo_t* context, const cairo_rectangle_t& area, const _WatermarkData& watermark,
+void DrawWatermark(cairo_t* context, const cairo_rectangle_t& area, const WatermarkData& watermark,
                    cairo_surface_t* image);
 
 }  // namespace zarvo

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <cstdio>
-#include <optional>
 #include <string>
 
 #include "Platform/Log.h"
@@ -26,14 +25,13 @@ std::string ReadStream(std::FILE* input, std::size_t max_bytes) {
 }
 
 /// The image of the cover's watermark; null when it has none, or none that can be drawn.
-Surface ReadImage(const _WatermarkData& watermark) {
+Surface ReadImage(const WatermarkData& watermark) {
   Surface image(nullptr, &cairo_surface_destroy);
   std::FILE* input = watermark.filename[0] != '\0' ? ::fdopen(kDataFd, "r") : nullptr;
   if (input == nullptr) return image;
-  std::string problem;
-  image = ReadPamImage(input, &problem);
+  const Failure failure = ReadPamImage(input, &image);
   std::fclose(input);
-  if (!problem.empty()) LogImageFailure(watermark.filePath, problem);
+  if (!failure.empty()) LogImageFailure(watermark.filePath, failure);
   return image;
 }
 
@@ -41,17 +39,17 @@ Surface ReadImage(const _WatermarkData& watermark) {
 
 int RunFaxCoverJob(char**) {
   Confine(Task::kPage);
-  std::string error = "it is no dictionary";
-  const std::optional<Value> description =
-      ParsePropertyList(ReadStream(stdin, kMaxPropertyListBytes), &error);
-  if (!description || description->AsDictionary() == nullptr) {
+  Value description;
+  Failure failure = ParsePropertyList(ReadStream(stdin, kMaxPropertyListBytes), &description);
+  if (failure.empty() && description.AsDictionary() == nullptr) failure = "it is no dictionary";
+  if (!failure.empty()) {
     LogLine(
         "ERROR: The fax cover sheet was left out: its description is damaged: %s; "
         "install the package zarvo again",
-        error.c_str());
+        failure.c_str());
     return kJobFailed;
   }
-  const FaxCover cover = FaxCoverFromDictionary(*description->AsDictionary());
+  const FaxCover cover = FaxCoverFromDictionary(*description.AsDictionary());
   const Surface image = ReadImage(cover.watermark);
   const cairo_status_t status = DrawFaxCover(stdout, cover, image.get());
   if (status != CAIRO_STATUS_SUCCESS || std::fflush(stdout) != 0) {

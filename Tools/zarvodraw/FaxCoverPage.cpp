@@ -95,7 +95,7 @@ cairo_status_t WriteToStream(void* stream, const unsigned char* data, unsigned l
 }
 
 void DrawWatermarkLayer(cairo_t* context, const cairo_rectangle_t& media_box,
-                        const _WatermarkData& watermark, cairo_surface_t* image) {
+                        const WatermarkData& watermark, cairo_surface_t* image) {
   const double alpha = std::clamp(watermark.density / 100.0, 0.0, 1.0);
   // An invisible layer would still make converters turn the whole page into one big picture.
   if (alpha == 0 || (watermark.textString[0] == '\0' && image == nullptr)) return;

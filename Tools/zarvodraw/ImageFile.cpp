@@ -76,7 +76,7 @@ class Decoder {
     g_object_unref(loader_);
   }
 
-  Image Run(std::string_view file, std::string* error) {
+  Failure Run(std::string_view file, Image* image) {
     bool fed = loader_ != nullptr;
     constexpr std::size_t kBlock = 1 << 16;
     for (; fed && !too_large_ && !file.empty(); file.remove_prefix(std::min(file.size(), kBlock)))
@@ -86,13 +86,12 @@ class Decoder {
       closed_ = true;
       fed = gdk_pixbuf_loader_close(loader_, &problem_);
     }
-    GdkPixbuf* image = fed && !too_large_ ? gdk_pixbuf_loader_get_pixbuf(loader_) : nullptr;
-    if (image != nullptr && std::find(decoded_.begin(), decoded_.end(), false) == decoded_.end())
-      return Image(GDK_PIXBUF(g_object_ref(image)));
-    *error = too_large_            ? "it has more than 100 million pixels"
-             : problem_ != nullptr ? problem_->message
-                                   : "it is damaged";
-    return nullptr;
+    if (too_large_) return "it has more than 100 million pixels";
+    GdkPixbuf* decoded = fed ? gdk_pixbuf_loader_get_pixbuf(loader_) : nullptr;
+    if (decoded == nullptr || std::find(decoded_.begin(), decoded_.end(), false) != decoded_.end())
+      return problem_ != nullptr ? problem_->message : "it is damaged";
+    image->reset(GDK_PIXBUF(g_object_ref(decoded)));
+    return "";
   }
 
  private:
@@ -130,22 +129,13 @@ void PrepareDecoder(int file) {
   if (format != nullptr) Decoder decoder(format->loader);
 }
 
-Image DecodeImage(int file, std::string* error) {
+Failure DecodeImage(int file, Image* image) {
   const std::optional<std::string> content = ReadWholeFile(file, kMaxFileBytes);
-  if (!content) {
-    *error = errno == EINVAL ? "it is not a regular file" : std::strerror(errno);
-    return nullptr;
-  }
+  if (!content) return errno == EINVAL ? "it is not a regular file" : std::strerror(errno);
   const Format* format = FindFormat(*content);
-  if (format == nullptr) {
-    *error = "it is not a PNG, JPEG, TIFF, GIF or BMP image";
-    return nullptr;
-  }
-  if (format->is_whole != nullptr && !format->is_whole(*content)) {
-    *error = "its end is missing";
-    return nullptr;
-  }
-  return Decoder(format->loader).Run(*content, error);
+  if (format == nullptr) return "it is not a PNG, JPEG, TIFF, GIF or BMP image";
+  if (format->is_whole != nullptr && !format->is_whole(*content)) return "its end is missing";
+  return Decoder(format->loader).Run(*content, image);
 }
 
 }  // namespace zarvo

@@ -6,7 +6,8 @@
 
 #include <cstdint>
 #include <memory>
-#include <string>
+
+#include "Platform/Failure.h"
 
 namespace zarvo {
 
@@ -24,7 +25,7 @@ void PrepareDecoder(int file);
 
 /// The first picture of an open PNG, JPEG, TIFF, GIF or BMP file, 8 bits per component, with or
 /// without an alpha channel that is not premultiplied. The kind is told by the content, not by the
-/// name. Null, and the reason in `error`, when the file cannot be read whole and without errors.
-Image DecodeImage(int file, std::string* error);
+/// name. Fails when the file cannot be read whole and without errors.
+Failure DecodeImage(int file, Image* image);
 
 }  // namespace zarvo

@@ -55,10 +55,9 @@ void WriteImage(const GdkPixbuf* image, bool as_pam, std::FILE* output) {
 int RunImageJob(char** arguments) {
   PrepareDecoder(STDIN_FILENO);
   Confine(Task::kImage);
-  std::string error;
-  const Image image = DecodeImage(STDIN_FILENO, &error);
-  if (image == nullptr) {
-    LogImageFailure(arguments[1], error);
+  Image image;
+  if (const Failure failure = DecodeImage(STDIN_FILENO, &image); !failure.empty()) {
+    LogImageFailure(arguments[1], failure);
     return kJobFailed;
   }
   WriteImage(image.get(), std::strcmp(arguments[0], "pam") == 0, stdout);

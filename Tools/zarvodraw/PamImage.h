@@ -6,15 +6,16 @@
 
 #include <cstdio>
 #include <memory>
-#include <string>
+
+#include "Platform/Failure.h"
 
 namespace zarvo {
 
 using Surface = std::unique_ptr<cairo_surface_t, decltype(&cairo_surface_destroy)>;
 
-/// Reads what "zarvodraw image pam" writes. Null when there is none or it is not whole, which its
-/// writer tells, and when it is too large for memory or for a drawing (32767 pixels on a side),
-/// which `problem` tells.
-Surface ReadPamImage(std::FILE* input, std::string* problem);
+/// Reads what "zarvodraw image pam" writes. Leaves `image` alone when there is none or it is not
+/// whole, which its writer tells. Fails when it is too large for memory or for a drawing (32767
+/// pixels on a side).
+Failure ReadPamImage(std::FILE* input, Surface* image);
 
 }  // namespace zarvo

@@ -11,10 +11,10 @@
 int main(int argc, char** argv) {
   std::ifstream input("/dev/stdin");
   const std::string text{std::istreambuf_iterator<char>(input), {}};
-  std::string error;
-  const auto list = zarvo::ParsePropertyList(text, &error);
-  if (argc != 2 || !list || list->AsArray() == nullptr) return 2;
-  zarvo::FaxRecipientList recipients(*list->AsArray());
+  zarvo::Value list;
+  if (argc != 2 || !zarvo::ParsePropertyList(text, &list).empty() || list.AsArray() == nullptr)
+    return 2;
+  zarvo::FaxRecipientList recipients(*list.AsArray());
   if (!recipients.saveAsABGroupWithName(argv[1])) return 1;
   for (std::size_t i = 0; i < recipients.count(); ++i)
     std::puts(recipients.recipientAtIndex(i)->uid()->c_str());

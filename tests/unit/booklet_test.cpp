@@ -24,7 +24,7 @@ extern const std::string_view BookletProcset;
 namespace {
 
 using namespace std::literals;
-using Vars = _tag_Q7B_PS_BOOKLET_VARS;
+using Vars = BookletVars;
 
 /// A file without a name.
 struct Spool {

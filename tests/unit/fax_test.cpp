@@ -155,7 +155,7 @@ TEST(FaxCover, DescriptionComesBackWhole) {
   const std::string scratch = testing::TempDir() + "faxcover";
   std::filesystem::create_directories(scratch + "/Zarvo");
   ::setenv("ZARVO_APPLICATION_SUPPORT", scratch.c_str(), 1);
-  _WatermarkData watermark{};
+  WatermarkData watermark{};
   std::snprintf(watermark.textString, sizeof watermark.textString, "DRAFT");
   watermark.isTextWatermark = 1;
   watermark.density = 30;

@@ -36,7 +36,7 @@ std::int32_t Collect(void* context, const char* text, std::int32_t length) {
   return length;
 }
 
-const _WRITEDATA sink = {&record, &Collect};
+const JtmlSink sink = {&record, &Collect};
 
 /// A writer that is called with each code from `first` to `last`.
 struct Sweep {
@@ -71,14 +71,14 @@ void CompareSweeps(const std::string& name, const std::vector<Sweep>& sweeps) {
 
 /// A writer that takes its code first.
 template <class... Rest>
-auto By(JtmlGenError (*writer)(LPWRITEDATA, int, Rest...), Rest... rest) {
+auto By(JtmlGenError (*writer)(const JtmlSink*, int, Rest...), Rest... rest) {
   return [=](int code) { return writer(&sink, code, rest...); };
 }
 
 auto Finish(std::array<int, 4> codes, std::size_t varied) {
   return [codes, varied](int code) mutable {
     codes[varied] = code;
-    const _FINISHERDATA data{codes[0], codes[1], codes[2], codes[3]};
+    const FinisherData data{codes[0], codes[1], codes[2], codes[3]};
     return WriteJtmlFinishing(&sink, &data);
   };
 }
@@ -97,16 +97,16 @@ TEST(JtmlWriters, JobElements) {
       {"halftone", -1, 48, By(&WriteJtmlHalfTone)},
   };
   const auto job_type = [](int code) {
-    const _JOBDATA data{code, 2, "name", "file:///x/"};
+    const JobData data{code, 2, "name", "file:///x/"};
     return WriteJtmlJobTypes(&sink, &data);
   };
   const auto saved_format = [](int code) {
-    const _JOBDATA data{2, code, nullptr, nullptr};
+    const JobData data{2, code, nullptr, nullptr};
     return WriteJtmlJobTypes(&sink, &data);
   };
   const auto form = [&forms](int row) {
     const char* name = forms[row].c_str();
-    const _BGFORMSDATA data{name, name};
+    const FormsData data{name, name};
     return WriteJtmlBackgroundForms(&sink, &data);
   };
   sweeps.push_back({"job type", -1, 7, job_type});
@@ -124,7 +124,7 @@ TEST(JtmlWriters, JobElements) {
 
 TEST(JtmlWriters, ColorElements) {
   const auto highlight = [](int code) {
-    _PAGEDATA page;
+    PageData page;
     page.hlcPrintingColor = page.hlcMappingColor = code;
     page.hlcMismatchAction = page.hlcMappingAlgorithm = code;
     return WriteJtmlHLC(&sink, &page);
@@ -137,10 +137,10 @@ TEST(JtmlWriters, ColorElements) {
 }
 
 TEST(JtmlWriters, MediaElements) {
-  static const _MEDIADATA blank;
-  const auto field = [](int _MEDIADATA::*member) {
+  static const MediaData blank;
+  const auto field = [](int MediaData::*member) {
     return [member](int code) {
-      _MEDIADATA media;
+      MediaData media;
       media.nCoatingType = 1;
       media.*member = code;
       media.strMediaName = "";
@@ -150,7 +150,7 @@ TEST(JtmlWriters, MediaElements) {
     };
   };
   const auto everything = [](int type) {
-    _MEDIADATA media;
+    MediaData media;
     media.nMediaType = type;
     media.strMediaType = "Type";
     media.nOrderCount = media.nWeight = media.nHoleCount = 5;
@@ -165,14 +165,14 @@ TEST(JtmlWriters, MediaElements) {
        {"list end", -1, 2, By(&WriteJtmlSpecialPagesEnd)},
        {"cover", -1, 2, By(&WriteJtmlCovers, 9, &blank)},
        {"cover type", -1, 5, [](int type) { return WriteJtmlCovers(&sink, 0, type, &blank); }},
-       {"source", -1, 2, field(&_MEDIADATA::nSource)},
-       {"colour", -1, 13, field(&_MEDIADATA::nMediaColor)},
-       {"pre-printed", -1, 3, field(&_MEDIADATA::nPrePrinted)},
-       {"recycled", -1, 2, field(&_MEDIADATA::nRecycledType)},
-       {"coating", -1, 6, field(&_MEDIADATA::nCoatingType)},
-       {"coated sides", -1, 4, field(&_MEDIADATA::nSidesCoated)},
-       {"surface", 0, 4, field(&_MEDIADATA::nFinish)},
-       {"grain", 0, 3, field(&_MEDIADATA::nGrain)},
+       {"source", -1, 2, field(&MediaData::nSource)},
+       {"colour", -1, 13, field(&MediaData::nMediaColor)},
+       {"pre-printed", -1, 3, field(&MediaData::nPrePrinted)},
+       {"recycled", -1, 2, field(&MediaData::nRecycledType)},
+       {"coating", -1, 6, field(&MediaData::nCoatingType)},
+       {"coated sides", -1, 4, field(&MediaData::nSidesCoated)},
+       {"surface", 0, 4, field(&MediaData::nFinish)},
+       {"grain", 0, 3, field(&MediaData::nGrain)},
        {"type, everything else set", -1, 14, everything}});
 }
 

@@ -144,7 +144,7 @@ TEST_F(Limits, BookletOfAMillionPages) {
   const UniqueFd spool = OpenMemoryFile(job);
   const std::string path = "/proc/self/fd/" + std::to_string(spool.get());
   FILE* const nowhere = std::fopen("/dev/null", "wb");
-  _tag_Q7B_PS_BOOKLET_VARS bv;
+  BookletVars bv;
   bv.hPrinter = nowhere;
   bv.pwstrPSFileIn = path.c_str();
   bv.bDoBooklet = 1;

@@ -21,10 +21,8 @@ std::string Repeat(const std::string& text, int count) {
 }
 
 std::optional<Value> Parse(const std::string& bytes) {
-  std::string error;
-  std::optional<Value> value = ParsePropertyList(bytes, &error);
-  EXPECT_EQ(error.empty(), value.has_value());
-  return value;
+  Value value;
+  return ParsePropertyList(bytes, &value).empty() ? std::optional(value) : std::nullopt;
 }
 
 /// A binary list whose object number i is an array of two references to object i + 1; the last is

@@ -28,8 +28,8 @@ namespace fs = std::filesystem;
 constexpr char kCollection[] = "marks.plist";
 
 /// No two fields are alike.
-const _WatermarkData kMark = [] {
-  _WatermarkData mark{};
+const WatermarkData kMark = [] {
+  WatermarkData mark{};
   std::strcpy(mark.textString, "Draft \"<1>\"");
   std::strcpy(mark.filename, "unused.png");
   std::strcpy(mark.filePath, "/a/\xC3\xA9.png");
@@ -69,14 +69,14 @@ class Store : public testing::Test {
     return std::distance(fs::directory_iterator(folder), fs::directory_iterator());
   }
   static bool Save(const std::string& text) {
-    _WatermarkData data = kMark;
+    WatermarkData data = kMark;
     std::strcpy(data.textString, text.c_str());
     return saveWatermarkData(kCollection, data);
   }
   int Load(const std::string& name) { return loadWatermarkData(kCollection, &name, &data_); }
 
   fs::path root_;
-  _WatermarkData data_ = kMark;
+  WatermarkData data_ = kMark;
   std::error_code ignored_;
 };
 
@@ -90,7 +90,7 @@ TEST_F(Store, EveryStoredFieldComesBack) {
   ASSERT_EQ(::stat(File().c_str(), &info), 0);
   EXPECT_EQ(info.st_mode & 0444, 0444U) << "the filter runs as another user";
 
-  const _WatermarkData zero{};
+  const WatermarkData zero{};
   EXPECT_EQ(Load("Final"), 0);
   EXPECT_EQ(std::memcmp(&data_, &zero, sizeof zero), 0);
   data_ = kMark;
@@ -108,7 +108,7 @@ TEST_F(Store, OddEntriesKeepTheRecordSane) {
            <key>yPos</key><integer>7</integer></dict>
            <key>y</key><string>no entry</string></dict></plist>)");
   // Numbers that are out of range or no numbers, and texts that are none, leave their fields.
-  _WatermarkData expected = kMark;
+  WatermarkData expected = kMark;
   std::memset(expected.textString, 0, sizeof expected.textString);  // does not fit
   std::memset(expected.fontName, 'b', sizeof expected.fontName - 1);
   expected.angle = -30;
@@ -147,7 +147,7 @@ TEST_F(Store, ListsEntriesAndFontsShareOneFile) {
   ASSERT_EQ(loadWatermarkList(kCollection, nullptr, &loaded), 1);
   EXPECT_EQ(loaded.size(), 2U) << "removing leaves the list alone";
 
-  _WatermarkData image = kMark;
+  WatermarkData image = kMark;
   image.isTextWatermark = 0;
   ASSERT_TRUE(saveWatermarkData(kCollection, image));
   EXPECT_EQ(Load("unused.png"), 1);

@@ -196,15 +196,14 @@ class Examination {
 
   void CheckQueues() {
     std::vector<std::string> names;
-    std::string error;
-    if (!ListQueues(&names, &error))
+    if (!ListQueues(&names).empty())
       return Wrong("spooler", "cupsd", "does not answer", "systemctl start cups");
     bool used = false;
     for (const std::string& name : names) {
-      const QueuePpd ppd(name, &error);
-      if (ppd.path().empty() || !UsesOurFilter(ppd.path())) continue;
+      QueuePpd ppd;
+      if (!ppd.Fetch(name).empty() || !UsesOurFilter(ppd.path())) continue;
       used = true;
-      const std::string fault = PpdFault(ppd.path());
+      const Failure fault = PpdFault(ppd.path());
       if (fault.empty()) {
         Good("queue", name);
       } else {
@@ -291,7 +290,7 @@ class Examination {
 
   bool CheckWatermark(const char* collection, const std::string& path, const Value& entry) {
     const std::string* name = entry.AsString();
-    _WatermarkData data{};
+    WatermarkData data{};
     if (name == nullptr || loadWatermarkData(collection, name, &data) != 1) {
       Wrong("watermark", name != nullptr ? *name : "(no text)",
             "is in the list of " + path + ", but not in the store",

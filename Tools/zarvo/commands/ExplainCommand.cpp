@@ -118,7 +118,8 @@ void PrintJson(const JobReport& report, const std::vector<std::string>& findings
 }
 
 /// Has the pages drawn, unless there is nobody to do it.
-void Look(const PostScriptFiles& split, Progress* progress, JobReport* report) {
+void Look(const PostScriptFiles& split, const ScratchFolder& scratch, Progress* progress,
+          JobReport* report) {
   if (FindProgram("gs").empty()) {
     std::fprintf(stderr, "zarvo: the pages are not looked at: Ghostscript is not installed\n");
     return;
@@ -127,7 +128,7 @@ void Look(const PostScriptFiles& split, Progress* progress, JobReport* report) {
   for (std::size_t i = 0; i < split.files.size(); ++i) {
     progress->Stage("Looking at the pages");
     const auto start = std::chrono::steady_clock::now();
-    report->looks.push_back(LookAtPages(split.files[i], report->job.jobs[i], left));
+    report->looks.push_back(LookAtPages(split.files[i], report->job.jobs[i], left, scratch));
     left -= std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() -
                                                                   start);
     if (left.count() > 0 && report->looks.back().whole) continue;
@@ -145,21 +146,21 @@ int Explain(const Options& options) {
     if (!file) return Fail(options.file, std::strerror(errno));
     input = file.get();
   }
-  const ScratchFolder scratch;
-  if (!scratch) return Fail("TMPDIR", "no folder for temporary files can be made");
+  const std::unique_ptr<ScratchFolder> scratch = MakeScratchFolder();
+  if (!scratch) return kExitFailure;
   JobReport report;
   {
     Progress progress;
     progress.Stage("Reading the job");
     PostScriptFiles split;
-    const std::string failure = SplitJob(input, scratch, {}, &split);
+    const Failure failure = SplitJob(input, *scratch, {}, &split);
     if (!failure.empty()) return Fail(options.file, failure);
     const JobKind kind = KindOfJob(split.facts.start, options.file);
     if (kind == JobKind::kPdf || kind == JobKind::kOffice)
       return Fail(options.file, std::string("is ") + KindWords(kind) + ", no job of the filter yet",
                   "\"zarvo preview\" shows what becomes of it");
     report = ReportOn(std::move(split.facts));
-    if (!options.quick) Look(split, &progress, &report);
+    if (!options.quick) Look(split, *scratch, &progress, &report);
   }
   const std::vector<std::string> findings = Findings(report);
   if (options.json) {

@@ -131,21 +131,19 @@ std::string ReadableOptions(const Options& options) {
 /// headings of the cover, which the settings may have in another language.
 std::optional<Dictionary> FaxTicket(const Options& options) {
   Dictionary ticket;
-  std::string error;
   if (!options.settings.empty()) {
     std::string text;
     if (!ReadInput(options.settings, &text)) return std::nullopt;
-    std::optional<Dictionary> settings = ReadTicket(text, &error);
-    if (!settings) {
-      Fail(options.settings, error);
+    if (const Failure failure = ReadTicket(text, &ticket); !failure.empty()) {
+      Fail(options.settings, failure);
       return std::nullopt;
     }
-    ticket = *std::move(settings);
   }
-  const std::optional<Dictionary> given = ReadTicket(ReadableOptions(options), &error);
-  const Dictionary* given_fax = given ? DictionaryGetDictionary(*given, key::kFaxOptions) : nullptr;
+  Dictionary given;
+  const Failure failure = ReadTicket(ReadableOptions(options), &given);
+  const Dictionary* given_fax = DictionaryGetDictionary(given, key::kFaxOptions);
   if (given_fax == nullptr) {
-    Fail("fax", error);
+    Fail("fax", failure);
     return std::nullopt;
   }
   if (!options.at.empty() && DictionaryGetString(*given_fax, kFaxSendTimeProperty) != nullptr) {
@@ -173,15 +171,16 @@ int Preview(Options options) {
   // Who asks to see the cover wants one, whether or not the job does.
   Dictionary& fax = CFDictionaryGetDictionaryOrCreate(*ticket, key::kFaxOptions);
   fax.insert_or_assign(std::string(kFaxPrintCoverSheetProperty), Value::Boolean(true));
-  std::string error;
   const std::optional<FaxCover> cover = FaxCoverFromTicket(*ticket);
   if (!cover) return Fail(options.settings, "asks for no cover sheet");
-  std::optional<FaxCoverDrawing> helper = FaxCoverDrawing::Start(*cover, &error);
-  if (!helper) return Fail("cover sheet", error);
+  std::optional<FaxCoverDrawing> helper;
+  if (const Failure failure = FaxCoverDrawing::Start(*cover, &helper); !failure.empty())
+    return Fail("cover sheet", failure);
   std::string pdf;
   char block[65536];
-  while (const std::size_t got = std::fread(block, 1, sizeof block, helper->output()))
-    pdf.append(block, got);
+  std::FILE* const drawn = helper->output();
+  if (drawn == nullptr) return Fail("cover sheet", std::strerror(ENOMEM));
+  while (const std::size_t got = std::fread(block, 1, sizeof block, drawn)) pdf.append(block, got);
   const int status = helper->Wait();
   if (!WIFEXITED(status) || WEXITSTATUS(status) != 0)
     return Fail("cover sheet", "cannot be drawn", "The lines before this one tell why");

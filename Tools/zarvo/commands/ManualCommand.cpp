@@ -135,11 +135,11 @@ std::vector<std::string> Completions(const std::vector<std::string>& words) {
   const std::string last = words.empty() ? "" : words.back();
   const std::string previous = words.size() > 1 ? words[words.size() - 2] : "";
   std::vector<std::string> found;
-  std::string error;
   if (IsQueueOption(previous)) {
-    ListQueues(&found, &error);
+    ListQueues(&found);
   } else if (previous == "-o") {
-    const QueuePpd ppd(queue.empty() ? DefaultQueue() : queue, &error);
+    QueuePpd ppd;
+    ppd.Fetch(queue.empty() ? DefaultQueue() : queue);
     found = OptionWords(ppd.path(), last.find('=') != last.npos);
   } else {
     for (CLI::App* part : Subcommands(at)) found.push_back(part->get_name());

@@ -94,17 +94,18 @@ class Preview {
 
   /// An exit status.
   int Run() {
-    if (!scratch_) return Fail("TMPDIR", "no folder for temporary files can be made");
+    scratch_ = MakeScratchFolder();
+    if (!scratch_) return kExitFailure;
     std::error_code error;
     job_file_ = fs::absolute(options_.job, error);
     const fs::file_type type = fs::status(options_.job, error).type();
     if (options_.job == "-" || type == fs::file_type::fifo || type == fs::file_type::character) {
       // It can be read only once.
-      job_file_ = scratch_.File("job");
+      job_file_ = scratch_->File("job");
       const int status = Deliver(options_.job == "-" ? "/dev/stdin" : options_.job, job_file_);
       if (status != kExitOk) return status;
     }
-    const std::string failure = DrawAll();
+    const Failure failure = DrawAll();
     if (status_ == kExitFailure) return status_;  // told already
     if (!failure.empty()) return Fail(Title(), failure);
     const std::vector<std::string> findings = Findings(report_);
@@ -151,8 +152,8 @@ class Preview {
     source.options = option_text_;
     source.copies = CopiesWanted();
     PostScriptFiles split;
-    const std::string failure = MakeJob(
-        source, scratch_,
+    const Failure failure = MakeJob(
+        source, *scratch_,
         [&progress](std::uint64_t done, std::uint64_t total) { progress.Count(done, total); },
         &split, &complaints_);
     if (!failure.empty()) return failure;
@@ -165,10 +166,10 @@ class Preview {
   }
 
   std::string DrawAsPdf(const PostScriptFiles& split, Progress* progress) {
-    std::string failure = DrawAllPages(split, progress);
+    Failure failure = DrawAllPages(split, progress);
     if (!failure.empty()) return failure;
     progress->Stage("Putting the sheets together");
-    const std::string sheets = scratch_.File("sheets.pdf");
+    const std::string sheets = scratch_->File("sheets.pdf");
     failure = WriteSheetPdf(sides_, 0, sides_.size(), sheets);
     if (!failure.empty()) return failure;
     status_ = Deliver(sheets, options_.output);
@@ -182,13 +183,13 @@ class Preview {
     std::vector<SheetSide> ahead;
     {
       progress->Stage("Drawing the first pages");
-      const std::vector<DrawnPage> pages = DrawFirstPages(split, scratch_);
+      const std::vector<DrawnPage> pages = DrawFirstPages(split, *scratch_);
       ahead = ArrangeSides(pages, report_.job.postscript.pages);
       while (shown < ahead.size() && !(ahead[shown].file.empty() && ahead[shown].text.empty()))
         ++shown;
       if (pages.empty()) shown = 0;
     }
-    std::string failure;
+    Failure failure;
     {
       std::jthread pictures;
       std::string picture_failure;
@@ -206,7 +207,7 @@ class Preview {
 
   std::string Pictures(const std::vector<SheetSide>& sides, std::size_t first, std::size_t last,
                        Progress* progress) {
-    return DrawPictures(sides, first, last, options_.resolution, scratch_,
+    return DrawPictures(sides, first, last, options_.resolution, *scratch_,
                         [&, this](std::size_t side, const std::string& picture) {
                           const std::string name = PictureName(side, sides.size());
                           if (Deliver(picture, name) != kExitOk) status_ = kExitFailure;
@@ -230,7 +231,7 @@ class Preview {
     const std::uint64_t total = report_.job.postscript.pages;
     std::uint64_t done = 0;
     const std::vector<DrawnPage> pages = DrawPages(
-        split, scratch_, [&] { progress->Count(++done, total); }, &report_.looks);
+        split, *scratch_, [&] { progress->Count(++done, total); }, &report_.looks);
     if (pages.empty()) return NoPage();
     LookForMarks(split, progress);
     sides_ = ArrangeSides(pages, pages.size());
@@ -250,7 +251,7 @@ class Preview {
       if (!report_.job.jobs[i].HasMarkBehind()) continue;
       progress->Stage("Looking for the watermark");
       report_.looks[i].hidden =
-          LookAtPages(split.files[i], report_.job.jobs[i], kLongestRun).hidden;
+          LookAtPages(split.files[i], report_.job.jobs[i], kLongestRun, *scratch_).hidden;
     }
   }
 
@@ -363,7 +364,7 @@ class Preview {
   const Options& options_;
   std::string option_text_;
   std::string ppd_;
-  ScratchFolder scratch_;
+  std::unique_ptr<ScratchFolder> scratch_;
   std::string job_file_;
   JobReport report_;
   std::vector<SpecialSheet> special_;
@@ -381,15 +382,13 @@ int RunPreview(Options options) {
   if (!text) return kExitFailure;
   if (options.job != "-" && access(options.job.c_str(), R_OK) != 0)
     return Fail(options.job, std::strerror(errno));
-  std::unique_ptr<QueuePpd> queue;
+  QueuePpd queue;
   std::string ppd = options.ppd;
   std::string renderer = kBestRenderer;
   if (!options.queue.empty()) {
-    std::string error;
-    queue = std::make_unique<QueuePpd>(options.queue, &error);
-    if (queue->path().empty())
-      return Fail(options.queue, error, "\"lpstat -e\" shows the queues; -p takes a PPD file");
-    ppd = queue->path();
+    if (const Failure failure = queue.Fetch(options.queue); !failure.empty())
+      return Fail(options.queue, failure, "\"lpstat -e\" shows the queues; -p takes a PPD file");
+    ppd = queue.path();
     renderer = QueueDefault(options.queue, kRendererOption);
   }
   if (!ppd.empty()) {

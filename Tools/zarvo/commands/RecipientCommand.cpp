@@ -146,9 +146,10 @@ int Edit(const Options& options) {
 }
 
 int Remove(const Options& options) {
-  const FolderLock lock(AddressBookFolder());  // groups are read, changed and written
-  if (!lock && lock.error() == EAGAIN)
-    return Fail(AddressBookFolder(), "another program has been changing it for ten seconds",
+  const std::string folder = AddressBookFolder();
+  const FolderLock lock(folder);  // groups are read, changed and written
+  if (!lock && errno == EAGAIN)
+    return Fail(folder, "another program has been changing it for ten seconds",
                 "Try again when that has ended");
   std::vector<AddressBookRecord> records = AddressBookRecords();
   for (const std::string& who : options.who) {

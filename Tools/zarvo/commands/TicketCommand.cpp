@@ -25,18 +25,19 @@ struct Options {
 std::optional<Dictionary> Load(const std::string& input) {
   std::string text;
   if (!ReadInput(input, &text)) return std::nullopt;
-  std::string error;
-  std::optional<Dictionary> ticket = ReadTicket(text, &error);
-  if (!ticket) Fail(input == "-" ? "(stdin)" : input, error);
-  return ticket;
+  Dictionary ticket;
+  const Failure failure = ReadTicket(text, &ticket);
+  if (failure.empty()) return ticket;
+  Fail(input == "-" ? "(stdin)" : input, failure);
+  return std::nullopt;
 }
 
 int Encode(const Options& options) {
   const std::optional<Dictionary> ticket = Load(options.input);
   if (!ticket) return kExitFailure;
-  std::string error;
-  const auto flat = FlattenTicket(*ticket, &error);
-  if (!flat) return Fail("ticket", error);
+  std::vector<FlatOption> flat;
+  if (const Failure failure = FlattenTicket(*ticket, &flat); !failure.empty())
+    return Fail("ticket", failure);
   if (const std::string fault = SecretFault(*ticket); !fault.empty())
     std::fprintf(stderr, "zarvo: ticket: no queue should print this: %s\n",
                  PrintableText(fault).c_str());
@@ -44,9 +45,9 @@ int Encode(const Options& options) {
     std::fprintf(stderr, "zarvo: %s\n", PrintableText(finding.place + ": " + finding.text).c_str());
   std::string text;
   if (options.lines) {
-    for (const FlatOption& option : *flat) text += OptionText({option}) + "\n";
+    for (const FlatOption& option : flat) text += OptionText({option}) + "\n";
   } else {
-    text = OptionText(*flat) + "\n";
+    text = OptionText(flat) + "\n";
   }
   return WriteOutput(options.output, text);
 }

@@ -84,7 +84,7 @@ std::vector<std::string> Names(const Options& options) {
   return names;
 }
 
-std::string Describe(const _WatermarkData& data) {
+std::string Describe(const WatermarkData& data) {
   char text[200];
   if (data.textString[0] != '\0') {
     std::snprintf(text, sizeof text, "text, %.80s %d pt, %d degrees, at %.0f %.0f", data.fontName,
@@ -109,7 +109,7 @@ int List(const Options& options) {
     return Fail(StorePath(options), "cannot be read, or is damaged", "See \"zarvo doctor\"");
   nlohmann::ordered_json json = nlohmann::ordered_json::array();
   for (std::size_t i = 0; i < names.size(); ++i) {
-    _WatermarkData data{};
+    WatermarkData data{};
     const bool found = loadWatermarkData(options.collection(), &names[i], &data) == 1;
     const std::string what = found ? Describe(data) : i == 0 ? "no watermark" : "missing";
     if (options.json) {
@@ -143,7 +143,7 @@ bool CopyText(const std::string& text, char* field, std::size_t size) {
 }
 
 /// Where a text begins so that its middle is that of a Letter page, which is near that of A4.
-void Center(const Options& options, std::size_t characters, _WatermarkData* data) {
+void Center(const Options& options, std::size_t characters, WatermarkData* data) {
   constexpr double kMiddleX = 306, kMiddleY = 396;
   constexpr double kCharacterWidth = 0.7;  // of the size; a capital of a bold font
   constexpr double kCapitalHeight = 0.7;
@@ -156,7 +156,7 @@ void Center(const Options& options, std::size_t characters, _WatermarkData* data
       options.y.value_or(kMiddleY - std::sin(angle) * half_width - std::cos(angle) * half_height);
 }
 
-int Store(const Options& options, const _WatermarkData& data, const std::string& name) {
+int Store(const Options& options, const WatermarkData& data, const std::string& name) {
   Data font;
   loadFontData(options.collection(), name, &font);
   if (!font.empty()) return Fail(name, "names a font of the store", "Take another name");
@@ -165,7 +165,7 @@ int Store(const Options& options, const _WatermarkData& data, const std::string&
 }
 
 int AddText(const Options& options) {
-  _WatermarkData data{};
+  WatermarkData data{};
   const std::optional<std::string> text = MakeString(options.name);
   if (!text || text->empty() || !CopyText(*text, data.textString, sizeof data.textString))
     return Fail(options.name, "is no text of 1 to 511 bytes");
@@ -211,7 +211,7 @@ int AddImage(const Options& options) {
     const std::vector<Complaint> told = Complaints(log);
     return Fail(options.file, told.empty() ? ErrorLines(log) : told[0].text);
   }
-  _WatermarkData data{};
+  WatermarkData data{};
   fs::path image = source;
   if (!options.in_place) {
     // Jobs run as another user, who cannot look into people's folders.
@@ -223,7 +223,7 @@ int AddImage(const Options& options) {
     constexpr std::size_t kMaxImage = 256 << 20;
     const std::optional<std::string> bytes = ReadWholeFile(source, kMaxImage);
     if (!bytes) return Fail(options.file, std::strerror(errno));
-    if (WriteFileAtomically(image, *bytes, 0644) != 0) return CannotWrite(options);
+    if (!WriteFileAtomically(image, *bytes, 0644)) return CannotWrite(options);
   }
   if (!CopyText(name, data.filename, sizeof data.filename) ||
       !CopyText(image, data.filePath, sizeof data.filePath))
@@ -234,14 +234,14 @@ int AddImage(const Options& options) {
 }
 
 /// Loads a watermark, or says that there is none of that name.
-bool Load(const Options& options, _WatermarkData* data) {
+bool Load(const Options& options, WatermarkData* data) {
   if (loadWatermarkData(options.collection(), &options.name, data) == 1) return true;
   Fail(options.name, "no such watermark", "\"zarvo watermark list\" shows them");
   return false;
 }
 
 int Remove(const Options& options) {
-  _WatermarkData data{};
+  WatermarkData data{};
   const std::vector<std::string> names = Names(options);
   if (!MayBeNamed(options, options.name)) return kExitFailure;
   // A name whose entry is gone can still be taken off the list.
@@ -258,57 +258,56 @@ int Remove(const Options& options) {
 int Font(const Options& options) {
   std::string file;
   if (!ReadInput(options.file, &file)) return kExitFailure;
-  std::string error;
-  const std::optional<Data> font = PrinterFont(file, &error);
-  if (!font) return Fail(options.file, error);
-  const std::string name = options.name.empty() ? FontName(*font) : options.name;
+  Data font;
+  if (const Failure failure = PrinterFont(file, &font); !failure.empty())
+    return Fail(options.file, failure);
+  const std::string name = options.name.empty() ? FontName(font) : options.name;
   if (name.empty()) return Fail(options.file, "tells no name of the font", "Give --name");
-  _WatermarkData data{};
+  WatermarkData data{};
   if (!MayBeNamed(options, name)) return kExitFailure;
   if (loadWatermarkData(options.collection(), &name, &data) == 1)
     return Fail(name, "names a watermark", "Give another --name");
-  if (!addWatermarkFont(options.collection(), name, *font, kFirstEntry))
-    return CannotWrite(options);
+  if (!addWatermarkFont(options.collection(), name, font, kFirstEntry)) return CannotWrite(options);
   std::printf("%s\n", PrintableText(name).c_str());
   return kExitOk;
 }
 
 int Show(const Options& options) {
-  _WatermarkData data{};
+  WatermarkData data{};
   if (!Load(options, &data)) return kExitFailure;
-  const ScratchFolder scratch;
-  if (!scratch) return Fail("TMPDIR", "no folder for temporary files can be made");
+  const std::unique_ptr<ScratchFolder> scratch = MakeScratchFolder();
+  if (!scratch) return kExitFailure;
   Dictionary ticket;
   ticket.emplace(key::kWatermark, options.name);
   const WatermarkPlacement place = options.place == "background" ? kWatermarkBackground
                                    : options.place == "overlay"  ? kWatermarkOverlay
                                                                  : kWatermarkForeground;
   ticket.emplace(key::kWatermarkPlace, Number(std::int32_t{place}));
-  std::string error;
-  const auto flat = FlattenTicket(ticket, &error);
-  if (!flat) return Fail(options.name, error);
-  if (WriteFileAtomically(scratch.File("page.ps"), SamplePage, 0600) != 0)
-    return Fail(scratch.File("page.ps"), std::strerror(errno));
-  unsetenv("PPD");
+  std::vector<FlatOption> flat;
+  if (const Failure failure = FlattenTicket(ticket, &flat); !failure.empty())
+    return Fail(options.name, failure);
+  if (!WriteFileAtomically(scratch->File("page.ps"), SamplePage, 0600))
+    return Fail(scratch->File("page.ps"), std::strerror(errno));
   ChildRun filter;
-  filter.arguments = {FilterPath(),           "1", "zarvo", "watermark", "1", OptionText(*flat),
-                      scratch.File("page.ps")};
-  filter.output = scratch.File("job.prn");
+  filter.environment = ChildEnvironment(*scratch);
+  filter.arguments = {
+      FilterPath(), "1", "zarvo", "watermark", "1", OptionText(flat), scratch->File("page.ps")};
+  filter.output = scratch->File("job.prn");
   std::string log;
   if (!RunChild(filter, &log)) return Fail(filter.arguments[0], ErrorLines(log));
   if (const auto lost = Complaints(log); !lost.empty()) return Fail(options.name, lost[0].text);
-  const Stream made(std::fopen(scratch.File("job.prn").c_str(), "rbe"));
+  const Stream made(std::fopen(scratch->File("job.prn").c_str(), "rbe"));
   PostScriptFiles split;
-  std::string failure = made ? SplitJob(made.get(), scratch, {}, &split) : std::strerror(errno);
+  Failure failure = made ? SplitJob(made.get(), *scratch, {}, &split) : std::strerror(errno);
   Drawing drawing;
   drawing.inputs = split.files;
   drawing.device = "png16m";
-  drawing.output = scratch.File("page-%d.png");
+  drawing.output = scratch->File("page-%d.png");
   drawing.resolution = 72;
-  if (failure.empty()) failure = Draw(drawing);
+  if (failure.empty()) failure = Draw(drawing, *scratch);
   if (!failure.empty()) return Fail(options.name, failure);
   const std::string target = options.output.empty() ? options.name + ".png" : options.output;
-  return Deliver(scratch.File("page-1.png"), target);
+  return Deliver(scratch->File("page-1.png"), target);
 }
 
 /// The value in the quotes of a ZRVTicket attribute. A double quote would end the attribute.
@@ -323,9 +322,9 @@ std::string Quoted(const std::string& name) {
 }
 
 int Publish(const Options& options) {
-  std::string error;
-  const QueuePpd queue(options.queue, &error);
-  if (queue.path().empty()) return Fail(options.queue, error);
+  QueuePpd queue;
+  if (const Failure failure = queue.Fetch(options.queue); !failure.empty())
+    return Fail(options.queue, failure);
   std::string ppd;
   if (!ReadInput(queue.path(), &ppd)) return kExitFailure;
   std::vector<PublishedChoice> choices;
@@ -337,8 +336,9 @@ int Publish(const Options& options) {
     }
     choices.push_back({names[i], std::string(key::kWatermark) + "=" + Quoted(names[i])});
   }
-  const std::string changed = PublishChoices(ppd, "Watermark", choices, &error);
-  if (changed.empty()) return Fail(options.queue, error);
+  std::string changed;
+  if (const Failure failure = PublishChoices(ppd, "Watermark", choices, &changed); !failure.empty())
+    return Fail(options.queue, failure);
   return InstallPpd(options.queue, changed);
 }
 

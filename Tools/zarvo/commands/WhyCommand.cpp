@@ -50,26 +50,25 @@ int Why(const Options& options) {
   const int number = JobNumber(options.job);
   if (number == 0 && !options.job.empty())
     return Fail(options.job, "is no job", "Take the number that lp told, or none for the newest");
-  std::string error;
-  const std::optional<SpoolerJob> job = FindSpoolerJob(number, &error);
-  if (!job)
-    return Fail(options.job.empty() ? "newest job" : options.job, error,
+  SpoolerJob job;
+  if (const Failure failure = FindSpoolerJob(number, &job); !failure.empty())
+    return Fail(options.job.empty() ? "newest job" : options.job, failure,
                 "\"lpstat -W all\" lists the jobs that the spooler knows");
-  const StateRow& row = RowOf(job->state);
-  const std::string name = job->queue + "-" + std::to_string(job->number);
-  const std::vector<std::string> notices = NoticesOf(job->message);
-  const bool failed = job->state == JobState::kStopped || job->state == JobState::kAborted;
+  const StateRow& row = RowOf(job.state);
+  const std::string name = job.queue + "-" + std::to_string(job.number);
+  const std::vector<std::string> notices = NoticesOf(job.message);
+  const bool failed = job.state == JobState::kStopped || job.state == JobState::kAborted;
   const int status = failed || !notices.empty() ? kExitFindings : kExitOk;
   if (options.json) {
     const nlohmann::ordered_json json = {{"job", name},
-                                         {"title", job->title},
+                                         {"title", job.title},
                                          {"state", row.word},
                                          {"notices", notices},
                                          {"remedy", Remedy(row, name)}};
     std::printf("%s\n", json.dump(2, ' ', false, nlohmann::json::error_handler_t::replace).c_str());
     return status;
   }
-  std::printf("%s\n", PrintableText(name + (job->title.empty() ? " " : " \"" + job->title + "\" ") +
+  std::printf("%s\n", PrintableText(name + (job.title.empty() ? " " : " \"" + job.title + "\" ") +
                                     row.word +
                                     (notices.empty() ? "." : std::string("; ") + row.message + ":"))
                           .c_str());

@@ -15,10 +15,9 @@ std::optional<std::string> OptionTextOf(const std::vector<std::string>& options,
                                         bool* doubtful) {
   std::string text;
   for (const std::string& option : options) text += (text.empty() ? "" : " ") + option;
-  std::string error;
-  const auto flat = FlattenTicket(ticket, &error);
-  if (!flat) {
-    Fail(place, error);
+  std::vector<FlatOption> flat;
+  if (const Failure failure = FlattenTicket(ticket, &flat); !failure.empty()) {
+    Fail(place, failure);
     return std::nullopt;
   }
   const std::vector<TicketFinding> findings = CheckTicket(ticket, /*whole=*/false);
@@ -26,8 +25,8 @@ std::optional<std::string> OptionTextOf(const std::vector<std::string>& options,
   for (const TicketFinding& finding : findings)
     std::fprintf(stderr, "zarvo: %s\n",
                  PrintableText(place + ": " + finding.place + ": " + finding.text).c_str());
-  if (flat->empty()) return text;
-  return text + (text.empty() ? "" : " ") + OptionText(*flat);
+  if (flat.empty()) return text;
+  return text + (text.empty() ? "" : " ") + OptionText(flat);
 }
 
 std::optional<std::string> OptionTextOf(const JobOptions& job, bool* doubtful) {
@@ -35,13 +34,10 @@ std::optional<std::string> OptionTextOf(const JobOptions& job, bool* doubtful) {
   if (!job.settings.empty()) {
     std::string readable;
     if (!ReadInput(job.settings, &readable)) return std::nullopt;
-    std::string error;
-    std::optional<Dictionary> read = ReadTicket(readable, &error);
-    if (!read) {
-      Fail(job.settings, error);
+    if (const Failure failure = ReadTicket(readable, &ticket); !failure.empty()) {
+      Fail(job.settings, failure);
       return std::nullopt;
     }
-    ticket = *std::move(read);
   }
   return OptionTextOf(job.options, ticket, job.settings, doubtful);
 }

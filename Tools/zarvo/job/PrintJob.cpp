@@ -97,8 +97,8 @@ void AddPrintOptions(CLI::App& app, PrintJob* job) {
 }
 
 int PrintChecked(PrintJob job, const std::string& options, bool doubtful) {
-  std::string error;
-  const QueuePpd ppd(job.queue, &error);
+  QueuePpd ppd;
+  ppd.Fetch(job.queue);
   std::vector<std::string> faults;
   if (!ppd.path().empty() && UsesOurFilter(ppd.path())) faults = OptionFaults(options, ppd.path());
   for (const std::string& fault : faults)
@@ -112,10 +112,10 @@ int PrintChecked(PrintJob job, const std::string& options, bool doubtful) {
   const Stream file(job.file != "-" ? std::fopen(job.file.c_str(), "rbe") : nullptr);
   start.resize(file ? std::fread(start.data(), 1, start.size(), file.get()) : 0);
   if (KindOfJob(start, job.file) != JobKind::kOffice) return Send(job, options);
-  const ScratchFolder scratch;
-  if (!scratch) return Fail("TMPDIR", "no folder for temporary files can be made");
+  const std::unique_ptr<ScratchFolder> scratch = MakeScratchFolder();
+  if (!scratch) return kExitFailure;
   std::string pdf;
-  const std::string failure = ConvertOfficeDocument(job.file, scratch, &pdf);
+  const Failure failure = ConvertOfficeDocument(job.file, *scratch, &pdf);
   if (!failure.empty()) return Fail(job.file, failure);
   if (job.title.empty()) job.title = BaseName(job.file);
   job.file = pdf;

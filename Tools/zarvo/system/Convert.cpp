@@ -57,6 +57,7 @@ class Chain {
     if (!arguments_.empty()) {
       ProcessOptions options;
       options.arguments = arguments_;
+      options.environment = ChildEnvironment(scratch, source_.ppd);
       options.error_fd = errors.get();
       options.wall_clock = kLongestRun;
       converter = Process::Start(options);
@@ -74,13 +75,16 @@ class Chain {
                          source_.title,
                          std::to_string(source_.copies),
                          source_.options};
+    options.environment = ChildEnvironment(scratch, source_.ppd);
     options.input_fd = feed.get();
     options.error_fd = filter_errors.get();
     options.wall_clock = kLongestRun;
     std::optional<Process> filter = Process::Start(options);
     if (!filter) return Failed(options.arguments[0] + ": " + std::strerror(errno));
     feed.reset();
-    failure_ = SplitJob(filter->output(), scratch, page, split);
+    std::FILE* const job = filter->output();
+    if (job == nullptr) return Failed(std::strerror(ENOMEM));
+    failure_ = SplitJob(job, scratch, page, split);
     const int status = filter->Wait();
     filter_log_ = ReadLog(filter_errors.get());
     if (converter) {
@@ -94,7 +98,7 @@ class Chain {
     return true;
   }
 
-  const std::string& failure() const { return failure_; }
+  const Failure& failure() const { return failure_; }
   const std::string& converter_log() const { return converter_log_; }
   const std::string& filter_log() const { return filter_log_; }
 
@@ -106,7 +110,7 @@ class Chain {
 
   const JobSource& source_;
   std::vector<std::string> arguments_;
-  std::string failure_;
+  Failure failure_;
   std::string converter_log_;
   std::string filter_log_;
 };
@@ -128,22 +132,17 @@ std::vector<std::vector<std::string>> Converters(const JobSource& source, JobKin
 
 }  // namespace
 
-std::string MakeJob(const JobSource& given, const ScratchFolder& scratch, const PageListener& page,
-                    PostScriptFiles* split, std::vector<Complaint>* complaints) {
+Failure MakeJob(const JobSource& given, const ScratchFolder& scratch, const PageListener& page,
+                PostScriptFiles* split, std::vector<Complaint>* complaints) {
   JobSource source = given;
   JobKind kind = KindOfJob(StartOf(source.file), source.file);
   if (kind == JobKind::kEmpty) return "is empty: neither PostScript nor PDF";
   if (kind == JobKind::kOffice) {
     std::string pdf;
-    const std::string failure = ConvertOfficeDocument(source.file, scratch, &pdf);
+    const Failure failure = ConvertOfficeDocument(source.file, scratch, &pdf);
     if (!failure.empty()) return failure;
     source.file = pdf;
     kind = JobKind::kPdf;
-  }
-  if (source.ppd.empty()) {
-    unsetenv("PPD");
-  } else {
-    setenv("PPD", source.ppd.c_str(), 1);
   }
   const auto converters = Converters(source, kind);
   if (converters.empty())

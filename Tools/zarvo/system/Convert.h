@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "Platform/Failure.h"
 #include "Tools/zarvo/system/Run.h"
 
 namespace zarvo::tool {
@@ -24,8 +25,8 @@ using PageListener = std::function<void(std::uint64_t, std::uint64_t)>;
 
 /// Has the spooler's programs and the filter make a job of the file and takes its PostScript apart.
 /// They work at the same time, so that the first pages come out early. `complaints` gets what the
-/// filter has to say about what it left out. Gives an empty text, or why it failed.
-std::string MakeJob(const JobSource& source, const ScratchFolder& scratch, const PageListener& page,
-                    PostScriptFiles* split, std::vector<Complaint>* complaints);
+/// filter has to say about what it left out.
+Failure MakeJob(const JobSource& source, const ScratchFolder& scratch, const PageListener& page,
+                PostScriptFiles* split, std::vector<Complaint>* complaints);
 
 }  // namespace zarvo::tool

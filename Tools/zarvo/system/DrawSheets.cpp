@@ -34,10 +34,11 @@ struct Piece {
 };
 
 /// How many pages of the piece come out. Of none the PDF file would still show an empty one.
-std::size_t PagesOf(const Piece& piece, const PostScriptFiles& split) {
+std::size_t PagesOf(const Piece& piece, const PostScriptFiles& split,
+                    const ScratchFolder& scratch) {
   const std::size_t pages = CountPdfPages(piece.file);
   if (pages != 1 || piece.told > 0) return pages;
-  const PageLook look = LookAtPages(split.files[piece.job], {}, kLongestRun);
+  const PageLook look = LookAtPages(split.files[piece.job], {}, kLongestRun, scratch);
   return look.whole && look.pages < std::max<std::uint64_t>(piece.first, 1) ? 0 : 1;
 }
 
@@ -76,7 +77,7 @@ std::vector<DrawnPage> DrawFirstPages(const PostScriptFiles& split, const Scratc
   drawing.last = kFirstPages;
   drawing.stop = true;
   drawing.page = [] {};
-  Draw(drawing);
+  Draw(drawing, scratch);
   std::vector<DrawnPage> pages;
   const std::size_t count = std::min<std::size_t>(CountPdfPages(drawing.output), kFirstPages);
   for (std::size_t page = 0; page < count; ++page) pages.push_back({drawing.output, page});
@@ -103,7 +104,7 @@ std::vector<DrawnPage> DrawPages(const PostScriptFiles& split, const ScratchFold
         const std::lock_guard lock(mutex);
         page();
       };
-      piece.fault = Draw(drawing);
+      piece.fault = Draw(drawing, scratch);
     });
   }
   RunTasks(tasks);
@@ -112,18 +113,18 @@ std::vector<DrawnPage> DrawPages(const PostScriptFiles& split, const ScratchFold
   for (const Piece& piece : pieces) {
     PageLook& look = (*looks)[piece.job];
     if (look.fault.empty()) look.fault = piece.fault;
-    const std::size_t count = PagesOf(piece, split);
+    const std::size_t count = PagesOf(piece, split, scratch);
     look.pages += count;
     for (std::size_t i = 0; i < count; ++i) pages.push_back({piece.file, i});
   }
   return pages;
 }
 
-std::string DrawPictures(const std::vector<SheetSide>& sides, std::size_t first, std::size_t last,
-                         int resolution, const ScratchFolder& scratch,
-                         const std::function<void(std::size_t, const std::string&)>& deliver) {
+Failure DrawPictures(const std::vector<SheetSide>& sides, std::size_t first, std::size_t last,
+                     int resolution, const ScratchFolder& scratch,
+                     const std::function<void(std::size_t, const std::string&)>& deliver) {
   std::mutex mutex;
-  std::string failure;
+  Failure failure;
   std::vector<std::function<void()>> tasks;
   for (std::size_t from = first; from < last; from += kBatch) {
     tasks.emplace_back([&, from] {
@@ -135,7 +136,7 @@ std::string DrawPictures(const std::vector<SheetSide>& sides, std::size_t first,
       drawing.output = name + "-%d.png";
       drawing.resolution = resolution;
       std::string fault = WriteSheetPdf(sides, from, to, drawing.inputs[0]);
-      if (fault.empty()) fault = Draw(drawing);
+      if (fault.empty()) fault = Draw(drawing, scratch);
       const std::lock_guard lock(mutex);
       if (!fault.empty()) failure = fault;
       std::error_code error;

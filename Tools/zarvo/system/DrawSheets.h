@@ -12,6 +12,7 @@
 #include <string>
 #include <vector>
 
+#include "Platform/Failure.h"
 #include "Tools/zarvo/system/PageLook.h"
 #include "Tools/zarvo/system/Run.h"
 #include "Tools/zarvo/system/SheetPdf.h"
@@ -39,9 +40,9 @@ std::vector<DrawnPage> DrawPages(const PostScriptFiles& split, const ScratchFold
 
 /// Draws sides as PNG files and hands each over as soon as it is there and those before it in the
 /// same batch are: its index among the sides and its file. `deliver` is called by one thread at a
-/// time. Gives an empty text, or why it failed.
-std::string DrawPictures(const std::vector<SheetSide>& sides, std::size_t first, std::size_t last,
-                         int resolution, const ScratchFolder& scratch,
-                         const std::function<void(std::size_t, const std::string&)>& deliver);
+/// time.
+Failure DrawPictures(const std::vector<SheetSide>& sides, std::size_t first, std::size_t last,
+                     int resolution, const ScratchFolder& scratch,
+                     const std::function<void(std::size_t, const std::string&)>& deliver);
 
 }  // namespace zarvo::tool

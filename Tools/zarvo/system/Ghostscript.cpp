@@ -33,10 +33,11 @@ std::string InterpreterError(const std::string& log) {
   return log.substr(error, log.find('\n', error) - error);
 }
 
-std::string Draw(const Drawing& drawing) {
+Failure Draw(const Drawing& drawing, const ScratchFolder& scratch) {
   const std::string program = FindProgram("gs");
   if (program.empty()) return "Ghostscript is not installed; install the package ghostscript";
   ChildRun run;
+  run.environment = ChildEnvironment(scratch);
   run.arguments = {program,
                    "-q",
                    "-dBATCH",

@@ -7,6 +7,9 @@
 #include <string>
 #include <vector>
 
+#include "Platform/Failure.h"
+#include "Platform/ScratchFolder.h"
+
 namespace zarvo::tool {
 
 struct Drawing {
@@ -23,8 +26,9 @@ struct Drawing {
   std::function<void()> page = {};
 };
 
-/// Draws. Gives an empty text, or why it could not draw all: what the interpreter said.
-std::string Draw(const Drawing& drawing);
+/// Draws; the interpreter's temporary files go into the folder. It fails, with what the interpreter
+/// said, when it could not draw all.
+Failure Draw(const Drawing& drawing, const ScratchFolder& scratch);
 
 /// What Ghostscript said was wrong, from all that it has said.
 std::string InterpreterError(const std::string& log);

@@ -24,14 +24,15 @@ std::string OfficeProgram() {
   return program.empty() ? FindProgram("libreoffice") : program;
 }
 
-std::string ConvertOfficeDocument(const std::string& document, const ScratchFolder& scratch,
-                                  std::string* pdf) {
+Failure ConvertOfficeDocument(const std::string& document, const ScratchFolder& scratch,
+                              std::string* pdf) {
   const std::string program = OfficeProgram();
   if (program.empty())
     return std::string("is an office document, which nothing here can read. ") + kOfficeRemedy;
   // A running office program of the same user would take the work over, without any limit; so this
   // one gets settings of its own. Macros of the document do not run in these.
   ChildRun run;
+  run.environment = ChildEnvironment(scratch);
   run.arguments = {program,
                    "-env:UserInstallation=file://" + scratch.File("office"),
                    "--headless",

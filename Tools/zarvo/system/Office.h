@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "Platform/Failure.h"
 #include "Tools/zarvo/system/Run.h"
 
 namespace zarvo::tool {
@@ -17,8 +18,8 @@ inline constexpr const char* kOfficeRemedy =
 std::string OfficeProgram();
 
 /// Converts an office document to the PDF file `pdf` by LibreOffice, which works in a folder of its
-/// own, with the limits that every converter has. Gives an empty text, or why it failed.
-std::string ConvertOfficeDocument(const std::string& document, const ScratchFolder& scratch,
-                                  std::string* pdf);
+/// own, with the limits that every converter has.
+Failure ConvertOfficeDocument(const std::string& document, const ScratchFolder& scratch,
+                              std::string* pdf);
 
 }  // namespace zarvo::tool

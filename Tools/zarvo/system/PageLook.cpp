@@ -33,8 +33,10 @@ struct Raster {
 /// A running interpreter whose pages are read one by one.
 class Pages {
  public:
-  Pages(const std::string& file, std::chrono::milliseconds limit) : errors_(OpenMemoryFile("")) {
+  Pages(const std::string& file, std::chrono::milliseconds limit, const ScratchFolder& scratch)
+      : errors_(OpenMemoryFile("")) {
     ProcessOptions options;
+    options.environment = ChildEnvironment(scratch);
     options.arguments = {FindProgram("gs"),
                          "-q",
                          "-dBATCH",
@@ -133,7 +135,7 @@ std::vector<std::uint64_t> Hidden(const std::vector<std::size_t>& seen, bool fir
 }  // namespace
 
 PageLook LookAtPages(const std::string& file, const PostScriptFacts& facts,
-                     std::chrono::milliseconds limit) {
+                     std::chrono::milliseconds limit, const ScratchFolder& scratch) {
   PageLook look;
   if (FindProgram("gs").empty()) {
     look.whole = false;
@@ -144,9 +146,9 @@ PageLook LookAtPages(const std::string& file, const PostScriptFacts& facts,
   std::string plain;
   if (facts.HasMarkBehind() && facts.hooks_at > 0 && facts.hooks_at < kMostHead)
     plain = WithoutMark(file, facts.hooks_at);
-  Pages pages(file, limit);
+  Pages pages(file, limit, scratch);
   std::optional<Pages> others;
-  if (!plain.empty()) others.emplace(plain, limit);
+  if (!plain.empty()) others.emplace(plain, limit, scratch);
   Raster page;
   Raster other;
   std::vector<std::size_t> seen;

@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "Platform/ScratchFolder.h"
 #include "Tools/zarvo/job/DocumentFacts.h"
 
 namespace zarvo::tool {
@@ -23,9 +24,9 @@ struct PageLook {
   std::vector<std::uint64_t> hidden;  ///< the pages, from 1, on which the mark cannot be seen
 };
 
-/// Draws the file. Takes no longer than `limit`; `whole` is false then, and when Ghostscript is
-/// missing (`fault` tells).
+/// Draws the file; the interpreter's temporary files go into the folder. Takes no longer than
+/// `limit`; `whole` is false then, and when Ghostscript is missing (`fault` tells).
 PageLook LookAtPages(const std::string& file, const PostScriptFacts& facts,
-                     std::chrono::milliseconds limit);
+                     std::chrono::milliseconds limit, const ScratchFolder& scratch);
 
 }  // namespace zarvo::tool

@@ -104,8 +104,8 @@ std::vector<std::string> Languages(const std::vector<std::string_view>& lines) {
 
 }  // namespace
 
-std::string PublishChoices(std::string_view ppd, const std::string& option,
-                           const std::vector<PublishedChoice>& choices, std::string* error) {
+Failure PublishChoices(std::string_view ppd, const std::string& option,
+                       const std::vector<PublishedChoice>& choices, std::string* changed) {
   const std::string mark = std::string(kMark) + option;
   std::vector<std::string_view> kept;
   bool published = false;
@@ -136,22 +136,21 @@ std::string PublishChoices(std::string_view ppd, const std::string& option,
     result += std::string(line) + "\n";
     found = found || end;
   }
-  if (!found) {
-    *error = "its PPD has no option " + option;
-    return "";
-  }
-  return result + after;
+  if (!found) return "its PPD has no option " + option;
+  *changed = result + after;
+  return "";
 }
 
 int InstallPpd(const std::string& queue, const std::string& ppd) {
   const std::string program = FindProgram("lpadmin");
   if (program.empty())
     return Fail("lpadmin", "is not installed", "Install the package cups-client");
-  const ScratchFolder scratch;
-  if (!scratch) return Fail("TMPDIR", "no folder for temporary files can be made");
-  const std::string file = scratch.File("queue.ppd");
-  if (WriteFileAtomically(file, ppd, 0600) != 0) return Fail(file, std::strerror(errno));
+  const std::unique_ptr<ScratchFolder> scratch = MakeScratchFolder();
+  if (!scratch) return kExitFailure;
+  const std::string file = scratch->File("queue.ppd");
+  if (!WriteFileAtomically(file, ppd, 0600)) return Fail(file, std::strerror(errno));
   ChildRun lpadmin;
+  lpadmin.environment = ChildEnvironment(*scratch);
   lpadmin.arguments = {program, "-p", queue, "-P", file};
   std::string log;
   if (RunChild(lpadmin, &log)) return kExitOk;

@@ -10,6 +10,8 @@
 #include <string_view>
 #include <vector>
 
+#include "Platform/Failure.h"
+
 namespace zarvo::tool {
 
 struct PublishedChoice {
@@ -18,10 +20,10 @@ struct PublishedChoice {
 };
 
 /// The PPD with these choices at the end of the option's own, in place of those published before.
-/// A title that is one of the PPD's own choices is left as it is. Empty, with the reason in
-/// `error`, when the PPD has no such option.
-std::string PublishChoices(std::string_view ppd, const std::string& option,
-                           const std::vector<PublishedChoice>& choices, std::string* error);
+/// A title that is one of the PPD's own choices is left as it is. Fails when the PPD has no such
+/// option.
+Failure PublishChoices(std::string_view ppd, const std::string& option,
+                       const std::vector<PublishedChoice>& choices, std::string* changed);
 
 /// Gives the queue the PPD. An exit status; what failed is told.
 int InstallPpd(const std::string& queue, const std::string& ppd);

@@ -16,27 +16,25 @@ namespace {
 
 using Connection = std::unique_ptr<http_t, decltype(&httpClose)>;
 
-Connection Connect(std::string* error) {
+constexpr char kNoAnswer[] =
+    "the spooler does not answer; start it, for example with \"systemctl start cups\"";
+
+Connection Connect() {
   constexpr int kMilliseconds = 10'000;
   http_t* spooler = httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
                                  kMilliseconds, nullptr);
-  if (spooler == nullptr)
-    *error =
-        "the spooler does not answer; start it, for example with "
-        "\"systemctl start cups\"";
   return {spooler, &httpClose};
 }
 
 }  // namespace
 
-QueuePpd::QueuePpd(const std::string& queue, std::string* error) {
-  const Connection spooler = Connect(error);
-  if (!spooler) return;
-  if (const char* path = cupsGetPPD2(spooler.get(), queue.c_str())) {
-    path_ = path;
-  } else {
-    *error = cupsLastErrorString();
-  }
+Failure QueuePpd::Fetch(const std::string& queue) {
+  const Connection spooler = Connect();
+  if (!spooler) return kNoAnswer;
+  const char* path = cupsGetPPD2(spooler.get(), queue.c_str());
+  if (path == nullptr) return cupsLastErrorString();
+  path_ = path;
+  return "";
 }
 
 QueuePpd::~QueuePpd() {
@@ -44,16 +42,16 @@ QueuePpd::~QueuePpd() {
   if (!path_.empty()) std::filesystem::remove(path_, error);
 }
 
-bool ListQueues(std::vector<std::string>* names, std::string* error) {
-  const Connection spooler = Connect(error);
-  if (!spooler) return false;
+Failure ListQueues(std::vector<std::string>* names) {
+  const Connection spooler = Connect();
+  if (!spooler) return kNoAnswer;
   cups_dest_t* destinations = nullptr;
   const int count = cupsGetDests2(spooler.get(), &destinations);
   for (int i = 0; i < count; ++i) {
     if (destinations[i].instance == nullptr) names->emplace_back(destinations[i].name);
   }
   cupsFreeDests(count, destinations);
-  return true;
+  return "";
 }
 
 std::string DefaultQueue() {
@@ -77,8 +75,7 @@ std::vector<std::string> OptionWords(const std::string& path, bool values) {
 }
 
 std::string QueueDefault(const std::string& queue, const std::string& option) {
-  std::string error;
-  const Connection spooler = Connect(&error);
+  const Connection spooler = Connect();
   if (!spooler) return "";
   char uri[HTTP_MAX_URI];
   httpAssembleURIf(HTTP_URI_CODING_ALL, uri, sizeof uri, "ipp", nullptr, "localhost", 0,
@@ -94,7 +91,7 @@ std::string QueueDefault(const std::string& queue, const std::string& option) {
   return value != nullptr ? value : "";
 }
 
-std::string PpdFault(const std::string& path) {
+Failure PpdFault(const std::string& path) {
   const std::unique_ptr<ppd_file_t, decltype(&ppdClose)> ppd(ppdOpenFile(path.c_str()), &ppdClose);
   if (ppd != nullptr) return "";
   int line = 0;

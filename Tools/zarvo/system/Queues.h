@@ -7,25 +7,28 @@
 #include <string>
 #include <vector>
 
+#include "Platform/Failure.h"
+
 namespace zarvo::tool {
 
 /// A queue's PPD file as the spooler hands it out: a temporary copy, removed with the object.
 class QueuePpd {
  public:
-  /// Fetches it. On failure path() is empty and `error` tells why.
-  QueuePpd(const std::string& queue, std::string* error);
+  QueuePpd() = default;
   ~QueuePpd();
   QueuePpd(const QueuePpd&) = delete;
   QueuePpd& operator=(const QueuePpd&) = delete;
 
+  Failure Fetch(const std::string& queue);
+  /// Empty until it has been fetched.
   const std::string& path() const { return path_; }
 
  private:
   std::string path_;
 };
 
-/// The names of the spooler's queues. False, with the reason in `error`, when it does not answer.
-bool ListQueues(std::vector<std::string>* names, std::string* error);
+/// The names of the spooler's queues.
+Failure ListQueues(std::vector<std::string>* names);
 
 /// The queue that jobs go to when none is named, or an empty text.
 std::string DefaultQueue();
@@ -42,8 +45,8 @@ inline constexpr const char* kBestRenderer = "pdftops";
 /// The queue's own default of an option, or an empty text when it has none.
 std::string QueueDefault(const std::string& queue, const std::string& option);
 
-/// Why the PPD file cannot be used, with its line, or an empty text.
-std::string PpdFault(const std::string& path);
+/// Why the PPD file cannot be used, with its line.
+Failure PpdFault(const std::string& path);
 
 /// Whether the PPD file has jobs pass through our filter.
 bool UsesOurFilter(const std::string& path);

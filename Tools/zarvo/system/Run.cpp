@@ -42,20 +42,20 @@ void ReadLines(std::FILE* output, const std::function<void(std::string_view)>& h
 
 }  // namespace
 
-ScratchFolder::ScratchFolder() {
-  std::error_code error;
-  std::string name = fs::temp_directory_path(error) / "zarvo-XXXXXX";
-  NoteTermination();  // so that the folder goes when the user has had enough
-  if (!error && mkdtemp(name.data()) != nullptr) path_ = name;
-  // What a program leaves behind when it is ended goes with the folder.
-  if (!path_.empty()) setenv("TMPDIR", path_.c_str(), 1);
+std::unique_ptr<ScratchFolder> MakeScratchFolder() {
+  NoteTermination();
+  std::unique_ptr<ScratchFolder> scratch = ScratchFolder::Create();
+  if (!scratch)
+    Fail(TemporaryFolder(), "no folder for temporary files can be made in it",
+         "Let TMPDIR name another one");
+  return scratch;
 }
 
-ScratchFolder::~ScratchFolder() {
-  std::error_code error;
-  if (path_.empty()) return;
-  setenv("TMPDIR", path_.parent_path().c_str(), 1);
-  fs::remove_all(path_, error);
+std::vector<std::string> ChildEnvironment(const ScratchFolder& scratch, const std::string& ppd) {
+  std::vector<std::string> environment = scratch.Environment();
+  std::erase_if(environment, [](const std::string& entry) { return entry.starts_with("PPD="); });
+  if (!ppd.empty()) environment.push_back("PPD=" + ppd);
+  return environment;
 }
 
 bool CopyAll(std::FILE* input, std::FILE* output) {
@@ -86,6 +86,7 @@ bool RunChild(const ChildRun& run, std::string* log) {
   const UniqueFd errors = OpenMemoryFile("");
   ProcessOptions options;
   options.arguments = run.arguments;
+  options.environment = run.environment;
   options.input_fd = input.get();
   options.error_fd = errors.get();
   options.wall_clock = run.limit;
@@ -96,14 +97,19 @@ bool RunChild(const ChildRun& run, std::string* log) {
     *log = run.arguments[0] + ": cannot be started: " + std::strerror(errno);
     return false;
   }
+  std::FILE* const source = process->output();
+  if (source == nullptr) {
+    *log = run.arguments[0] + ": there is not enough memory to read what it writes";
+    return false;
+  }
   const Stream output(std::fopen(run.output.empty() ? "/dev/null" : run.output.c_str(), "wbe"));
   bool copied = false;
   std::string said;
   if (run.output.empty()) {
-    ReadLines(process->output(), run.line, &said);
-    copied = std::ferror(process->output()) == 0;
+    ReadLines(source, run.line, &said);
+    copied = std::ferror(source) == 0;
   } else if (output) {
-    copied = CopyAll(process->output(), output.get());
+    copied = CopyAll(source, output.get());
   }
   const int error = errno;
   const int status = process->Wait();
@@ -162,11 +168,11 @@ std::vector<Complaint> Complaints(const std::string& log) {
   return complaints;
 }
 
-std::string SplitJob(std::FILE* job, const ScratchFolder& scratch,
-                     const std::function<void(std::uint64_t, std::uint64_t)>& page,
-                     PostScriptFiles* split) {
+Failure SplitJob(std::FILE* job, const ScratchFolder& scratch,
+                 const std::function<void(std::uint64_t, std::uint64_t)>& page,
+                 PostScriptFiles* split) {
   Stream output;
-  std::string failure;
+  Failure failure;
   std::uint64_t pages = 0;
   std::uint64_t announced = 0;
   PostScriptSink sink;

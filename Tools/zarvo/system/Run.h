@@ -5,13 +5,15 @@
 #include <chrono>
 #include <cstdint>
 #include <cstdio>
-#include <filesystem>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "Platform/Failure.h"
+#include "Platform/ScratchFolder.h"
 #include "Tools/zarvo/job/JobFile.h"
 
 namespace zarvo::tool {
@@ -21,29 +23,25 @@ struct StreamCloser {
 };
 using Stream = std::unique_ptr<std::FILE, StreamCloser>;
 
-/// A folder for intermediate files, for the user's eyes only, removed with all it holds.
-class ScratchFolder {
- public:
-  ScratchFolder();
-  ~ScratchFolder();
-  ScratchFolder(const ScratchFolder&) = delete;
-  ScratchFolder& operator=(const ScratchFolder&) = delete;
+/// Makes the folder of a command's intermediate files. Null when that fails, which is told. From
+/// now on a signal that asks the tool to end is noted, so that the command clears away what it has
+/// made.
+std::unique_ptr<ScratchFolder> MakeScratchFolder();
 
-  /// False when it could not be made.
-  explicit operator bool() const { return !path_.empty(); }
-  std::string File(const std::string& name) const { return path_ / name; }
-
- private:
-  std::filesystem::path path_;
-};
+/// This program's environment for a child whose temporary files go into the folder; the filter is
+/// given this PPD file, or none.
+std::vector<std::string> ChildEnvironment(const ScratchFolder& scratch,
+                                          const std::string& ppd = "");
 
 /// The time that a program of ours may take at most.
 constexpr std::chrono::milliseconds kLongestRun = std::chrono::minutes(10);
 
 struct ChildRun {
   std::vector<std::string> arguments;  ///< the program's path first
-  std::string input;                   ///< file that it reads as standard input; empty for none
-  std::string output;                  ///< file that its standard output goes to; empty for none
+  /// Its environment; nothing gives it this program's.
+  std::optional<std::vector<std::string>> environment = {};
+  std::string input;   ///< file that it reads as standard input; empty for none
+  std::string output;  ///< file that its standard output goes to; empty for none
   /// Gets each line of its standard output, without its end, when that goes to no file.
   std::function<void(std::string_view)> line = {};
   std::chrono::milliseconds limit = kLongestRun;
@@ -82,11 +80,10 @@ struct PostScriptFiles {
 };
 
 /// Takes the PostScript out of a job, each job into a file of its own. `page` (may be empty) hears
-/// of each page comment: how many there were, and how many the document announces or 0. Returns an
-/// empty text, or why it failed.
-std::string SplitJob(std::FILE* job, const ScratchFolder& scratch,
-                     const std::function<void(std::uint64_t, std::uint64_t)>& page,
-                     PostScriptFiles* split);
+/// of each page comment: how many there were, and how many the document announces or 0.
+Failure SplitJob(std::FILE* job, const ScratchFolder& scratch,
+                 const std::function<void(std::uint64_t, std::uint64_t)>& page,
+                 PostScriptFiles* split);
 
 /// Copies all of `input`. False when either side fails.
 bool CopyAll(std::FILE* input, std::FILE* output);

@@ -174,8 +174,8 @@ std::size_t CountPdfPages(const std::string& file) {
   }
 }
 
-std::string WriteSheetPdf(const std::vector<SheetSide>& sides, std::size_t first, std::size_t last,
-                          const std::string& output) {
+Failure WriteSheetPdf(const std::vector<SheetSide>& sides, std::size_t first, std::size_t last,
+                      const std::string& output) {
   try {
     Sheets sheets;
     for (std::size_t i = first; i < last; ++i) sheets.Add(sides[i]);

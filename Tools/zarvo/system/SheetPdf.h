@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "Platform/Failure.h"
+
 namespace zarvo::tool {
 
 /// One side that somebody will look at.
@@ -23,9 +25,8 @@ struct SheetSide {
 /// How many pages each file has; 0 for one that holds none or is no PDF.
 std::size_t CountPdfPages(const std::string& file);
 
-/// Writes the sides `first` to `last` (not included) to the file. Gives an empty text, or why that
-/// failed.
-std::string WriteSheetPdf(const std::vector<SheetSide>& sides, std::size_t first, std::size_t last,
-                          const std::string& output);
+/// Writes the sides `first` to `last` (not included) to the file.
+Failure WriteSheetPdf(const std::vector<SheetSide>& sides, std::size_t first, std::size_t last,
+                      const std::string& output);
 
 }  // namespace zarvo::tool

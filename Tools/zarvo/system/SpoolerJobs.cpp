@@ -70,23 +70,21 @@ SpoolerJob Newest(ipp_t* answer) {
 
 }  // namespace
 
-std::optional<SpoolerJob> FindSpoolerJob(int number, std::string* error) {
+Failure FindSpoolerJob(int number, SpoolerJob* job) {
   constexpr int kMilliseconds = 10'000;
   const std::unique_ptr<http_t, HttpCloser> spooler(httpConnect2(
       cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, kMilliseconds, nullptr));
-  if (!spooler) {
-    *error = "the spooler does not answer";
-    return std::nullopt;
-  }
+  if (!spooler) return "the spooler does not answer";
   const Answer answer =
       Ask(spooler.get(), number != 0 ? IPP_OP_GET_JOB_ATTRIBUTES : IPP_OP_GET_JOBS, number);
-  SpoolerJob job;
-  if (answer) job = Newest(answer.get());
-  if (job.number > 0) return job;
-  *error = !answer || ippGetStatusCode(answer.get()) > IPP_STATUS_OK_EVENTS_COMPLETE
+  SpoolerJob found;
+  if (answer) found = Newest(answer.get());
+  if (found.number <= 0)
+    return !answer || ippGetStatusCode(answer.get()) > IPP_STATUS_OK_EVENTS_COMPLETE
                ? cupsLastErrorString()
                : "no job of yours is in the spooler's records";
-  return std::nullopt;
+  *job = std::move(found);
+  return "";
 }
 
 int JobNumber(const std::string& name) {

@@ -2,9 +2,10 @@
 // What the spooler keeps of a job, for whoever may ask about it.
 #pragma once
 
-#include <optional>
 #include <string>
 #include <vector>
+
+#include "Platform/Failure.h"
 
 namespace zarvo::tool {
 
@@ -27,9 +28,9 @@ struct SpoolerJob {
   std::string message;  ///< the first ERROR or else the last WARNING that a filter logged
 };
 
-/// Asks for the job of that number, or, for 0, for the newest one of this user. Nothing, with the
-/// reason in `error`, when the spooler does not answer or knows no such job.
-std::optional<SpoolerJob> FindSpoolerJob(int number, std::string* error);
+/// Asks for the job of that number, or, for 0, for the newest one of this user. It fails when
+/// the spooler does not answer or knows no such job.
+Failure FindSpoolerJob(int number, SpoolerJob* job);
 
 /// The number in a job's name as lp tells it ("office-12") or in plain digits; 0 for other texts.
 int JobNumber(const std::string& name);

@@ -3,6 +3,8 @@
 
 #include <cstdio>
 
+#include <optional>
+
 namespace zarvo::tool {
 namespace {
 
@@ -44,15 +46,16 @@ std::optional<Data> UnpackType1(std::string_view file) {
 
 }  // namespace
 
-std::optional<Data> PrinterFont(std::string_view file, std::string* error) {
-  if (file.starts_with("%!")) return Data(file.begin(), file.end());
-  if (!file.empty() && file[0] == kSegmentMark) {
-    std::optional<Data> font = UnpackType1(file);
-    if (!font) *error = "is a damaged Type 1 font";
-    return font;
+Failure PrinterFont(std::string_view file, Data* font) {
+  if (file.starts_with("%!")) {
+    font->assign(file.begin(), file.end());
+    return "";
   }
-  *error = "is no PostScript font (PFA, PFB or Type 42)";
-  return std::nullopt;
+  if (file.empty() || file[0] != kSegmentMark) return "is no PostScript font (PFA, PFB or Type 42)";
+  std::optional<Data> unpacked = UnpackType1(file);
+  if (!unpacked) return "is a damaged Type 1 font";
+  *font = *std::move(unpacked);
+  return "";
 }
 
 std::string FontName(const Data& font) {

@@ -9,7 +9,7 @@
 namespace zarvo::tool {
 namespace {
 
-/// Gathers the options of one ticket; `error` holds the first thing that cannot be carried.
+/// Gathers the options of one ticket; `failure` tells the first thing that cannot be carried.
 class Flattener {
  public:
   void Add(const std::string& place, const std::string& name, const Value& value) {
@@ -29,11 +29,11 @@ class Flattener {
   }
 
   std::vector<FlatOption> options;
-  std::string error;
+  Failure failure;
 
  private:
   void Refuse(const std::string& place, const std::string& reason) {
-    if (error.empty()) error = place + ": " + reason;
+    if (failure.empty()) failure = place + ": " + reason;
   }
 
   void AddLeaf(const std::string& place, const std::string& name, const Value& value) {
@@ -111,24 +111,20 @@ std::string OptionText(const std::vector<FlatOption>& options) {
   return text;
 }
 
-std::optional<std::vector<FlatOption>> FlattenTicket(const Dictionary& ticket, std::string* error) {
+Failure FlattenTicket(const Dictionary& ticket, std::vector<FlatOption>* options) {
   Flattener flattener;
   for (const auto& [key, value] : ticket) flattener.Add(key, key, value);
-  *error = flattener.error;
-  if (error->empty()) {
-    if (const std::string twin = CaseTwin(flattener.options); !twin.empty())
-      *error = twin + ": another key differs from it in letter case only";
-  }
+  if (!flattener.failure.empty()) return flattener.failure;
+  if (const std::string twin = CaseTwin(flattener.options); !twin.empty())
+    return twin + ": another key differs from it in letter case only";
   // The last word has what will read it: whatever does not come back the same is refused.
-  if (error->empty()) {
-    const std::string place = Difference(ticket, TicketOfOptions(OptionText(flattener.options)));
-    if (!place.empty())
-      *error = place +
-               ": this key or value does not survive as an option; keys hold no \"..\", "
-               "numbers outside groups have 32 bits";
-  }
-  if (!error->empty()) return std::nullopt;
-  return std::move(flattener.options);
+  const std::string place = Difference(ticket, TicketOfOptions(OptionText(flattener.options)));
+  if (!place.empty())
+    return place +
+           ": this key or value does not survive as an option; keys hold no \"..\", "
+           "numbers outside groups have 32 bits";
+  *options = std::move(flattener.options);
+  return "";
 }
 
 }  // namespace zarvo::tool

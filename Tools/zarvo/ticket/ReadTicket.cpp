@@ -192,19 +192,20 @@ Json ToJson(const Value& value, const TicketKey* key) {
   return {{kDataKey, digits}};
 }
 
-std::optional<Dictionary> ReadJson(std::string_view text, std::string* error) {
+Failure ReadJson(std::string_view text, Dictionary* ticket) {
   try {
     const Json json = Json::parse(text);
     if (!json.is_object()) throw Unreadable{"a ticket is a group: { \"key\": value, ... }"};
-    return DictionaryFromJson("", json, {}, true, 0);
+    *ticket = DictionaryFromJson("", json, {}, true, 0);
+    return "";
   } catch (const Json::exception& exception) {
-    *error = exception.what();
     // The library's own name and error number mean nothing to the reader.
-    if (const auto end = error->find("] "); end != std::string::npos) error->erase(0, end + 2);
+    const std::string reason = exception.what();
+    const std::size_t end = reason.find("] ");
+    return end == std::string::npos ? reason : reason.substr(end + 2);
   } catch (const Unreadable& unreadable) {
-    *error = unreadable.reason;
+    return unreadable.reason;
   }
-  return std::nullopt;
 }
 
 /// Like the filter, only deeper trees are refused: the tool walks them by recursion.
@@ -219,12 +220,12 @@ bool TooDeep(const Value& value, int depth) {
   return false;
 }
 
-std::optional<Dictionary> ReadPropertyListTicket(std::string_view text, std::string* error) {
-  std::optional<Value> value = ParsePropertyList(text, error);
-  if (!value) return std::nullopt;
-  if (Dictionary* dictionary = value->AsDictionary()) return std::move(*dictionary);
-  *error = "the property list is no dictionary";
-  return std::nullopt;
+Failure ReadPropertyListTicket(std::string_view text, Dictionary* ticket) {
+  Value value;
+  if (Failure failure = ParsePropertyList(text, &value); !failure.empty()) return failure;
+  if (value.AsDictionary() == nullptr) return "the property list is no dictionary";
+  *ticket = std::move(*value.AsDictionary());
+  return "";
 }
 
 Dictionary HideSecrets(const Dictionary& dictionary, Keys keys);
@@ -264,24 +265,24 @@ Dictionary TicketOfOptions(const std::string& options) {
   return ticket;
 }
 
-std::optional<Dictionary> ReadTicket(std::string_view text, std::string* error) {
+Failure ReadTicket(std::string_view text, Dictionary* ticket) {
   const std::size_t start = text.find_first_not_of(" \t\r\n");
   const char first = start == std::string_view::npos ? '\0' : text[start];
-  std::optional<Dictionary> ticket;
+  Dictionary read;
+  Failure failure;
   if (first == '{' || first == '[') {
-    ticket = ReadJson(text, error);
+    failure = ReadJson(text, &read);
   } else if (first == '<' || text.starts_with("bplist")) {
-    ticket = ReadPropertyListTicket(text, error);
+    failure = ReadPropertyListTicket(text, &read);
   } else {
-    ticket = TicketOfOptions(std::string(text));
+    read = TicketOfOptions(std::string(text));
   }
-  if (!ticket) return std::nullopt;
-  Value value(*std::move(ticket));
-  if (TooDeep(value, 0)) {
-    *error = "the ticket nests deeper than " + std::to_string(kMaxTicketDepth) + " levels";
-    return std::nullopt;
-  }
-  return std::move(*value.AsDictionary());
+  if (!failure.empty()) return failure;
+  Value value(std::move(read));
+  if (TooDeep(value, 0))
+    return "the ticket nests deeper than " + std::to_string(kMaxTicketDepth) + " levels";
+  *ticket = std::move(*value.AsDictionary());
+  return "";
 }
 
 std::string TicketToJson(const Dictionary& ticket) {

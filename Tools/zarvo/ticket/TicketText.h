@@ -3,11 +3,11 @@
 // which the spooler carries.
 #pragma once
 
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "Platform/Failure.h"
 #include "Platform/Value.h"
 
 namespace zarvo::tool {
@@ -21,9 +21,9 @@ inline constexpr std::string_view kHiddenSecret = "(hidden)";
 /// Reads a ticket: JSON, a property list, or flattened options, told apart by how it begins.
 /// In JSON a key may leave out "com.zarvo.print.", a number with a word may be that word, a date
 /// may be "YYYY-MM-DDThh:mm", and data is {"$data": "hexadecimal digits"}; a number under a name
-/// that is none of ours becomes text, as the spooler's options are. Gives nothing, and the
-/// reason in `error`, when the text is none of the three.
-std::optional<Dictionary> ReadTicket(std::string_view text, std::string* error);
+/// that is none of ours becomes text, as the spooler's options are. Fails when the text is
+/// none of the three.
+Failure ReadTicket(std::string_view text, Dictionary* ticket);
 
 /// The ticket of an option text, as the filter rebuilds it.
 Dictionary TicketOfOptions(const std::string& options);
@@ -40,9 +40,9 @@ struct FlatOption {
   std::string value;
 };
 
-/// Flattens a ticket. Gives nothing, and the reason in `error`, when it holds what options cannot
-/// carry: fractions, empty lists, keys with blanks, two keys that differ in letter case only.
-std::optional<std::vector<FlatOption>> FlattenTicket(const Dictionary& ticket, std::string* error);
+/// Flattens a ticket. Fails when it holds what options cannot carry: fractions, empty lists, keys
+/// with blanks, two keys that differ in letter case only.
+Failure FlattenTicket(const Dictionary& ticket, std::vector<FlatOption>* options);
 
 /// The options as one text, quoted so that the spooler's library reads the same options back.
 std::string OptionText(const std::vector<FlatOption>& options);
