@@ -1,9 +1,16 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""Writes the seeds that are whole jobs anew, from the golden tables: option text, NUL, job."""
+"""Makes the seeds that are whole jobs out of the golden tables: option text, NUL, job.
+
+    make_seeds.py FOLDER
+
+Each target's seeds stand in a folder of its name, which holds nothing else.
+"""
 
 import hashlib
 import pathlib
+import shutil
+import sys
 import tomllib
 
 HERE = pathlib.Path(__file__).resolve().parent
@@ -34,13 +41,11 @@ def main():
     }
     for folder, seeds in (("job", jobs), ("booklet", booklets), ("copy_reference", booklets),
                           ("standard", attributes)):  # fmt: skip
-        target = HERE / "seeds" / folder
-        target.mkdir(parents=True, exist_ok=True)
-        for old in target.glob("golden-*"):
-            old.unlink()
+        target = pathlib.Path(sys.argv[1], folder)
+        shutil.rmtree(target, ignore_errors=True)
+        target.mkdir(parents=True)
         for seed in seeds:
-            name = hashlib.sha256(seed).hexdigest()[:12]
-            (target / f"golden-{name}").write_bytes(seed)
+            (target / hashlib.sha256(seed).hexdigest()[:12]).write_bytes(seed)
 
 
 if __name__ == "__main__":

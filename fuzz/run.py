@@ -23,7 +23,11 @@ COMMON = ["-print_final_stats=1", "-close_fd_mask=2", "-timeout=20", "-rss_limit
           "-max_len=20000", "-verbosity=0"]  # fmt: skip
 
 
-def run(program, name, seconds, corpus):
+def run(program, name, seconds, build):
+    corpus = build / "corpus" / name
+    kind = SEEDS.get(name, name)
+    folders = [HERE / "seeds" / kind, build / "fuzz/seeds" / kind]
+    seeds = [str(folder) for folder in folders if folder.is_dir()]
     crashes = HERE / "crashes" / name
     crashes.mkdir(parents=True, exist_ok=True)
     corpus.mkdir(parents=True, exist_ok=True)
@@ -34,7 +38,7 @@ def run(program, name, seconds, corpus):
         process = subprocess.Popen(
             [program, *COMMON, f"-max_total_time={min(300, int(seconds - used) + 1)}",
              f"-artifact_prefix={crashes}/", f"-dict={HERE / 'words.dict'}", str(corpus),
-             str(HERE / "seeds" / SEEDS.get(name, name)), str(crashes)],
+             *seeds, str(crashes)],
             stdout=subprocess.DEVNULL, stderr=subprocess.PIPE, text=True, errors="replace",
             env={**os.environ, "ZARVO_APPLICATION_SUPPORT": "/nonexistent"},
         )  # fmt: skip
@@ -63,8 +67,7 @@ def main():
     for program in programs:
         name = program.name.removeprefix("fuzz_")
         if not arguments.targets or name in arguments.targets:
-            corpus = arguments.build / "corpus" / name
-            findings += run(program, name, arguments.seconds, corpus)
+            findings += run(program, name, arguments.seconds, arguments.build)
     sys.exit(1 if findings else 0)
 
 
