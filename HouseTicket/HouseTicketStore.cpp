@@ -59,9 +59,9 @@ HouseTicketStore HouseTicketStore::Own() {
   return {folder.empty() ? "" : folder + "/" + kHouseTicketFile, false};
 }
 
-std::string HouseTicketStore::Read() { return std::exchange(read_, true) ? "" : Load(); }
+Failure HouseTicketStore::Read() { return std::exchange(read_, true) ? "" : Load(); }
 
-std::string HouseTicketStore::Load() {
+Failure HouseTicketStore::Load() {
   entries_.clear();
   keepsSecrets_ = !shared_;
   if (path_.empty()) return "";
@@ -74,11 +74,11 @@ std::string HouseTicketStore::Load() {
       file ? ReadWholeFile(file.get(), kMaxPropertyListBytes) : std::nullopt;
   if (!bytes)
     return path_ + " cannot be read: " + (errno == EINVAL ? "it is no file" : std::strerror(errno));
-  std::string error;
-  std::optional<Value> value = ParsePropertyList(*bytes, &error);
-  if (value && value->AsDictionary() == nullptr) error = "it is no dictionary";
-  if (!error.empty() || !value) return path_ + " is damaged: " + error;
-  entries_ = std::move(*value->AsDictionary());
+  Value value;
+  Failure failure = ParsePropertyList(*bytes, &value);
+  if (failure.empty() && value.AsDictionary() == nullptr) failure = "it is no dictionary";
+  if (!failure.empty()) return path_ + " is damaged: " + failure;
+  entries_ = std::move(*value.AsDictionary());
   return "";
 }
 
@@ -88,7 +88,7 @@ std::vector<std::string> HouseTicketStore::Names() const {
   return names;
 }
 
-std::string HouseTicketStore::Find(std::string_view name, HouseTicket* house) const {
+Failure HouseTicketStore::Find(std::string_view name, HouseTicket* house) const {
   const Value* entry = DictionaryFind(entries_, name);
   const std::string start = "house ticket " + Quoted(name) + " ";
   if (entry == nullptr) return "there is no " + start.substr(0, start.size() - 1);
@@ -100,7 +100,7 @@ std::string HouseTicketStore::Find(std::string_view name, HouseTicket* house) co
   return HoldsPin(house->ticket) && !keepsSecrets_ ? start + kPinFault : "";
 }
 
-std::string HouseTicketStore::Put(const std::string& name, const HouseTicket& house) {
+Failure HouseTicketStore::Put(const std::string& name, const HouseTicket& house) {
   if (std::string fault = HouseTicketNameFault(name); !fault.empty())
     return Quoted(name) + ": " + fault;
   const std::string start = "house ticket " + Quoted(name) + " ";
@@ -117,31 +117,31 @@ void HouseTicketStore::Remove(std::string_view name) {
   if (const auto entry = entries_.find(name); entry != entries_.end()) entries_.erase(entry);
 }
 
-std::string HouseTicketStore::Change(const Alter& alter) {
+Failure HouseTicketStore::Change(const Alter& alter) {
   if (path_.empty())
     return shared_ ? "there is no shared data folder" : "HOME names no folder to keep it in";
   const std::string folder = path_.substr(0, path_.rfind('/'));
   if (!shared_ && !MakeFolders(folder)) return folder + ": " + std::strerror(errno);
   const FolderLock lock(folder);
+  const int error = errno;
   if (!lock)
     return folder + ": " +
-           (lock.error() == EAGAIN ? "another program keeps it locked"
-                                   : std::strerror(lock.error()));
+           (error == EAGAIN ? "another program keeps it locked" : std::strerror(error));
   read_ = true;
   if (std::string fault = Load(); !fault.empty()) return fault;
   if (std::string fault = alter(this); !fault.empty()) return fault;
   return Write();
 }
 
-std::string HouseTicketStore::Write() const {
+Failure HouseTicketStore::Write() const {
   const std::optional<std::string> xml = SerializePropertyList(Value(entries_));
   if (!xml) return "a text holds characters that no property list can";
-  std::string error;
+  Value again;
   // What could not be read again must not take the place of what can.
-  if (xml->size() > kMaxPropertyListBytes || !ParsePropertyList(*xml, &error))
+  if (xml->size() > kMaxPropertyListBytes || !ParsePropertyList(*xml, &again).empty())
     return path_ + " would become too large";
-  const int failed = WriteFileAtomically(path_, *xml, shared_ ? kSharedFileMode : kOwnFileMode);
-  return failed == 0 ? "" : path_ + ": " + std::strerror(failed);
+  if (WriteFileAtomically(path_, *xml, shared_ ? kSharedFileMode : kOwnFileMode)) return "";
+  return path_ + ": " + std::strerror(errno);
 }
 
 FindHouseTicket FindIn(const std::vector<const HouseTicketStore*>& stores) {

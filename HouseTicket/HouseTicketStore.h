@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "HouseTicket/HouseTicket.h"
+#include "Platform/Failure.h"
 
 namespace zarvo {
 
@@ -30,30 +31,29 @@ class HouseTicketStore {
   const std::string& path() const { return path_; }
   bool shared() const { return shared_; }
 
-  /// Reads the file, once; one that is not there is an empty store. Gives why it cannot be used, or
-  /// an empty text.
-  std::string Read();
+  /// Reads the file, once; one that is not there is an empty store.
+  Failure Read();
 
   // What has been read.
   std::vector<std::string> Names() const;
   bool Contains(std::string_view name) const { return entries_.contains(name); }
-  /// Gives why the record cannot be used, or an empty text.
-  std::string Find(std::string_view name, HouseTicket* house) const;
+  /// Fails when there is no such record or it cannot be used.
+  Failure Find(std::string_view name, HouseTicket* house) const;
 
-  /// Puts in and takes out records; gives why that cannot be, or an empty text.
-  using Alter = std::function<std::string(HouseTicketStore*)>;
+  /// Puts in and takes out records.
+  using Alter = std::function<Failure(HouseTicketStore*)>;
   /// Reads the file anew, lets `alter` change what it holds with the two functions below, and
-  /// writes it in one piece; other writers are kept out meanwhile. Gives why that failed, or an
-  /// empty text; the file is then as it was, and a damaged one is never written over.
-  std::string Change(const Alter& alter);
-  /// Gives why the record cannot be kept here, or an empty text.
-  std::string Put(const std::string& name, const HouseTicket& house);
+  /// writes it in one piece; other writers are kept out meanwhile. When that fails the file is
+  /// as it was, and a damaged one is never written over.
+  Failure Change(const Alter& alter);
+  /// Fails when the record cannot be kept here.
+  Failure Put(const std::string& name, const HouseTicket& house);
   void Remove(std::string_view name);
 
  private:
   HouseTicketStore(std::string path, bool shared) : path_(std::move(path)), shared_(shared) {}
-  std::string Load();
-  std::string Write() const;
+  Failure Load();
+  Failure Write() const;
 
   std::string path_;
   bool shared_;

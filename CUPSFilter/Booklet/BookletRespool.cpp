@@ -108,8 +108,7 @@ std::string_view ReadPageHead(const BookletVars* bv, std::FILE* file, int source
 }
 
 /// Writes what follows a page's "%%BeginPageSetup": its size and its place on the sheet.
-bool WritePageSetup(BookletVars* bv, std::FILE* file, int source,
-                    unsigned creep_offset) {
+bool WritePageSetup(BookletVars* bv, std::FILE* file, int source, unsigned creep_offset) {
   const bool imposed = bv->iImagesPerSheet == kImposedImagesPerSheet;
   if ((bv->bPagesReordered || imposed) && bv->adwPageSize[0] != 0) {
     const std::uint32_t size = bv->adwPageSize[static_cast<std::size_t>(source) - 1];
