@@ -23,7 +23,7 @@ void JobNotices::Add(const std::string& text) {
 }
 
 void JobNotices::Refuse(const std::string& text) const {
-  LogLine("ERROR: %s", text.c_str());
+  LogLine("ERROR: %s%s", text.c_str(), notices_.empty() ? "" : (". " + Summary()).c_str());
   MarkRefused();
 }
 
@@ -32,11 +32,14 @@ void JobNotices::MarkRefused() const {
 }
 
 void JobNotices::Finish() const {
-  if (notices_.size() < 2) return;
-  std::string all;
+  if (notices_.size() > 1) LogLine("WARNING: %s", Summary().c_str());
+}
+
+std::string JobNotices::Summary() const {
+  std::string text = kSummaryStart;
   for (std::size_t i = 0; i < notices_.size(); ++i)
-    all += " (" + std::to_string(i + 1) + ") " + notices_[i];
-  LogLine("WARNING: %s%s", kSummaryStart, all.c_str() + 1);
+    text += (i == 0 ? "(" : " (") + std::to_string(i + 1) + ") " + notices_[i];
+  return text;
 }
 
 }  // namespace zarvo

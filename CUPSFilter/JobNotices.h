@@ -13,7 +13,7 @@ namespace zarvo {
 /// "zarvo why", without any right but to ask.
 inline constexpr char kRefusedState[] = "com.zarvo.job-refused-warning";
 inline constexpr char kNotAsAskedState[] = "com.zarvo.not-as-asked-report";
-/// How the line begins that holds several notices, each after its number: "(1) ... (2) ...".
+/// What stands before several notices in one line, each after its number: "(1) ... (2) ...".
 inline constexpr char kSummaryStart[] = "Not as asked: ";
 
 class JobNotices {
@@ -24,19 +24,23 @@ class JobNotices {
   bool told() const { return told_; }
   bool empty() const { return notices_.empty(); }
 
+  /// From now on all is told.
+  void Tell() { told_ = true; }
   /// Takes back what the queue shows of the job before.
   void Begin() const;
   /// A setting that is dropped, cut or replaced: one WARNING line with its name, the cause and what
   /// to do, without any secret.
   void Add(const std::string& text);
-  /// The job is not printed, or not to its end: one ERROR line, unless there is one already, and
-  /// the queue's state.
+  /// The job is not printed: one ERROR line, which holds the notices too, and the queue's state.
   void Refuse(const std::string& text) const;
+  /// The job is not printed, or not to its end, and a line tells that already.
   void MarkRefused() const;
   /// At the end of the job: the line that holds all notices, when there are several.
   void Finish() const;
 
  private:
+  std::string Summary() const;
+
   bool told_;
   std::vector<std::string> notices_;
 };

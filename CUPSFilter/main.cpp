@@ -24,9 +24,8 @@
 #include "CUPSFilter/JobNotices.h"
 #include "CUPSFilter/JobOutput.h"
 #include "CUPSFilter/JobSettings.h"
-#include "CUPSFilter/Options/OptionCheck.h"
+#include "CUPSFilter/Options/JudgeRequest.h"
 #include "CUPSFilter/Options/ParseOptions.h"
-#include "CUPSFilter/Options/PinPolicy.h"
 #include "CUPSFilter/Options/PpdTicket.h"
 #include "CUPSFilter/Options/QueuePolicy.h"
 #include "CUPSFilter/Options/StandardOptions.h"
@@ -53,17 +52,6 @@ struct Job {
   JobSettings settings;
 };
 
-/// What the queue's policy has to say. Puts a PIN that the spooler hands over into the ticket.
-std::string JudgeJob(const JobRequest& request, const QueuePolicy& policy, const Ppd& ppd,
-                     Dictionary* ticket, JobNotices* notices) {
-  for (const Judgement& verdict : {JudgePin(request, policy, ticket), JudgeFax(request, *ticket)}) {
-    if (!verdict.refusal.empty()) return verdict.refusal;
-    for (const std::string& text : verdict.notices) notices->Add(text);
-  }
-  for (const std::string& text : FindVainOptions(request, ppd, *ticket)) notices->Add(text);
-  return "";
-}
-
 /// Nothing when the job must not be printed, which is told. `arguments` are the filter's.
 std::optional<Job> ReadJob(char** arguments, std::optional<JobNotices>* notices) {
   // Never given back: freeing the list one option at a time would cost more than decoding it.
@@ -84,11 +72,12 @@ std::optional<Job> ReadJob(char** arguments, std::optional<JobNotices>* notices)
   job.ticket =
       ParseCUPSOptionsToDictionary(ordered.data(), static_cast<int>(ordered.size()), &left_out);
   std::string refusal = standard.ticket.refusal;
-  if (policy.failClosed && refusal.empty()) {
-    const std::vector<cups_option_t> choices = TicketOrder({&chosen.others, &chosen.named});
-    const JobRequest request = {options.span(), choices, left_out};
-    refusal = JudgeJob(request, policy, ppd, &job.ticket, &**notices);
-  }
+  const std::vector<cups_option_t> choices = TicketOrder({&chosen.others, &chosen.named});
+  const JobRequest request = {options.span(), choices, left_out};
+  const Judgement verdict = JudgeRequest(request, policy, ppd, &job.ticket);
+  if (refusal.empty()) refusal = verdict.refusal;
+  if (!verdict.refusal.empty() || !verdict.notices.empty()) (*notices)->Tell();
+  for (const std::string& text : verdict.notices) (*notices)->Add(text);
   // The spooler shows people the first of all errors.
   if (!refusal.empty()) (*notices)->Refuse("the job was not printed: " + refusal);
   for (const std::string& fault : faults) LogLine("ERROR: %s", fault.c_str());

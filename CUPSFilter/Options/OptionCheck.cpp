@@ -162,18 +162,6 @@ void CheckMedia(const std::string& value, const Ppd& ppd, std::vector<std::strin
   }
 }
 
-/// Settings that do nothing without another one, and types of job that nobody knows.
-void CheckSense(const Dictionary& ticket, std::vector<std::string>* found) {
-  for (const TicketGap& gap : FindGaps(ticket))
-    found->push_back(gap.cause + "; give " + gap.choice);
-  const Dictionary* job = DictionaryGetDictionary(ticket, key::kJobType);
-  std::int32_t type = kJobTypeNormal;
-  if (job != nullptr) CFDictionaryGetNumber(*job, key::job_type::kJobType, &type);
-  if (type < kJobTypeNormal || type > kJobTypeSampleSet)
-    found->push_back("job type " + std::to_string(type) +
-                     ": no printer knows it, the job is an ordinary one");
-}
-
 }  // namespace
 
 std::span<const char* const> TypedOptionNames() { return kTypedNames; }
@@ -196,7 +184,7 @@ std::vector<std::string> FindVainOptions(const JobRequest& request, const Ppd& p
   for (const std::string_view name : request.leftOut)
     found.push_back("option " + std::string(name) +
                     ": its value or its place in the ticket cannot be read, it was left out");
-  CheckSense(ticket, &found);
+  for (const TicketGap& gap : FindGaps(ticket)) found.push_back(gap.cause + "; give " + gap.choice);
   return found;
 }
 

@@ -23,8 +23,6 @@ namespace {
 constexpr const char* kJobTypeKey = key::kJobType;
 constexpr const char* kTypeKey = key::job_type::kJobType;  // within the group above
 constexpr const char* kPinKey = key::job_type::kSecurePrintPassword;
-constexpr char kPinOption[] = "JobPIN";
-constexpr char kFaxNumberOption[] = "FaxNumber";
 constexpr std::string_view kPinRule = "a PIN takes 4 to 10 digits";
 
 bool EqualsIgnoringCase(std::string_view left, std::string_view right) {
@@ -187,12 +185,34 @@ std::optional<std::int32_t> TypeIn(const Dictionary& ticket) {
   return CFDictionaryGetNumber(*group, kTypeKey, &type) ? type : -1;
 }
 
+/// The value of the option that was meant by that name, as long as its name is like it. Null when
+/// there is none, or it is off.
+const char* FindAlike(std::span<const cups_option_t> options, std::string_view name) {
+  constexpr std::size_t kMostLetters = 2;
+  const char* value = nullptr;
+  for (const cups_option_t& option : options)
+    if (IsGiven(option.value) && IsLike(option.name, name, kMostLetters)) value = option.value;
+  return value;
+}
+
+/// Whether the job asks to be a secure one by the PPD's option, be it misspelt.
+bool WantsSecure(const JobRequest& request) {
+  constexpr std::size_t kMostLetters = 2;
+  const char* type = FindAlike(request.own, "JobType");
+  return type != nullptr && IsLike(type, "Secure", kMostLetters);
+}
+
 /// The job has no PIN.
-Judgement JudgeWithoutPin(const QueuePolicy& policy, Dictionary* ticket) {
+Judgement JudgeWithoutPin(const JobRequest& request, const QueuePolicy& policy,
+                          Dictionary* ticket) {
   const std::int32_t type = TypeIn(*ticket).value_or(kJobTypeNormal);
   const Dictionary* read = DictionaryGetDictionary(*ticket, kJobTypeKey);
   const bool secure = type == kJobTypeSecure ||
                       (KeepsPin(type) && read != nullptr && DictionaryContains(*read, kPinKey));
+  if (!secure && WantsSecure(request))
+    return Refusal(
+        "the job was to be a secure one and would not be; give JobType=Secure and no other job "
+        "type");
   if (!secure) return {};
   if (!policy.allowEmptyPin)
     return Refusal("a secure job needs a PIN; give one as JobPIN=Custom.DIGITS (4 to 10 digits)");
@@ -269,7 +289,7 @@ Judgement JudgePin(const JobRequest& request, const QueuePolicy& policy, Diction
   const Dictionary* group = DictionaryGetDictionary(*ticket, kJobTypeKey);
   const std::string* pin = group != nullptr ? DictionaryGetString(*group, kPinKey) : nullptr;
   if (pin != nullptr && !pin->empty()) ways.Add(*pin);
-  if (ways.pins.empty()) return JudgeWithoutPin(policy, ticket);
+  if (ways.pins.empty()) return JudgeWithoutPin(request, policy, ticket);
   if (ways.pins.size() > 1)
     return Refusal("the job gives two different PINs; give one, by one way");
   if (ways.inTicket && (pin == nullptr || pin->empty()))
@@ -301,7 +321,7 @@ Judgement JudgePin(const JobRequest& request, const QueuePolicy& policy, Diction
 
 Judgement JudgeFax(const JobRequest& request, const Dictionary& ticket) {
   const bool is_fax = TypeIn(ticket) == kJobTypeFax;
-  if (IsGiven(Find(request.own, kFaxNumberOption)) && !is_fax)
+  if (FindAlike(request.own, kFaxNumberOption) != nullptr && !is_fax)
     return Refusal(
         "FaxNumber: the job would come out on paper; give FaxNumber=Custom.NUMBER and no other job "
         "type");
@@ -313,6 +333,17 @@ Judgement JudgeFax(const JobRequest& request, const Dictionary& ticket) {
   TellCut(options, kFaxCreditCardProperty, kMaxCreditCardBytes, &verdict);
   TellCut(options, kFaxDialingPrefixProperty, kMaxDialingPrefixBytes, &verdict);
   return verdict;
+}
+
+bool AsksForSecrecy(const JobRequest& request, const Dictionary& ticket) {
+  const PinWays ways = FindPins(request, {});
+  if (!ways.fault.empty() || !ways.pins.empty() || ways.inTicket ||
+      !UnreadableJobType(request, ticket).empty())
+    return true;
+  if (WantsSecure(request) || FindAlike(request.own, kFaxNumberOption) != nullptr) return true;
+  const std::optional<std::int32_t> type = TypeIn(ticket);
+  return type == kJobTypeSecure || type == kJobTypeFax ||
+         DictionaryContains(ticket, key::kFaxRecipientList);
 }
 
 }  // namespace zarvo

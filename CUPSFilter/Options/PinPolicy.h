@@ -21,6 +21,10 @@
 
 namespace zarvo {
 
+/// The PPD's options for a PIN and a fax number.
+inline constexpr char kPinOption[] = "JobPIN";
+inline constexpr char kFaxNumberOption[] = "FaxNumber";
+
 /// What a job asks for, as it came.
 struct JobRequest {
   std::span<const cups_option_t> own;         ///< the job's options
@@ -40,6 +44,10 @@ Judgement JudgePin(const JobRequest& request, const QueuePolicy& policy, Diction
 
 /// Judges whether a job that is to be a fax can be sent to all its recipients.
 Judgement JudgeFax(const JobRequest& request, const Dictionary& ticket);
+
+/// Whether a job asks, in any way, to be kept from others' eyes or to come out on no paper here: it
+/// gives a PIN, or is to be secure or a fax. For queues whose PPD cannot be read.
+bool AsksForSecrecy(const JobRequest& request, const Dictionary& ticket);
 
 /// What is wrong with a PIN that people type (4 to 10 digits); empty when nothing is.
 std::string TypedPinFault(std::string_view pin);

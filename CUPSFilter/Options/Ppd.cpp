@@ -11,6 +11,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <charconv>
 #include <fstream>
 
@@ -20,12 +21,21 @@
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
 
 #ifdef __SANITIZE_ADDRESS__
-// The library never frees some names it makes when it maps job options to PPD choices.
-extern "C" const char* __lsan_default_suppressions() { return "leak:_ppdCacheCreateWithPPD\n"; }
+#include <sanitizer/lsan_interface.h>
 #endif
 
 namespace zarvo {
 namespace {
+
+/// While it lives, leaks are the library's: it never frees some names and options that it makes
+/// when it maps a job's options to the PPD's choices.
+struct LibraryLeaks {
+#ifdef __SANITIZE_ADDRESS__
+  __lsan::ScopedDisabler disabler;
+#else
+  LibraryLeaks() {}
+#endif
+};
 
 /// Real ones have a tenth of it; the library's time grows with the square of the options.
 constexpr off_t kMaxPpdBytes = 4 << 20;
@@ -111,9 +121,11 @@ void Ppd::Closer::operator()(ppd_file_s* file) const { ppdClose(file); }
 Ppd Ppd::Open(const char* file) {
   Ppd ppd;
   if (file == nullptr) return ppd;
-  if (const std::string fault = UnreasonableFile(file); !fault.empty()) {
+  ppd.name_ = file;
+  ppd.fault_ = UnreasonableFile(file);
+  if (!ppd.fault_.empty()) {
     LogLine("DEBUG: PPD \"%s\" not used, %s; printing with Letter page defaults", file,
-            fault.c_str());
+            ppd.fault_.c_str());
     return ppd;
   }
   ppd.file_.reset(ppdOpenFile(file));
@@ -125,6 +137,8 @@ Ppd Ppd::Open(const char* file) {
       LogLine("WARNING: PPD \"%s\" begins with a byte-order mark; save it without one", file);
       return ppd;
     }
+    if (access(file, F_OK) == 0 || (errno != ENOENT && errno != ENOTDIR))
+      ppd.fault_ = "line " + std::to_string(line) + ": " + ppdErrorString(status);
     LogLine("DEBUG: PPD \"%s\" not used, line %d: %s; printing with Letter page defaults", file,
             line, ppdErrorString(status));
   }
@@ -133,6 +147,7 @@ Ppd Ppd::Open(const char* file) {
 
 void Ppd::Mark(int num_options, cups_option_t* options) {
   if (file_ == nullptr) return;
+  const LibraryLeaks leaks;
   ppdMarkDefaults(file_.get());
   cupsMarkOptions(file_.get(), num_options, options);
 }
@@ -196,6 +211,25 @@ bool Ppd::IsTrue(const char* keyword) const {
   const std::vector<PpdAttribute> found = Attributes(keyword);
   return std::any_of(found.begin(), found.end(),
                      [](const PpdAttribute& attribute) { return attribute.value == "True"; });
+}
+
+Ppd::Hidden Ppd::HidesTrue(const std::string& keyword) const {
+  if (fault_.empty()) return Hidden::kNo;
+  struct stat about {};
+  if (stat(name_.c_str(), &about) != 0 || S_ISFIFO(about.st_mode) || S_ISSOCK(about.st_mode))
+    return Hidden::kUnknown;
+  std::ifstream stream(name_);
+  std::string start(kMaxPpdBytes + 1, '\0');
+  if (!stream.read(start.data(), kMaxPpdBytes + 1) && !stream.eof()) return Hidden::kUnknown;
+  start.resize(static_cast<std::size_t>(stream.gcount()));
+  for (std::size_t at = start.find("*" + keyword + ":"); at != std::string::npos;
+       at = start.find("*" + keyword + ":", at + 1)) {
+    const std::size_t value = start.find_first_not_of(" \t", at + keyword.size() + 2);
+    const bool begins_line = at == 0 || start[at - 1] == '\n' || start[at - 1] == '\r';
+    if (begins_line && value != std::string::npos && start.compare(value, 4, "True") == 0)
+      return Hidden::kYes;
+  }
+  return start.size() > kMaxPpdBytes ? Hidden::kUnknown : Hidden::kNo;
 }
 
 std::vector<PpdAttribute> Ppd::Attributes(const char* keyword) const {

@@ -58,6 +58,12 @@ class Ppd {
   std::vector<std::optional<std::string>> CustomValues(const char* option) const;
   /// Whether there is an attribute `*KEYWORD: True`, which switches something of ours on.
   bool IsTrue(const char* keyword) const;
+  /// Whether a PPD that is there and was not understood says so all the same, in a line of its own,
+  /// or may do so, because its lines cannot be read.
+  enum class Hidden { kNo, kYes, kUnknown };
+  Hidden HidesTrue(const std::string& keyword) const;
+  /// Why the PPD was not understood; empty when it was, or there is none.
+  const std::string& fault() const { return fault_; }
   /// All attributes of that keyword, in the order of the file.
   std::vector<PpdAttribute> Attributes(const char* keyword) const;
   int ColorDevice() const;
@@ -68,6 +74,8 @@ class Ppd {
     void operator()(ppd_file_s* file) const;
   };
   std::unique_ptr<ppd_file_s, Closer> file_;
+  std::string name_;
+  std::string fault_;
 };
 
 }  // namespace zarvo

@@ -15,13 +15,16 @@ struct QueuePolicy {
   bool allowEmptyPin = false;
   /// *ZRVStandardTicket: True. IPP's standard job attributes become ticket options.
   bool standardTicket = false;
+  /// The PPD was not understood; its lines say, or may say, *ZRVFailClosed: True.
+  Ppd::Hidden hidden = Ppd::Hidden::kNo;
   /// The PPD has the job-type feature whose lines take the option ZRVJobPassword.
   bool featurePassword = false;
 };
 
 inline QueuePolicy ReadQueuePolicy(const Ppd& ppd) {
   return {ppd.IsTrue("ZRVFailClosed"), ppd.IsTrue("ZRVAllowEmptyPIN"),
-          ppd.IsTrue("ZRVStandardTicket"), ppd.HasOption("ZRVJobType")};
+          ppd.IsTrue("ZRVStandardTicket"), ppd.HidesTrue("ZRVFailClosed"),
+          ppd.HasOption("ZRVJobType")};
 }
 
 }  // namespace zarvo

@@ -44,6 +44,9 @@ REFUSED = {
     "JobPIN=Custom.gr\udcfcn JobType=Secure": "4 to 10 digits",
     "JobPIN=Custom.123": "4 to 10 digits",
     "JobPIN=Custom.12345678901": "4 to 10 digits",
+    "JobTyp=Secure": "would not be",
+    "JobType=Secur": "would not be",
+    f"JobType=Secure {TYPE}=1": "would not be",
     "JobPIN=0391": "4 to 10 digits",
     "JobPIN=Custom": "4 to 10 digits",
     "job-password=secret": "4 to 10 digits",
@@ -65,6 +68,7 @@ REFUSED = {
     "JobPIM=Custom.0391": "did you mean JobPIN?",
     "ZRVJobPassword=0391": "ZRVJobPassword",
     "FaxNumber=Custom": "would come out on paper",
+    "FaxNumer=Custom.4711": "would come out on paper",
     "FaxNumber=Custom.": "nothing that can be dialed",
     "FaxNumber=0911-4711": "would come out on paper",
     f"FaxNumber=Custom.4711 {TYPE}=1": "would come out on paper",
@@ -93,7 +97,12 @@ TOLD = {
     "com.zarvo.print.JTMLOptions..d_JTMLOptionAll..b=true com.zarvo.print.BookletFoldStaple..n=8":
         ["folded in the middle, but the pages are not laid out as a booklet; give BookletLayout="],
     "com.zarvo.print.Gutter..a_5..n=1": ["com.zarvo.print.Gutter..a_5..n"],
-    f"{TYPE}=12": ["job type 12"],
+    f"{TYPE}=12": ["12 is out of range; it takes 1 to 9"],
+    "com.zarvo.print.Resoluton..n=2 com.zarvo.print.JobType..d_JobTyp..n=6":
+        ["JobType/JobTyp: unknown key; did you mean JobType?",
+         "Resoluton: unknown key; did you mean com.zarvo.print.Resolution?"],
+    "com.zarvo.print.TonerSaver..b=true": ["TonerSaver: has no effect without"],
+    "com.zarvo.print.BannerPage=yes": ["BannerPage: takes true or false"],
 }  # fmt: skip
 SECRETS = ("0391", "0392", "4711", "secret", "qwerty", "quality", "RESET", "12345678901")
 
@@ -165,6 +174,32 @@ class Secrets(unittest.TestCase):
             status, _, log = self.run_filter(options, open_queue)
             self.assertEqual((status, [line for line in log if line[:3] in ("STA", "WAR")]), (0, []))
 
+    def test_policy_of_a_ppd_that_is_not_understood(self):
+        """What is in it may be that a secret must not be laid open; what cannot be known is taken so."""
+        text = PPD.read_text()
+        os.mkfifo(self.scratch / "fifo")
+        (self.scratch / "folder").mkdir()
+        broken = {
+            "broken": text[text.index("\n"):], "long": text + "*% \n" * (1 << 20), "fifo": None, "folder": None,
+        }  # fmt: skip
+        for name, content in broken.items():
+            ppd = self.scratch / name
+            if content:
+                ppd.write_text(content)
+            for options in ("JobPIN=Custom.0391", "JobType=Secure", "job-password=0391",
+                            f"{PIN}=0391 {TYPE}=6", "FaxNumber=Custom.4711", f"{TYPE}=5"):
+                with self.subTest(ppd=name, options=options):
+                    status, output, log = self.run_filter(options, ppd)
+                    self.assertEqual((status, output), (1, b""), log)
+                    self.assertIn("ERROR: the job was not printed: the queue's PPD is not used, ", log[0])
+            status, _, log = self.run_filter("Staple=TopLeft", ppd)
+            self.assertEqual((status, ["its settings were left out" in line for line in log[1:]]),
+                             (0, [True] if content else []), log)
+        other = self.scratch / "other"
+        other.write_text(broken["broken"].replace("*ZRVFailClosed: True", "*% ZRVFailClosed: True"))
+        for ppd in (other, self.scratch / "none"):
+            self.assertEqual(self.run_filter("JobPIN=Custom.0391", ppd)[::2], (0, []))
+
     def test_booklet_that_fails_may_be_tried_again(self):
         for most in range(5, 12):  # descriptors
             with self.subTest(most=most):
@@ -184,7 +219,8 @@ class Person(unittest.TestCase):
         ("-o Staple=TopLft -o siides=x", 1, ["- option siides: ", "\n  - option Staple: "]),
         ("-o JobType=Secure", 1, ["was not printed; the reason:", "a secure job needs a PIN",
                                   "-> print it again", "cancel office-5"]),
-        ("-o JobPIN=Custom.391", 1, ["JobPIN: a PIN takes 4 to 10 digits"]),
+        ("-o JobPIN=Custom.391 -o Staple=TopLft", 1, ["  - the job was not printed: JobPIN: a PIN takes "
+                                                      "4 to 10 digits", "\n  - option Staple: no choice"]),
         ("-o FaxNumber=Custom", 1, ["would come out on paper"]),
         ("", 0, ["was printed."]),  # nothing is left of those before
     ]  # fmt: skip

@@ -164,6 +164,12 @@ class Spooler(ZarvoTest):
                 self.assertRegex(self.errors, "did you mean (Duplex|None)")
             self.run_zarvo("print", job, faulty, "-d", "office", "--force")
             self.assertTrue(printer.wait())
+            cupsd.add_queue("ours", BIN.parent / "ppd/zarvo.ppd", printer.uri)
+            secure = ["print", job, "-d", "ours", "-o", "JobPIN=Custom.0391", "-o"]
+            self.run_zarvo(*secure, "JobType=Secure")
+            self.assertIn("PIN: set", self.run_zarvo("explain", stdin=printer.wait()))
+            self.run_zarvo(*secure, "JobType=Proof", status=2)
+            self.assertIn("cannot keep a PIN", self.errors)
             self.doctor(cupsd.serverbin / "filter")
             self.privacy(cupsd.root / "cupsd.conf")
         self.run_zarvo("print", job, "-d", "office", status=2)  # nobody answers

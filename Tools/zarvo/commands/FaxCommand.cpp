@@ -195,10 +195,10 @@ int Send(const Options& options) {
   const std::int32_t type = kJobTypeFax;
   Dictionary& job = CFDictionaryGetDictionaryOrCreate(*ticket, key::kJobType);
   CFDictionarySetNumber(job, key::job_type::kJobType, &type);
-  bool doubtful = false;
+  std::vector<std::string> told;
   const std::optional<std::string> text = OptionTextOf(
-      options.options, *ticket, options.settings.empty() ? "fax" : options.settings, &doubtful);
-  return text ? PrintChecked(options.job, *text, doubtful) : kExitFailure;
+      options.options, *ticket, options.settings.empty() ? "fax" : options.settings, &told);
+  return text ? PrintChecked(options.job, *text, told) : kExitFailure;
 }
 
 /// What both have in common, the fax itself.

@@ -15,9 +15,9 @@ struct Options {
 };
 
 int Print(const Options& options) {
-  bool doubtful = false;
-  const std::optional<std::string> text = OptionTextOf(options.options, &doubtful);
-  return text ? PrintChecked(options.job, *text, doubtful) : kExitFailure;
+  std::vector<std::string> told;
+  const std::optional<std::string> text = OptionTextOf(options.options, &told);
+  return text ? PrintChecked(options.job, *text, told) : kExitFailure;
 }
 
 }  // namespace

@@ -5,9 +5,9 @@
 
 #include "Platform/Log.h"
 #include "Platform/PropertyList.h"
+#include "Source/TicketKeys.h"
 #include "Tools/zarvo/Command.h"
 #include "Tools/zarvo/ticket/TicketCheck.h"
-#include "Tools/zarvo/ticket/TicketKeys.h"
 #include "Tools/zarvo/ticket/TicketText.h"
 
 namespace zarvo::tool {

@@ -12,7 +12,7 @@ namespace zarvo::tool {
 
 std::optional<std::string> OptionTextOf(const std::vector<std::string>& options,
                                         const Dictionary& ticket, const std::string& place,
-                                        bool* doubtful) {
+                                        std::vector<std::string>* told) {
   std::string text;
   for (const std::string& option : options) text += (text.empty() ? "" : " ") + option;
   std::vector<FlatOption> flat;
@@ -20,16 +20,16 @@ std::optional<std::string> OptionTextOf(const std::vector<std::string>& options,
     Fail(place, failure);
     return std::nullopt;
   }
-  const std::vector<TicketFinding> findings = CheckTicket(ticket, /*whole=*/false);
-  if (doubtful != nullptr) *doubtful = !findings.empty();
-  for (const TicketFinding& finding : findings)
-    std::fprintf(stderr, "zarvo: %s\n",
-                 PrintableText(place + ": " + finding.place + ": " + finding.text).c_str());
+  for (const TicketFinding& finding : CheckTicket(ticket, /*whole=*/false)) {
+    const std::string fault = finding.place + ": " + finding.text;
+    std::fprintf(stderr, "zarvo: %s\n", PrintableText(place + ": " + fault).c_str());
+    if (told != nullptr) told->push_back(fault);
+  }
   if (flat.empty()) return text;
   return text + (text.empty() ? "" : " ") + OptionText(flat);
 }
 
-std::optional<std::string> OptionTextOf(const JobOptions& job, bool* doubtful) {
+std::optional<std::string> OptionTextOf(const JobOptions& job, std::vector<std::string>* told) {
   Dictionary ticket;
   if (!job.settings.empty()) {
     std::string readable;
@@ -39,7 +39,7 @@ std::optional<std::string> OptionTextOf(const JobOptions& job, bool* doubtful) {
       return std::nullopt;
     }
   }
-  return OptionTextOf(job.options, ticket, job.settings, doubtful);
+  return OptionTextOf(job.options, ticket, job.settings, told);
 }
 
 }  // namespace zarvo::tool

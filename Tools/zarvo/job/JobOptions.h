@@ -18,13 +18,14 @@ struct JobOptions {
 };
 
 /// The options as one text, or nothing, having told why. Doubtful settings are told on standard
-/// error and do not hinder; `doubtful` (may be null) becomes true then. What settings lack is for
-/// those to tell who know all options and the PPD: the filter, and OptionFaults.
-std::optional<std::string> OptionTextOf(const JobOptions& job, bool* doubtful = nullptr);
+/// error and do not hinder; `told` (may be null) gets the texts. What settings lack is for those to
+/// tell who know all options and the PPD: the filter, and OptionFaults.
+std::optional<std::string> OptionTextOf(const JobOptions& job,
+                                        std::vector<std::string>* told = nullptr);
 
 /// The same of settings that have been read; `place` says whose they are.
 std::optional<std::string> OptionTextOf(const std::vector<std::string>& options,
                                         const Dictionary& ticket, const std::string& place,
-                                        bool* doubtful);
+                                        std::vector<std::string>* told);
 
 }  // namespace zarvo::tool

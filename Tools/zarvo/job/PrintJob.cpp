@@ -5,6 +5,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -96,14 +97,16 @@ void AddPrintOptions(CLI::App& app, PrintJob* job) {
   app.add_flag("--force", job->force, "print even when something is wrong with the settings");
 }
 
-int PrintChecked(PrintJob job, const std::string& options, bool doubtful) {
+int PrintChecked(PrintJob job, const std::string& options, const std::vector<std::string>& told) {
   QueuePpd ppd;
   ppd.Fetch(job.queue);
   std::vector<std::string> faults;
   if (!ppd.path().empty() && UsesOurFilter(ppd.path())) faults = OptionFaults(options, ppd.path());
-  for (const std::string& fault : faults)
-    std::fprintf(stderr, "zarvo: %s\n", PrintableText(fault).c_str());
-  if ((doubtful || !faults.empty()) && !job.force)
+  for (const std::string& fault : faults) {
+    if (std::find(told.begin(), told.end(), fault) == told.end())
+      std::fprintf(stderr, "zarvo: %s\n", PrintableText(fault).c_str());
+  }
+  if ((!told.empty() || !faults.empty()) && !job.force)
     return Fail(job.file, "is not printed with such settings",
                 "Correct them, or give --force to print it all the same");
   if (const std::string fault = SecretFault(TicketOfOptions(options)); !fault.empty())

@@ -5,6 +5,7 @@
 
 #include <CLI/CLI.hpp>
 #include <string>
+#include <vector>
 
 namespace zarvo::tool {
 
@@ -20,8 +21,8 @@ struct PrintJob {
 void AddPrintOptions(CLI::App& app, PrintJob* job);
 
 /// Prints with these options. What has something wrong, which is told, is not printed unless that
-/// is forced; `doubtful` says that something has been told already. An office document becomes a
+/// is forced; `told` holds what has been told already. An office document becomes a
 /// PDF file first. Returns an exit status.
-int PrintChecked(PrintJob job, const std::string& options, bool doubtful);
+int PrintChecked(PrintJob job, const std::string& options, const std::vector<std::string>& told);
 
 }  // namespace zarvo::tool

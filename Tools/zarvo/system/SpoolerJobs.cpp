@@ -98,9 +98,12 @@ int JobNumber(const std::string& name) {
 
 std::vector<std::string> NoticesOf(const std::string& message) {
   if (message.empty()) return {};
-  if (!message.starts_with(kSummaryStart)) return {message};
+  const std::size_t summary = message.find(kSummaryStart + std::string("(1) "));
+  if (summary == std::string::npos) return {message};
   std::vector<std::string> notices;
-  std::size_t at = message.find("(1) ");
+  constexpr std::string_view kBefore = ". ";
+  if (summary > kBefore.size()) notices.push_back(message.substr(0, summary - kBefore.size()));
+  std::size_t at = message.find("(1) ", summary);
   for (int number = 1; at != std::string::npos; ++number) {
     at += ("(" + std::to_string(number) + ") ").size();
     const std::size_t next = message.find(" (" + std::to_string(number + 1) + ") ", at);

@@ -11,7 +11,7 @@
 #include "Platform/PropertyList.h"
 #include "Platform/Text.h"
 #include "Source/CFAdditions.h"
-#include "Tools/zarvo/ticket/TicketKeys.h"
+#include "Source/TicketKeys.h"
 #include "Tools/zarvo/ticket/TicketText.h"
 
 namespace zarvo::tool {
@@ -274,7 +274,7 @@ Failure ReadTicket(std::string_view text, Dictionary* ticket) {
     failure = ReadJson(text, &read);
   } else if (first == '<' || text.starts_with("bplist")) {
     failure = ReadPropertyListTicket(text, &read);
-  } else {
+  } else if (failure = LengthFault(text.size()); failure.empty()) {
     read = TicketOfOptions(std::string(text));
   }
   if (!failure.empty()) return failure;

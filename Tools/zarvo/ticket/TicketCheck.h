@@ -1,22 +1,18 @@
 // SPDX-License-Identifier: Apache-2.0
-// Finds what a ticket asks for that nobody will understand.
+// What there is to say of a ticket before it becomes a job.
 #pragma once
 
 #include <string>
 #include <vector>
 
 #include "Platform/Value.h"
+#include "Source/TicketCheck.h"
 
 namespace zarvo::tool {
 
-struct TicketFinding {
-  std::string place;  ///< the key, with the keys above it
-  std::string text;   ///< what is wrong with it and what may have been meant
-};
-
-/// Keys that nobody knows, values of a wrong type or out of range, and settings that have no
-/// effect without another one; the latter only of a ticket that is the `whole` job, to which no
-/// other options come. No text of a secret is in the findings.
+/// Keys and values that nobody will understand, misspelt options of the spooler, secrets that
+/// cannot be kept, and settings that lack another one; the latter only of a ticket that is the
+/// `whole` job, to which no other options come. No text of a secret is in the findings.
 std::vector<TicketFinding> CheckTicket(const Dictionary& ticket, bool whole = true);
 
 /// Why no job with this ticket should be sent: a PIN that cannot be kept or that people should not

@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-namespace zarvo::tool {
+namespace zarvo {
 
 enum class KeyType : std::uint8_t {
   kText,
@@ -52,4 +52,4 @@ const TicketKey* FindTopLevelKey(std::string_view name);
 /// The word of a code, or null.
 const char* WordOf(const TicketKey& key, std::int64_t code);
 
-}  // namespace zarvo::tool
+}  // namespace zarvo

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Tools/zarvo/ticket/TicketKeys.h"
+#include "Source/TicketKeys.h"
 #include "Source/TicketNames.h"
 
 #include <algorithm>
 #include <limits>
 
-namespace zarvo::tool {
+namespace zarvo {
 namespace {
 
 using enum KeyType;
@@ -450,4 +450,4 @@ const char* WordOf(const TicketKey& key, std::int64_t code) {
   return row == key.words.end() ? nullptr : row->word;
 }
 
-}  // namespace zarvo::tool
+}  // namespace zarvo
