@@ -1,5 +1,5 @@
 # The front door; everything else is CMake (see CMakePresets.json).
-.PHONY: corpus build setup demo test bench pictures install clean format check-format asan fuzz load deb test-packages test-debian
+.PHONY: corpus build setup demo test bench pictures screenshots install clean format check-format asan fuzz load deb test-packages test-debian
 JOBS ?= $(shell nproc)
 SOURCES = $(shell git ls-files '*.cpp' '*.h')
 
@@ -61,6 +61,13 @@ pictures: build
 	@ZARVO_BIN=build/bin python3 Tools/sample-preview.py build/ppd/zarvo.ppd docs/preview-booklet.png
 	@ZARVO_BIN=build/bin ZARVO_SOURCE=. python3 Tools/demo.py demo-output >/dev/null
 	@cp demo-output/page-1.png docs/demo.png
+
+# The print dialogs of GTK 3 and 4 and Qt 5 and 6 with our PPD, in each of its languages, as pictures in
+# build/test-output/dialogs. DIALOGS="gtk3-de qt6-ja" takes some of them.
+screenshots:
+	@Tools/setup-debian dialogs
+	@$(MAKE) --no-print-directory build
+	@python3 tests/dialogs/run.py build $(DIALOGS)
 
 # Every decoder against made-up input, each for that many seconds of processor time.
 FUZZ_SECONDS ?= 60
