@@ -92,7 +92,10 @@ Landmark CopyRules::Classify(std::string_view line) const {
 Landmark CopyRules::ClassifyLine(std::string_view line) const {
   const auto starts = [line](std::string_view text) { return line.starts_with(text); };
   if (!page_hooks_) {
-    if (WatchesForStray() && IsStray(line)) return Landmark::kStray;
+    if (WatchesForStray()) {
+      const bool inside = added_pjl_ && !ended_;
+      if (inside ? BeginsWithExit(line) : IsStray(line)) return Landmark::kStray;
+    }
     if (Contains(line, "%!PS-Adobe")) return Landmark::kDocumentHeader;
     if (starts("@PJL COMMENT ZRVbegin")) return Landmark::kPjlHeader;
   }
@@ -190,7 +193,7 @@ std::int64_t CopyRules::CopyPart(std::string_view line) {
       copies_.BeginDocument();
       break;
     case JobLine::kDocument:
-      if (frame_.GoOn()) TellEarlyEnd();
+      if (frame_.GoOn()) TakeExit();
       break;
   }
   if (shape_.OwnLine()) copies_.BeforeLine(line);
@@ -213,21 +216,36 @@ bool CopyRules::WatchesForResolution() const {
 /// Jobs with page hooks have their envelope around whatever they hold.
 bool CopyRules::WatchesForStray() const {
   if (page_hooks_ || !settings_.failClosed || early_end_told_) return false;
-  return ended_ || (settings_.keepsSecret && !added_pjl_ && !found_pjl_);
+  return ended_ || (settings_.keepsSecret && !found_pjl_);
 }
 
 void CopyRules::TakeStray(std::string_view line) {
-  if (!settings_.keepsSecret) {
-    TellEarlyEnd();
-    output_.Write(line);
+  if (!ended_ && added_pjl_) ended_ = true;  // what follows is outside, and may be nothing
+  if (settings_.keepsSecret && IsStray(line)) {
+    Refuse();
     return;
   }
+  if (!settings_.keepsSecret) TellEarlyEnd();
+  output_.Write(line);
+}
+
+void CopyRules::Refuse() {
   refusal_ = ended_
-                 ? "the job was cut short: the document goes on after its end comment, where its "
-                   "PIN or fax number does not hold any more; print it by another program"
+                 ? "the job was cut short: the document goes on behind its end or an exit from its "
+                   "language, where its PIN or fax number does not hold any more; print it by "
+                   "another program"
                  : "the job was not printed: the document does not begin with %!PS-Adobe, so its "
                    "PIN or fax number would not hold; print it by another program";
   output_.Fail(ECANCELED);
+}
+
+void CopyRules::TakeExit() {
+  if (settings_.failClosed && settings_.keepsSecret) {
+    ended_ = true;
+    Refuse();
+  } else {
+    TellEarlyEnd();
+  }
 }
 
 void CopyRules::TellEarlyEnd() {

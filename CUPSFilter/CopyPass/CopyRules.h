@@ -99,6 +99,8 @@ class CopyRules {
   bool WatchesForResolution() const;
   bool WatchesForStray() const;
   void TakeStray(std::string_view line);
+  void Refuse();
+  void TakeExit();
   void TellEarlyEnd();
   std::int64_t CopyStructure(std::string_view line);
   std::int64_t CopyPart(std::string_view line);

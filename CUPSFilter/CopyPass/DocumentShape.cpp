@@ -66,6 +66,8 @@ std::size_t LeadLength(std::string_view line) {
   return at;
 }
 
+bool BeginsWithExit(std::string_view line) { return line.starts_with(kExit); }
+
 bool DocumentShape::Concerns(std::string_view line) {
   if (!line.starts_with("%%")) return line.starts_with(kExit) || line.starts_with('\x04');
   return line.starts_with(kEnd) || EndsPart(line) ||

@@ -37,6 +37,9 @@ enum class JobLine {
 /// The length of the blanks, Ctrl-Ds and universal exits that a line begins with.
 std::size_t LeadLength(std::string_view line);
 
+/// Whether the line begins with what makes the printer leave the document's language.
+bool BeginsWithExit(std::string_view line);
+
 class DocumentShape {
  public:
   /// Whether the next line is to be taken whatever it holds.

@@ -318,6 +318,11 @@ class Bounds(unittest.TestCase):
             ppd = pathlib.Path(scratch, "plain.ppd")
             ppd.write_text(PPD.read_text().replace("*ZRVPageHooks: True\n", ""))
             head = b"%!PS-Adobe-3.0\n"
+            exits = (
+                (head + b"showpage\n%%EOF\n\x1b%-12345X@PJL EOJ\n\x1b%-12345X", 0),
+                (head + b"showpage\n\x1b%-12345X@PJL EOJ\n\x1b%-12345X\nshowpage\n%%EOF\n", 1),
+                (head + b"showpage\n\x1b%-12345X\nshowpage\n", 1),
+            )
             for job, status in (
                 (head + b"showpage\n%%EOF\n", 0),
                 (b"\x1b%-12345X@PJL SET X=1\n\n" + head + b"showpage\n%%EOF\n\x04\n", 0),
@@ -325,12 +330,18 @@ class Bounds(unittest.TestCase):
                 (b"%!PS-Adobe-3.0 EPSF-3.0\nshowpage\n%%EOF\n", 1),
                 (b"showpage\n" + head, 1),
                 (head + b"%%EOF\nshowpage\n", 1),
+                (head + b"showpage\n\x1b%-12345X@PJL EOJ\n", 0),
+                *exits,
             ):
                 with self.subTest(job=job):
                     result, written, _, log = self.run_filter(job, "JobPIN=Custom.0391", ppd)
                     self.assertEqual(result, status, log)
                     if status == 1 and not job.startswith(head):
                         self.assertLess(written, 1)
+            for job, status in exits:
+                self.assertEqual(self.run_filter(job, "FaxNumber=Custom.1", PPD)[0], status, job)
+                told = [line for line in self.run_filter(job, "", PPD)[3] if "ends the printer's job" in line]
+                self.assertEqual(len(told), status, job)
 
 
 if __name__ == "__main__":
