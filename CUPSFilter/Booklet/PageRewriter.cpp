@@ -22,11 +22,14 @@ constexpr std::uint64_t kAddressSpace = std::uint64_t{4} << 30;
 constexpr char kMakeRoom[] = "; make room in TMPDIR and send the job again";
 
 /// Nothing of the job is to change but its form: pages keep how they lie, pictures their pixels.
+/// Transfer functions go into the colours: the procedures that would set them on each page can be
+/// told nothing, and would take a negative's away.
 std::vector<std::string> Command(const PageRewriter& rewriter) {
   return {rewriter.ghostscript, "-q", "-dSAFER", "-dBATCH", "-dNOPAUSE", "-sDEVICE=ps2write",
           "-dAutoRotatePages=/None", "-dAutoFilterColorImages=false",
           "-dColorImageFilter=/LZWEncode", "-dAutoFilterGrayImages=false",
-          "-dGrayImageFilter=/LZWEncode", "-dDEVICEWIDTHPOINTS=" + std::to_string(rewriter.width),
+          "-dGrayImageFilter=/LZWEncode", "-dTransferFunctionInfo=/Apply",
+          "-dDEVICEWIDTHPOINTS=" + std::to_string(rewriter.width),
           "-dDEVICEHEIGHTPOINTS=" + std::to_string(rewriter.height), "-sstdout=%stderr",
           "-sOutputFile=%stdout", "-",
           // Of a job that draws nothing it makes one empty page.

@@ -10,9 +10,10 @@
 namespace zarvo {
 namespace {
 
-/// What says that one of the known converters wrote a document, and where.
+/// What says that one of the known converters wrote a document, and where. Poppler has told its
+/// name in either place.
 constexpr std::string_view kCreator = "%%Creator:";
-constexpr std::string_view kKnownCreators[] = {"(ps2write)", " cairo "};
+constexpr std::string_view kKnownCreators[] = {"(ps2write)", " cairo ", " poppler pdftops version"};
 constexpr std::string_view kKnownHeader = "%Produced by poppler pdftops version";
 
 /// The traces of those who wrap pages: an n-up program's, and the spooler's own.

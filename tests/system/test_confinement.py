@@ -128,6 +128,7 @@ ls /proc/$PPID/fd && echo REACHED
         self.assertEqual(list(self.spool.iterdir()), [])
 
     @unittest.skipUnless(shutil.which("strace") and not SANITIZED, "takes strace")
+    @unittest.skipIf(os.geteuid() != 0, "its memory is hidden from all but root: the names are in there")
     def test_only_files_that_the_administrator_chose_are_opened(self):
         decoy = self.path("decoy", b"secret")
         texts = " ".join(f"{key}={decoy}" for key in (

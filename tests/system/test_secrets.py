@@ -213,7 +213,7 @@ class Person(unittest.TestCase):
     """What somebody without any right learns of a job."""
 
     JOBS = [  # options, exit status of "why", what it says, in order
-        ("-o PageSize=A5 -o JobPIN=Custom.0391", 0, ["office-1 was printed.\n"]),
+        ("-o PageSize=A5 -o JobPIN=Custom.0391", 0, ["office-1 ", "was printed.\n"]),
         ("-o job-password=0391", 0, ["was printed."]),
         ("-o Staple=TopLft", 1, ["was printed; not as asked:", "\n  - option Staple: no choice"]),
         ("-o Staple=TopLft -o siides=x", 1, ["- option siides: ", "\n  - option Staple: "]),

@@ -101,7 +101,9 @@ class Spooler(unittest.TestCase):
         self.assertIn(b'OID_ATT_FAX_DESTINATION_PHONE "5550100";\n', received)
         self.assertEqual(received.count(b"\n%!PS-Adobe-3.0"), 2)
         self.assertGreater(render(received, "fax"), 2000)
-        self.assertEqual(list(self.cupsd.temporary.iterdir()), [])
+        # Converters keep a list of fonts there where the machine has none that is up to date.
+        left = {entry.name for entry in self.cupsd.temporary.iterdir()}
+        self.assertEqual(left - {".cache"}, set())
 
     def test_filter_failure_is_a_failed_job(self):
         cut = OUTPUT / "cut.ps"
