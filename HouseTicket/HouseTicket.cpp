@@ -134,7 +134,7 @@ Dictionary HouseTicketToDictionary(const HouseTicket& house) {
   return entry;
 }
 
-std::string HouseTicketFromDictionary(const Dictionary& entry, HouseTicket* house) {
+Failure HouseTicketFromDictionary(const Dictionary& entry, HouseTicket* house) {
   HouseTicket read;
   std::string fault = entry.contains(kTicketKey) ? "" : "it has no settings";
   for (const auto& [name, value] : entry) {
@@ -182,8 +182,8 @@ void MergeSettings(Dictionary over, Dictionary* under) {
   }
 }
 
-std::string ResolveHouseTicket(const std::string& name, const FindHouseTicket& find,
-                               ResolvedHouseTicket* resolved) {
+Failure ResolveHouseTicket(const std::string& name, const FindHouseTicket& find,
+                           ResolvedHouseTicket* resolved) {
   std::vector<HouseTicket> tickets;
   ResolvedHouseTicket whole;
   whole.name = name;

@@ -27,6 +27,7 @@
 #include <string_view>
 #include <vector>
 
+#include "Platform/Failure.h"
 #include "Platform/Value.h"
 
 namespace zarvo {
@@ -60,8 +61,8 @@ bool HoldsPin(const Dictionary& ticket);
 /// The stored form: a dictionary of "Ticket" and, where there is something to say, "BasedOn",
 /// "Titles" and "MayOverride".
 Dictionary HouseTicketToDictionary(const HouseTicket& house);
-/// And back. Gives why the entry is no house ticket, or an empty text.
-std::string HouseTicketFromDictionary(const Dictionary& entry, HouseTicket* house);
+/// And back. Fails when the entry is no house ticket.
+Failure HouseTicketFromDictionary(const Dictionary& entry, HouseTicket* house);
 
 /// Puts `over` on `under`: groups are merged, everything else is replaced, lists as a whole. Goes
 /// no deeper than the shallower of the two.
@@ -76,12 +77,12 @@ struct ResolvedHouseTicket {
   std::vector<std::string> chain;  ///< the names, from `name` to the last base
 };
 
-/// Finds a record by its name; gives why it cannot be had, or an empty text.
-using FindHouseTicket = std::function<std::string(const std::string& name, HouseTicket* house)>;
+/// Finds a record by its name.
+using FindHouseTicket = std::function<Failure(const std::string& name, HouseTicket* house)>;
 
-/// Gives why the ticket cannot be had, with the name that is at fault, or an empty text.
-std::string ResolveHouseTicket(const std::string& name, const FindHouseTicket& find,
-                               ResolvedHouseTicket* resolved);
+/// Fails when the ticket cannot be had; the failure has the name that is at fault.
+Failure ResolveHouseTicket(const std::string& name, const FindHouseTicket& find,
+                           ResolvedHouseTicket* resolved);
 
 /// What a job says, by its rank.
 struct JobSays {

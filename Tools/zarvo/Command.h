@@ -2,9 +2,13 @@
 // What every subcommand of the tool has in common.
 #pragma once
 
-#include <CLI/CLI.hpp>
 #include <functional>
 #include <string>
+
+// Only what declares or reads a command line includes the library, which takes long to compile.
+namespace CLI {
+class App;
+}
 
 namespace zarvo::tool {
 

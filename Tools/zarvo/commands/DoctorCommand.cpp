@@ -2,6 +2,7 @@
 // zarvo doctor: is everything there that jobs need, and as the spooler wants it?
 #include <sys/stat.h>
 #include <unistd.h>
+#include <CLI/CLI.hpp>
 
 #include <algorithm>
 #include <cerrno>

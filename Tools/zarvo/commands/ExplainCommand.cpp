@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // zarvo explain: what a job that the filter wrote asks of the printer.
+#include <CLI/CLI.hpp>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // zarvo fax: sends a fax, and shows the cover sheet as its receiver will see it.
 #include <sys/wait.h>
+#include <CLI/CLI.hpp>
 
 #include <algorithm>
 #include <cerrno>

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // zarvo manual: manual pages and shell completion, made from the command line itself.
+#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cstdio>
 #include <filesystem>

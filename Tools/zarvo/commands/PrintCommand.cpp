@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // zarvo print: like lp, with settings in the readable form.
+#include <CLI/CLI.hpp>
 #include <memory>
 
 #include "Tools/zarvo/Command.h"

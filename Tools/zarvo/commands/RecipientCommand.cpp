@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // zarvo recipient: the fax recipients in the user's address book.
+#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cstdio>
 #include <memory>

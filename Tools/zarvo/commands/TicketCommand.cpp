@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // zarvo ticket: between what people write and what the spooler carries.
+#include <CLI/CLI.hpp>
 #include <cstdio>
 #include <memory>
 

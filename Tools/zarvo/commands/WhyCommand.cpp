@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // zarvo why: what became of a job, from the spooler's own records.
+#include <CLI/CLI.hpp>
 #include <cstdio>
 #include <memory>
 #include <nlohmann/json.hpp>

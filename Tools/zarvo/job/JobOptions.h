@@ -3,7 +3,6 @@
 // settings in the readable form.
 #pragma once
 
-#include <CLI/CLI.hpp>
 #include <optional>
 #include <string>
 #include <vector>

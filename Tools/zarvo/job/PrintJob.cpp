@@ -4,6 +4,7 @@
 #include <cups/cups.h>
 #include <fcntl.h>
 #include <unistd.h>
+#include <CLI/CLI.hpp>
 
 #include <algorithm>
 #include <cerrno>

@@ -3,9 +3,12 @@
 // program, and so a PIN or a fax number, can be read by everybody on the machine.
 #pragma once
 
-#include <CLI/CLI.hpp>
 #include <string>
 #include <vector>
+
+namespace CLI {
+class App;
+}
 
 namespace zarvo::tool {
 

@@ -56,8 +56,8 @@ class Pages {
 
   /// The next page, or false after the last one.
   bool Next(Raster* page) {
-    if (!process_ || process_->output() == nullptr) return false;
-    std::FILE* input = process_->output();
+    std::FILE* input = process_ ? process_->output() : nullptr;
+    if (input == nullptr) return false;
     std::size_t depth = 0;
     if (std::getc(input) != 'P' || std::getc(input) != '6' || !Number(input, &page->width) ||
         !Number(input, &page->height) || !Number(input, &depth))
@@ -69,10 +69,14 @@ class Pages {
   }
 
   /// Whether the time has run out while reading.
-  bool LateNow() { return errno == ETIMEDOUT && std::ferror(process_->output()) != 0; }
+  bool LateNow() {
+    const int error = errno;
+    std::FILE* input = process_->output();
+    return error == ETIMEDOUT && input != nullptr && std::ferror(input) != 0;
+  }
 
-  /// What stopped the interpreter, or an empty text.
-  std::string Fault() {
+  /// What stopped the interpreter.
+  Failure Fault() {
     const int status = process_->Wait();
     if (WIFEXITED(status) && WEXITSTATUS(status) == 0) return "";
     const std::string fault = InterpreterError(ReadLog(errors_.get()));
