@@ -1,5 +1,5 @@
 # The front door; everything else is CMake (see CMakePresets.json).
-.PHONY: corpus build setup demo test bench pictures screenshots install clean format check-format asan fuzz load deb test-packages test-debian
+.PHONY: corpus build setup demo test bench pictures screenshots install clean format check-format lint asan fuzz load deb test-packages test-debian
 JOBS ?= $(shell nproc)
 SOURCES = $(shell git ls-files '*.cpp' '*.h')
 
@@ -89,6 +89,15 @@ format:
 check-format:
 	@if command -v $(FORMATTER) >/dev/null; then $(FORMATTER) --dry-run -Werror $(SOURCES); \
 	else echo "check-format: not checked, $(FORMATTER) is not installed"; fi
+
+# The filter's own code, which runs on input from anybody who may print, against .clang-tidy. It reads
+# how "build" compiles each file.
+LINTER = clang-tidy-14
+LINTED = $(shell git ls-files 'Platform/*.cpp' 'Source/*.cpp' 'CUPSFilter/*.cpp' 'StandardTicket/*.cpp' 'HouseTicket/*.cpp')
+lint:
+	@if command -v $(LINTER) >/dev/null; then cmake --preset release >/dev/null && \
+	  echo $(LINTED) | xargs -n 4 -P $(JOBS) $(LINTER) -quiet -p build 2>/dev/null; \
+	else echo "lint: not checked, $(LINTER) is not installed"; fi
 
 clean:
 	@# What test-debian leaves belongs to root.

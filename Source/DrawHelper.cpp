@@ -53,7 +53,7 @@ std::string DrawHelperPath() {
   const ssize_t length = ::readlink("/proc/self/exe", program, sizeof program);
   if (length > 0) {
     const std::string_view path(program, static_cast<std::size_t>(length));
-    const std::string beside = std::string(path.substr(0, path.rfind('/') + 1)) + kName;
+    std::string beside = std::string(path.substr(0, path.rfind('/') + 1)) + kName;
     if (::access(beside.c_str(), X_OK) == 0) return beside;
   }
   return std::string(ZARVO_LIBEXEC_DIR) + '/' + kName;

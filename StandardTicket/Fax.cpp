@@ -52,7 +52,7 @@ std::optional<std::string> NumberOf(const std::string& uri) {
 /// A string around a number. A character that is not dialled is told without showing it.
 std::string DialString(Members* members, const char* member, Mapping* mapping) {
   const Attribute attribute = members->Take(member);
-  const std::string text = attribute.Text().value_or("");
+  std::string text = attribute.Text().value_or("");
   for (const char c : text) {
     if (kDialled.find(c) != kDialled.npos || kSkipped.find(c) != kSkipped.npos) continue;
     mapping->Drop(members->PathOf(member), "the printers dial digits and *#=:!,/S$<>ABCD");

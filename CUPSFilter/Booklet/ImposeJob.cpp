@@ -148,7 +148,7 @@ class RewrittenJob {
       // Each leaves the next one a printer as it found it.
       const bool last = &document == &documents.back();
       if (!last) output_.Write("%!PS-Adobe-3.0\nuserdict /ZRVdocument save put\n");
-      const Failure failure = WriteDocument(document, &pages);
+      Failure failure = WriteDocument(document, &pages);
       if (!failure.empty()) return failure;
       if (!last) output_.Write("clear cleardictstack userdict /ZRVdocument get restore\n");
     }
@@ -171,7 +171,7 @@ class RewrittenJob {
     rewriter_.limit =
         std::max(std::chrono::milliseconds(1),
                  std::chrono::duration_cast<std::chrono::milliseconds>(deadline_ - Clock::now()));
-    const Failure failure = RewritePages(fileno(source->stream()), rewriter_, rewritten->stream());
+    Failure failure = RewritePages(fileno(source->stream()), rewriter_, rewritten->stream());
     if (!failure.empty()) return failure;
 
     PageHooks hooks(settings_, output_);

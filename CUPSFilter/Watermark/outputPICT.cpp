@@ -25,6 +25,8 @@ constexpr int kMaxRows = 32767;  // the size is kept in 16 bits, as the page des
 // Above this the page is counted in 300ths of an inch, not in points.
 constexpr float kLargestAreaInPoints = 1300;
 constexpr float kFineScale = 300.0F / 72;
+/// Of whole inches; the rest is not counted.
+constexpr int In300ths(int points) { return points / 72 * 300; }
 
 /// The two digits of every byte.
 constexpr auto kHexPairs = [] {
@@ -130,8 +132,8 @@ void insertWatermarkCall(int inScale, int inBlended, FILE* ofp) {
   float height = image.blendedRect.bottom;
   if (image.imageableAreaWidth > kLargestAreaInPoints ||
       image.imageableAreaHeight > kLargestAreaInPoints) {
-    width = static_cast<float>(image.blendedRect.right / 72 * 300);
-    height = static_cast<float>(image.blendedRect.bottom / 72 * 300);
+    width = static_cast<float>(In300ths(image.blendedRect.right));
+    height = static_cast<float>(In300ths(image.blendedRect.bottom));
     std::fprintf(ofp, "%.2f %.2f scale\n", kFineScale, kFineScale);
   }
   const float scale = static_cast<float>(inScale) / 100;

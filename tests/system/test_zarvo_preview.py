@@ -58,6 +58,7 @@ class Preview(ZarvoTest):
         about the rest stands in the margin of the first page."""
         self.run_zarvo("watermark", "add-text", "DRAFT", "--color", "#cc0000")
         ground = document(3, (595, 842)).replace("/Helvetica", "1 setgray clippath fill 0 setgray /Helvetica", 1)
+        ground = ground.replace("%%BeginProlog", "%%EndDocument\n%%BeginProlog", 1)  # of nothing that began
         hooked = pathlib.Path(self.path("hooks.ppd", PPD.read_text() + '*ZRVPageHooks: True\n'))
         settings = self.path("s.json", {
             "watermark.Watermark": "DRAFT", "watermark.Option": "background",
@@ -83,12 +84,12 @@ class Preview(ZarvoTest):
                 {"StartPage": 99, "Stock": {"Size": "a4"}},
             ],
         })
-        plan = self.run_zarvo("preview", self.path("j.ps", document(4, (595, 842))), "-s", settings,
+        plan = self.run_zarvo("preview", self.path("j.ps", document(5, (595, 842))), "-s", settings,
                               "--output", "out.pdf", "-o", "PageSize=A4")
         self.assert_golden("preview-plan.txt", plan)
         texts = page_text(self.scratch / "out.pdf")
         self.assertEqual([text.split(",")[0] for text in texts], [
-            "front cover", "1", "1 sheet after page 1", "2", "3", "2 sheets after page 3", "4",
+            "front cover", "1", "1 sheet after page 1", "2", "3", "2 sheets after page 3", "4", "5",
             "1 sheet after page 99"])
 
     def test_pdf_through_the_spooler_and_pipes(self):

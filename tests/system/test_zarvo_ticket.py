@@ -40,6 +40,7 @@ class Ticket(ZarvoTest):
         text = json.dumps({
             "com.zarvo.print.JobType": {"SecurePrintPassword": "S3CRET"},
             "com.zarvo.Act.UID": "S3CRET", "com.zarvo.Act.AID": "S3CRET", "JobPIN": "Custom.S3CRET",
+            "AccountUser": "S3CRET", "AccountID": "S3CRET", "FaxBilling": "Custom.S3CRET",
             "com.zarvo.print.FaxOptions": {"CreditCard": "S3CRET"}})
         for form in ("json", "plist"):
             self.assertNotIn("S3CRET", self.run_zarvo("ticket", "decode", "-f", form, stdin=text))

@@ -1,5 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 // What the parts of a job mean, in words.
+//
+// The names and codes stand here a second time on purpose: they check what the filter wrote, which
+// they could not if they were those that it writes by.
 #pragma once
 
 #include <string>
