@@ -41,7 +41,7 @@ class StructureScan {
   PageStructure Run(off_t end) {
     // With what is known at the first page, most other documents need no further look.
     while (reader_->Tell() < end && (pages_ == 0 || (known_ && !wrapped_ && !broken_))) {
-      if (!in_setup_ && !feature_) reader_->SkipToComment();
+      if (!in_setup_ && !in_prolog_head_ && !feature_) reader_->SkipToComment();
       if (reader_->Tell() >= end || !reader_->ReadLine(line_)) break;
       const bool begins_line = reader_->LineIsWhole();
       Take({line_, reader_->LineLength()}, begins_line);
@@ -100,6 +100,8 @@ class StructureScan {
       broken_ = broken_ || prolog_ || pages_ > 0;
       prolog_ = true;
     }
+    // There the spooler hides showpage, without a comment, before what others have defined.
+    in_prolog_head_ = is("%%BeginProlog") || (in_prolog_head_ && !is("%%"));
     if (is("%%BeginSetup")) in_setup_ = true;
     if (is("%%EndSetup")) in_setup_ = false;
     if (is("%%Page:")) {
@@ -125,7 +127,9 @@ class StructureScan {
   bool wrapped_ = false;
   bool broken_ = false;
   bool prolog_ = false;
-  bool in_setup_ = false;  // the document's or a page's; there, every line is read
+  // Where every line is read: in the document's or a page's set-up, and
+  bool in_setup_ = false;
+  bool in_prolog_head_ = false;  // from the prolog's beginning to its next comment
   long announced_ = -1;
   long pages_ = 0;
   long setups_begun_ = 0;

@@ -14,11 +14,11 @@ RENDER_SECONDS = 900
 # What the pages look like on yellow paper tells what they leave unpainted; the sizes are for the
 # masks of watermarks.
 YELLOW_PAPER = b"""%!
-<< /BeginPage { pop gsave initgraphics 1 1 0 setrgbcolor clippath fill grestore }
+<< /BeginPage { pop gsave initgraphics 1 1 0 setrgbcolor clippath fill grestore } bind
    /EndPage { exch pop dup 2 ne { currentpagedevice /PageSize get
      (%stderr) (w) file dup (SIZE ) writestring dup 2 index 0 get 20 string cvs writestring
      dup ( ) writestring dup 3 -1 roll 1 get 20 string cvs writestring dup (\\n) writestring
-     flushfile } if 2 ne } >> setpagedevice
+     flushfile } if 2 ne } bind >> setpagedevice
 """
 
 
