@@ -106,19 +106,19 @@ def inverted(page, plain):
     return ""
 
 
-def cells(page, left=0, top=0, width=None, height=None):
+def cells(page, left=0, top=0, width=None, height=None, cell=CELL):
     """The means, 0 to 255, of an area's cells; in rows."""
     pixels, step = page.pixels, 3 * page.width
     width, height = width or page.width, height or page.height
-    columns, rows = width // CELL, height // CELL
+    columns, rows = width // cell, height // cell
     means = []
     for row in range(rows):
         sums = [0] * columns
-        for y in range(top + row * CELL, top + (row + 1) * CELL):
-            line = pixels[y * step + 3 * left : y * step + 3 * (left + columns * CELL)]
+        for y in range(top + row * cell, top + (row + 1) * cell):
+            line = pixels[y * step + 3 * left : y * step + 3 * (left + columns * cell)]
             for column in range(columns):
-                sums[column] += sum(line[column * 3 * CELL : (column + 1) * 3 * CELL])
-        means.append([value / (3 * CELL * CELL) for value in sums])
+                sums[column] += sum(line[column * 3 * cell : (column + 1) * 3 * cell])
+        means.append([value / (3 * cell * cell) for value in sums])
     return means
 
 

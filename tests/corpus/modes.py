@@ -36,6 +36,7 @@ MODES = {
     "fax": FAX,
 }
 SMOOTH = ("booklet", "right", "gutter", "creep", "outline", "marked", "mirror")
+FINER = 3  # times the resolution
 MARGIN, GUTTER = 12, 24  # points: of a booklet's sheet, and between its pages
 
 
@@ -138,23 +139,33 @@ class Booklet:
                 yield (side, page - 1, left + (room[0] - scale * width) / 2,
                        MARGIN + (room[1] - scale * height) / 2, scale, scale * width, scale * height)  # fmt: skip
 
-    def wrong(self, sides):
+    def wrong(self, sides, stream):
+        """Of pictures that were made smaller twice, thin lines may be missing in one of both: what
+        is wrong is looked at once more, finer."""
+        if not (why := self._wrong(sides, 1)) or len(sides) != self.slots // 2:
+            return why
+        fine, _ = self.document.renderer.stream(stream, smooth=True, dpi=72 * FINER)
+        return self._wrong(fine, FINER)
+
+    def _wrong(self, sides, finer):
         if len(sides) != self.slots // 2:
             return f"{len(sides)} sides instead of {self.slots // 2}"
         upright = [side.turned(90) for side in sides]
         for number_, side in enumerate(upright):
-            if (side.width, side.height) != self.document.sheet[::-1]:
+            if (side.width, side.height) != tuple(finer * length for length in self.document.sheet[::-1]):
                 return f"side {number_ + 1}: {side.width}x{side.height}"
         inside = [[] for _ in sides]
-        for side, page, left, top, scale, width, height in self.places():
+        cell = finer * CELL
+        for side, page, *place in self.places():
+            left, top, scale, width, height = (finer * length for length in place)
             box = round(left), round(top), round(width), round(height)
             inside[side].append(box)
             if page is None:
-                expected = [[255.0] * (box[2] // CELL) for _ in range(box[3] // CELL)]
+                expected = [[255.0] * (box[2] // cell) for _ in range(box[3] // cell)]
             else:
                 small, error, _ = self.document.renderer.job(self.document.job, dpi=72 * scale, smooth=True)
-                expected = cells(small[page])
-            if why := alike(cells(upright[side], *box), expected):
+                expected = cells(small[page], cell=cell)
+            if why := alike(cells(upright[side], *box, cell), expected):
                 where = "blank" if page is None else f"page {page + 1}"
                 return f"side {side + 1}, {where}: {why}"
         for index, boxes in enumerate(inside):
@@ -199,9 +210,9 @@ def check_marks(mode, document, pages):
     return each(pages, document.plain, check)
 
 
-def check_frames(document, pages, bare):
+def check_frames(document, pages, bare, stream):
     booklet = Booklet(document, "booklet")
-    if why := booklet.wrong(bare):
+    if why := booklet.wrong(bare, stream):
         return why, 0
     for index, (page, plain) in enumerate(zip(pages, bare)):
         page, plain = page.turned(90), plain.turned(90)
@@ -224,9 +235,9 @@ def check_frames(document, pages, bare):
     return "", 0
 
 
-def check_marked_booklet(document, pages, bare):
+def check_marked_booklet(document, pages, bare, stream):
     booklet = Booklet(document, "booklet")
-    if why := booklet.wrong(bare):
+    if why := booklet.wrong(bare, stream):
         return why, 0
     for side, page, left, top, _, width, height in booklet.places():
         if page is None:
@@ -245,7 +256,7 @@ def check_marked_booklet(document, pages, bare):
 
 def check(mode, document, stream, filtered):
     """Why the printer's stream is wrong, or nothing, and pictures of the wrong page. `filtered`
-    gives the pages of another mode."""
+    gives the stream of another mode."""
     for line, name in ((b"@PJL JOB\n", "beginnings"), (b"@PJL COMMENT ZRVbegin", "headers"),
                        (EXIT + b"@PJL EOJ", "ends")):  # fmt: skip
         if stream.count(line) != 1:
@@ -255,13 +266,15 @@ def check(mode, document, stream, filtered):
     if errors:
         return errors[0], pages[-1:]
     if mode in ("booklet", "right", "gutter", "creep"):
-        why = Booklet(document, mode).wrong(pages)
+        why = Booklet(document, mode).wrong(pages, stream)
         return why, pages if why else []
     if mode in ("outline", "marked"):
-        bare = filtered("booklet")
+        bare_stream = filtered("booklet")
+        bare, _ = document.renderer.stream(bare_stream, smooth=True)
         if len(pages) != len(bare):
             return f"{len(pages)} sides instead of {len(bare)}", []
-        why, index = (check_frames if mode == "outline" else check_marked_booklet)(document, pages, bare)
+        check_it = check_frames if mode == "outline" else check_marked_booklet
+        why, index = check_it(document, pages, bare, bare_stream)
         return why, [pages[index], bare[index]] if why else []
     if mode == "fax":
         if not pages or (pages[0].width, pages[0].height) != (595, 842):

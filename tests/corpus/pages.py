@@ -70,11 +70,11 @@ class Renderer:
         self.cache = cache
         cache.mkdir(parents=True, exist_ok=True)
 
-    def stream(self, stream, smooth=False):
+    def stream(self, stream, smooth=False, dpi=72):
         """The pages of all jobs, and what went wrong."""
         pages, errors = [], []
         for job in postscript_jobs(stream):
-            drawn, error, _ = self.job(job, smooth=smooth)
+            drawn, error, _ = self.job(job, dpi, smooth=smooth)
             pages += drawn
             errors += [error] if error else []
         return pages, errors

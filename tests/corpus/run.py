@@ -53,7 +53,9 @@ class Corpus:
         self.support = self.cache / "support"
         self.support.mkdir(parents=True, exist_ok=True)
         write_watermarks(self.support)
-        self.filters = succeed(["cups-config", "--serverbin"]).decode().strip() + "/filter/"
+        binaries = succeed(["cups-config", "--serverbin"]).decode().strip()
+        os.environ["CUPS_SERVERBIN"] = binaries  # of which the converters find one another
+        self.filters = binaries + "/filter/"
         self.ppd = str(arguments.build / "ppd/zarvo.ppd")
         self.damage = arguments.damage
         (self.cache / "right").mkdir(exist_ok=True)
@@ -157,7 +159,7 @@ class Corpus:
         options = f"WMTurn={row['say']}" if "say" in row else ""
 
         def filtered(mode):
-            return renderer.stream(self.print(document, mode, options), smooth=True)[0]
+            return self.print(document, mode, options)
 
         wrong = {}
         for mode in modes:
