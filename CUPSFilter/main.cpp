@@ -171,7 +171,7 @@ int RunJob(const Job& job, const char* input_name, JobNotices* notices) {
   if (spool && output.error() == 0) {
     const std::optional<long> sheets =
         job.settings.pageHooks
-            ? ImposeDocuments(job.ticket, job.settings, *spool, rules.documents(), printer)
+            ? ImposeDocuments(job.ticket, job.settings, *spool, rules.documents(), printer, notices)
             : ImposeJob(job.ticket, job.settings, *spool, printer);
     printer.Flush();
     if (sheets) LogSheets(job.settings.copies, *sheets);

@@ -127,11 +127,12 @@ class RewrittenJob {
 
  public:
   RewrittenJob(const Dictionary& ticket, const JobSettings& settings, const SpoolFile& spool,
-               JobOutput& output)
+               JobOutput& output, JobNotices* notices)
       : ticket_(ticket),
         settings_(settings),
         spool_(spool),
         output_(output),
+        notices_(notices),
         deadline_(Clock::now() + rewriter_.limit) {
     rewriter_.width = settings.mediaWidth;
     rewriter_.height = settings.mediaLength;
@@ -174,12 +175,13 @@ class RewrittenJob {
     Failure failure = RewritePages(fileno(source->stream()), rewriter_, rewritten->stream());
     if (!failure.empty()) return failure;
 
-    PageHooks hooks(settings_, output_);
+    PageHooks hooks(settings_, output_, notices_);
     BookletVars bv = Booklet(ticket_, settings_, *rewritten, output_);
     bv.pPageHooks = &hooks;
     bv.szFeatures = ReadPageStructure(spool_.path().c_str(), document.begin, document.end).features;
     const int imposed = xPostProcessAndRespoolJob(&bv);
     if (imposed < 0) return "code " + std::to_string(imposed) + kMakeRoom;
+    hooks.Finish();
     *pages += imposed;
     sheets_ += Sheets(imposed);
     return "";
@@ -192,6 +194,7 @@ class RewrittenJob {
   const JobSettings& settings_;
   const SpoolFile& spool_;
   JobOutput& output_;
+  JobNotices* notices_;
   PageRewriter rewriter_;
   Clock::time_point deadline_;  // of all documents together
   long sheets_ = 0;
@@ -210,16 +213,19 @@ std::optional<long> ImposeJob(const Dictionary& ticket, const JobSettings& setti
 
 std::optional<long> ImposeDocuments(const Dictionary& ticket, const JobSettings& settings,
                                     const SpoolFile& spool,
-                                    const std::vector<DocumentRange>& documents,
-                                    JobOutput& output) {
+                                    const std::vector<DocumentRange>& documents, JobOutput& output,
+                                    JobNotices* notices) {
   if (documents.size() == 1 &&
       ReadPageStructure(spool.path().c_str(), documents[0].begin, documents[0].end).reliable) {
-    PageHooks hooks(settings, output);
+    PageHooks hooks(settings, output, notices);
     BookletVars bv = Booklet(ticket, settings, spool, output);
     bv.pPageHooks = &hooks;
     bv.iDocumentStart = documents[0].begin;
     const int pages = xPostProcessAndRespoolJob(&bv);
-    if (pages > 0) return Sheets(pages);
+    if (pages > 0) {
+      hooks.Finish();
+      return Sheets(pages);
+    }
     if (bv.iPass1Result > 0) {  // something has been written
       LogFailure(pages, output);
       return std::nullopt;
@@ -244,7 +250,7 @@ std::optional<long> ImposeDocuments(const Dictionary& ticket, const JobSettings&
       break;
     }
     JobOutput whole(imposed->stream());
-    RewrittenJob job(ticket, settings, spool, whole);
+    RewrittenJob job(ticket, settings, spool, whole, notices);
     failure = job.Write(attempt);
     if (!whole.Flush() && failure.empty())
       failure = std::string(std::strerror(errno)) + "; make room in TMPDIR and send the job again";

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "CUPSFilter/CopyPass/JobFrame.h"
+#include "CUPSFilter/JobNotices.h"
 #include "CUPSFilter/JobOutput.h"
 #include "CUPSFilter/JobSettings.h"
 #include "CUPSFilter/SpoolFile.h"
@@ -24,8 +25,10 @@ std::optional<long> ImposeJob(const Dictionary& ticket, const JobSettings& setti
 /// imposed as it is; any other is first written anew, which one log line tells. Each document of
 /// the job becomes a booklet of its own. When that fails nothing is written, one log line tells
 /// why, and nothing is returned; else the number of sheets, which is 0 for a job without pages.
+/// `notices` is told what the job does not get; null for nobody.
 std::optional<long> ImposeDocuments(const Dictionary& ticket, const JobSettings& settings,
                                     const SpoolFile& spool,
-                                    const std::vector<DocumentRange>& documents, JobOutput& output);
+                                    const std::vector<DocumentRange>& documents, JobOutput& output,
+                                    JobNotices* notices);
 
 }  // namespace zarvo

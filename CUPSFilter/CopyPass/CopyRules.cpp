@@ -207,6 +207,7 @@ void CopyRules::Finish() {
   if (!page_hooks_) return;
   frame_.End();
   copies_.Finish();
+  page_hooks_->Finish();
 }
 
 bool CopyRules::WatchesForResolution() const {

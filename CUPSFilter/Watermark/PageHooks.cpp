@@ -22,6 +22,11 @@ int AskedTurn() {
   return orientation == 1 ? kLandscape : orientation;
 }
 
+constexpr char kTurnUnknown[] =
+    "watermark: a page is a picture, which does not tell how it is read, so its mark stands "
+    "upright "
+    "on the paper; when that is wrong, which a preview shows, say WMTurn=90 or WMTurn=270";
+
 void WriteFlag(FILE* output, const char* name, bool value) {
   std::fprintf(output, "/%s %s def\n", name, value ? "true" : "false");
 }
@@ -72,9 +77,20 @@ bool PageHooks::LooksAhead(std::string_view line) const {
 }
 
 void PageHooks::ShowAhead(std::string_view head) {
+  const PageLook look = LookAtPage(head);
   // A page that tells nothing, such as a picture, lies as the one before.
-  page_turn_ = FindPageTurn(head).value_or(told_ ? page_turn_ : document_turn_);
+  page_turn_ = look.turn.value_or(told_ ? page_turn_ : document_turn_);
   told_ = true;
+  if (!turn_known_) {
+    turn_known_ = look.turn || page_turn_ != 0;
+    guess_failed_ = guessed_ && page_turn_ != 0;
+    guessed_ = guessed_ || look.drawing || look.pictures > PageWidth * PageLength / 2;
+  }
+}
+
+void PageHooks::Finish() {
+  if (guessed_ && (!turn_known_ || guess_failed_) && notices_ != nullptr)
+    notices_->Add(kTurnUnknown);
 }
 
 void PageHooks::TakeOrientation(std::string_view line) {

@@ -36,7 +36,7 @@ bool PageHooksWanted(const Ppd& ppd);
 /// `settings` and `output` must outlive it.
 class PageHooks {
  public:
-  /// `notices` is told of an image that is left out; null for nobody.
+  /// `notices` is told of an image that is left out, and by Finish(); null for nobody.
   PageHooks(const JobSettings& settings, JobOutput& output, JobNotices* notices = nullptr);
 
   /// A document begins; its first line comes next.
@@ -54,6 +54,9 @@ class PageHooks {
   /// something embedded's.
   void BeforeLine(std::string_view line, bool own);
   void AfterLine(std::string_view line, bool own);
+
+  /// At the end of the job: tells of a watermark whose direction is a mere guess.
+  void Finish();
 
   /// Ahead of a booklet's prolog.
   void WriteFont();
@@ -75,6 +78,9 @@ class PageHooks {
   bool told_ = false;          // a page of this document has been shown
   int document_turn_ = 0;      // how pages lie that tell nothing; see PageTurn.h
   int page_turn_ = 0;          // how this page lies
+  bool turn_known_ = false;    // from any page so far, or what was said of them
+  bool guessed_ = false;       // of a picture ahead of that,
+  bool guess_failed_ = false;  // and other pages lie otherwise
 };
 
 }  // namespace zarvo

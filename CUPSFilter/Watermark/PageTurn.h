@@ -12,15 +12,25 @@
 
 namespace zarvo {
 
-/// As much of a page as FindPageTurn() looks at, in bytes.
+/// As much of a page as LookAtPage() looks at, in bytes.
 constexpr std::size_t kPageHead = 16 * 1024;
 
 /// Quarter turns counterclockwise, or one of these.
 constexpr int kLandscape = 4;  ///< a quarter turn on paper that is higher than wide
 
-/// How the page whose program (after its %%Page comment) begins so lies on its sheet; nothing when
-/// neither its text nor its turns nor a comment tell. Takes time in proportion to the length.
-std::optional<int> FindPageTurn(std::string_view head);
+struct PageLook {
+  /// How the page lies on its sheet; nothing when neither its text nor its turns nor a comment
+  /// tell.
+  std::optional<int> turn;
+  /// What its pictures cover, in square points,
+  double pictures = 0;
+  /// and whether it is drawn without any text.
+  bool drawing = false;
+};
+
+/// Looks at the page whose program (after its %%Page comment) begins so. Takes time in proportion
+/// to the length.
+PageLook LookAtPage(std::string_view head);
 
 /// What an orientation comment says from its colon on.
 std::optional<int> TurnOfComment(std::string_view value);

@@ -41,7 +41,7 @@ class Limits : public testing::Test {
 
 TEST_F(Limits, ThePartOfAPageThatIsLookedAtMayEndInAnEscape) {
   for (const char* end : {"\\", "\\1", "\\12", "\\123"})
-    EXPECT_EQ(FindPageTurn(std::string("90 rotate (x) show (") + end), 1) << end;
+    EXPECT_EQ(LookAtPage(std::string("90 rotate (x) show (") + end).turn, 1) << end;
 }
 
 TEST_F(Limits, OptionTextOf128KiB) {
