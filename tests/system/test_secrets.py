@@ -163,6 +163,12 @@ class Secrets(unittest.TestCase):
             status, output, _ = self.run_filter(options, lenient)
             self.assertEqual(status, 0)
             self.assertIn(b'SECURE_PRINT;\n@PJL COMMENT OID_ATT_JOB_PASSWORD "";', output)
+        # The standard attributes are another way to a PIN; this queue has only this one.
+        strict = self.scratch / "strict.ppd"
+        strict.write_text(text.replace("*ZRVStandardTicket: True\n", ""))
+        self.assertIn(SECURE, self.run_filter("job-password=0391", strict)[1])
+        refused = self.run_filter("job-password=0391 job-password-encryption=sha-256", strict)
+        self.assertEqual(refused[:2], (1, b""))
         marked = self.scratch / "marked.ppd"
         marked.write_text("\ufeff" + text)
         status, output, log = self.run_filter("JobType=Secure", marked)
