@@ -2,7 +2,7 @@
 #include "StandardTicket/Attribute.h"
 
 #include <charconv>
-#include <cstdio>
+#include <cstring>
 #include <ctime>
 #include <string_view>
 
@@ -19,11 +19,16 @@ std::optional<std::int32_t> WholeNumber(std::string_view text) {
   return number;
 }
 
+/// A message may have any number for the unit, which is read as a number: an enumeration would not
+/// take it.
 std::string ResolutionText(ipp_attribute_t* attribute, int index) {
   int y = 0;
-  ipp_res_t units = IPP_RES_PER_INCH;
-  const int x = ippGetResolution(attribute, index, &y, &units);
-  const char* unit = units == IPP_RES_PER_CM ? "dpcm" : "dpi";
+  ipp_res_t raw = IPP_RES_PER_INCH;
+  const int x = ippGetResolution(attribute, index, &y, &raw);
+  std::int32_t units = 0;
+  static_assert(sizeof units == sizeof raw);
+  std::memcpy(&units, &raw, sizeof units);
+  const char* unit = units == IPP_RES_PER_INCH ? "dpi" : units == IPP_RES_PER_CM ? "dpcm" : "?";
   const std::string both = x == y ? "" : "x" + std::to_string(y);
   return std::to_string(x) + both + unit;
 }
