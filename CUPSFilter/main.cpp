@@ -11,6 +11,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <ctime>
 #include <memory>
 #include <new>
 #include <optional>
@@ -28,6 +29,7 @@
 #include "CUPSFilter/Options/ParseOptions.h"
 #include "CUPSFilter/Options/PpdTicket.h"
 #include "CUPSFilter/Options/QueuePolicy.h"
+#include "CUPSFilter/Options/SchedulerRequest.h"
 #include "CUPSFilter/Options/StandardOptions.h"
 #include "CUPSFilter/Options/common.h"
 #include "CUPSFilter/SpoolFile.h"
@@ -64,6 +66,8 @@ std::optional<Job> ReadJob(char** arguments, std::optional<JobNotices>* notices)
   if (policy.standardTicket) standard = ReadStandardJob(arguments[1], arguments[2], options, &ppd);
   std::vector<std::string> faults;
   PpdChoices chosen = PpdTicketOptions(ppd, standard.ownNames, &faults);
+  for (const std::string& dictionary : standard.ticket.without)
+    chosen.others.RemoveBelow(dictionary);
   const OptionList attributes = StandardOptions(&standard.ticket, &chosen.named, options);
   const std::vector<cups_option_t> ordered =
       TicketOrder({&chosen.others, &attributes, &chosen.named, &options});
@@ -209,6 +213,13 @@ void HideMemory() {
 #endif
 }
 
+/// The spooler hears of a filter's end by a signal and of its reasons through a pipe. When the end
+/// comes first, all that people ever read of the job is "Filter failed".
+void LetReasonsBeRead() {
+  constexpr timespec kLongEnough{0, 200'000'000};
+  if (UnderScheduler()) nanosleep(&kLongEnough, nullptr);
+}
+
 /// Whether all that a job started by hand names is open to the user.
 bool ReachesEverything(const SpoolerUser& user, const char* input_name) {
   const auto is_open = [&user](const std::string& path, int access) {
@@ -257,12 +268,16 @@ int Main(int argc, char** argv) {
   std::setvbuf(stdout, output_buffer, _IOFBF, sizeof output_buffer);
   std::optional<JobNotices> notices;
   const std::optional<Job> job = ReadJob(argv, &notices);
-  if (!job) return kFailure;
+  if (!job) {
+    LetReasonsBeRead();
+    return kFailure;
+  }
   const int status = RunJob(*job, argc == 7 ? argv[6] : nullptr, &*notices);
   if (status == kSuccess) {
     notices->Finish();
   } else {
     notices->MarkRefused();
+    LetReasonsBeRead();
   }
   if (status == kSuccess) LogLine("DEBUG: leaving Zarvo cups filter");
   return status;

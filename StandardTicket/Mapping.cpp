@@ -45,6 +45,11 @@ void Mapping::Neutral(std::string_view name, std::int64_t number) {
   if (!Has(full)) Add(full, std::to_string(number), true);
 }
 
+void Mapping::Neutral(std::string_view name, const std::string& text) {
+  if (const auto utf8 = MakeString(text); utf8 && !text.empty() && !Has(name))
+    Add(name, *utf8, true);
+}
+
 void Mapping::Copy(std::string_view dictionary, const StandardSetting& setting) {
   Add(std::string(dictionary) + setting.name, setting.value, setting.quiet);
 }

@@ -34,6 +34,10 @@ class Mapping {
   bool Text(std::string_view name, const std::string& text);
   /// A neutral number that outranks defaults and whatever else this job asked for does not change.
   void Neutral(std::string_view name, std::int64_t number);
+  /// The same for a text; an empty one is none.
+  void Neutral(std::string_view name, const std::string& text);
+  /// What a lower default sets below `dictionary` is not to be done.
+  void Without(std::string_view dictionary) { ticket_.without.emplace_back(dictionary); }
   /// A setting whose name begins below `dictionary`.
   void Copy(std::string_view dictionary, const StandardSetting& setting);
   /// The settings travel in the XML ticket only: switches it on.

@@ -47,6 +47,7 @@ struct NotHonoured {
 struct StandardTicket {
   std::vector<StandardSetting> settings;  ///< of two for one name the later counts
   std::vector<NotHonoured> not_honoured;
+  std::vector<std::string> without;  ///< dictionaries of the ticket that defaults must not fill
   /// Why the job must not be printed at all, such as a PIN that cannot be used; empty when it may.
   std::string refusal;
 };

@@ -38,4 +38,12 @@ void OptionList::RemoveEmpty(const char* name) {
   if (value != nullptr && *value == '\0') size_ = cupsRemoveOption(name, size_, &options_);
 }
 
+void OptionList::RemoveBelow(const std::string& dictionary) {
+  for (int i = size_ - 1; i >= 0; --i) {
+    const std::string name = options_[i].name;
+    if (name.starts_with(dictionary + ".."))
+      size_ = cupsRemoveOption(name.c_str(), size_, &options_);
+  }
+}
+
 }  // namespace zarvo

@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <span>
+#include <string>
 
 namespace zarvo {
 
@@ -26,6 +27,8 @@ class OptionList {
   void AddMissing(const OptionList& other);
   /// Takes out the option of that name when its value is empty.
   void RemoveEmpty(const char* name);
+  /// Takes out all options that lead below the ticket's dictionary of that flattened name.
+  void RemoveBelow(const std::string& dictionary);
 
   std::span<const cups_option_t> span() const {
     return {options_, static_cast<std::size_t>(size_)};

@@ -147,6 +147,8 @@ Failure Exchange(http_t* http, int job, const char* user, IppMessage* attributes
   if (!answer) return "no whole answer in " + std::to_string(kRequestMilliseconds) + " ms";
   if (ippGetStatusCode(answer.get()) > IPP_STATUS_OK_CONFLICTING)
     return std::string("it answers ") + ippErrorString(ippGetStatusCode(answer.get()));
+  ipp_attribute_t* told = ippFindAttribute(answer.get(), "job-id", IPP_TAG_INTEGER);
+  if (told == nullptr || ippGetInteger(told, 0) != job) return "it answers about another job";
   *attributes = std::move(answer);
   return "";
 }
