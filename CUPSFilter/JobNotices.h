@@ -3,6 +3,7 @@
 // keeps of a job, an answer to the person who sent it.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -35,11 +36,14 @@ class JobNotices {
   void Refuse(const std::string& text) const;
   /// The job is not printed, or not to its end, and a line tells that already.
   void MarkRefused() const;
-  /// At the end of the job: the line that holds all notices, when there are several.
+  /// At the end of the job: the line that holds all notices, when there are several. Where it has
+  /// no room for them, those with one reason stand together, and for the last there are the names
+  /// only.
   void Finish() const;
 
  private:
-  std::string Summary() const;
+  /// Behind so many bytes of the line.
+  std::string Summary(std::size_t before) const;
 
   bool told_;
   std::vector<std::string> notices_;
