@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <cstdlib>
 #include <optional>
 #include <string_view>
 
@@ -139,26 +140,60 @@ void CheckChoice(const cups_option_t& option, const Ppd& ppd, std::vector<std::s
   found->push_back(std::move(text));
 }
 
+/// Letters and digits of a name in lower case: "tray-2" is "Tray2".
+std::string Folded(std::string_view name) {
+  std::string folded;
+  for (const char c : name) {
+    if (c >= 'A' && c <= 'Z') folded += static_cast<char>(c | 0x20);
+    if ((c >= 'a' && c <= 'z') || (c >= '0' && c <= '9')) folded += c;
+  }
+  return folded;
+}
+
+constexpr const char* kMediaOptions[] = {"PageSize", "InputSlot", "MediaType"};
+
+/// Whether the spooler's library maps a word of its own, such as "stationery", to a choice.
+bool IsLibraryWord(const std::string& word) {
+  Ppd fresh = Ppd::Open(std::getenv("PPD"));
+  fresh.Mark(0, nullptr);
+  std::string before, after;
+  for (const char* option : kMediaOptions) before += MarkedChoice(fresh, option) + "/";
+  std::string name = "media", value = word;
+  cups_option_t media = {name.data(), value.data()};
+  fresh.Mark(1, &media);
+  for (const char* option : kMediaOptions) after += MarkedChoice(fresh, option) + "/";
+  return before != after;
+}
+
 /// "media" holds a size, a tray and a type in any order.
 void CheckMedia(const std::string& value, const Ppd& ppd, std::vector<std::string>* found) {
+  constexpr std::size_t kMostWords = 10;  // the library has four
   std::size_t start = 0;
-  while (start <= value.size()) {
+  for (std::size_t words = 0; start <= value.size() && words < kMostWords; ++words) {
     const std::size_t end = std::min(value.find(',', start), value.size());
     const std::string part = value.substr(start, end - start);
     start = end + 1;
     if (part.empty() || IsJobsPaper(part, ppd)) continue;
     std::vector<std::string> choices;
     bool known = false;
-    for (const char* option : {"PageSize", "InputSlot", "MediaType"}) {
-      known = known || ppd.IsMarked(option, part.c_str());
-      for (std::string& choice : ppd.Choices(option)) choices.push_back(std::move(choice));
+    for (const char* option : kMediaOptions) {
+      for (std::string& choice : ppd.Choices(option)) {
+        // Only the marked size is the job's; trays and types give way to options of their own.
+        known = known || (Folded(choice) == Folded(part) &&
+                          (option != kMediaOptions[0] || ppd.IsMarked(option, choice.c_str())));
+        choices.push_back(std::move(choice));
+      }
     }
-    // The spooler's own words for trays and types are mapped by its library.
-    if (known || (!PaperOfName(part) && Contains(choices, part.c_str()))) continue;
+    if (known || (!PaperOfName(part) && IsLibraryWord(part))) continue;
     const std::string nearest = PaperOfName(part) ? "" : NearestName(part, choices);
-    if (!PaperOfName(part) && nearest.empty()) continue;
-    found->push_back("option media: no paper " + part + ", the job is printed on " +
-                     MarkedChoice(ppd, "PageSize") + DidYouMean(nearest));
+    std::string text = "option media: no paper " + part + ", the job is printed on " +
+                       MarkedChoice(ppd, "PageSize");
+    if (!nearest.empty()) {
+      text += DidYouMean(nearest);
+    } else if (!PaperOfName(part) && ppd.IsTrue("ZRVStandardTicket")) {
+      text += "; a stock of the printer is named by media-col={media-key=" + part + "}";
+    }
+    found->push_back(std::move(text));
   }
 }
 
