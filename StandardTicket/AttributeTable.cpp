@@ -2,7 +2,9 @@
 #include "StandardTicket/AttributeTable.h"
 
 #include <algorithm>
+#include <iterator>
 #include <string>
+#include <utility>
 
 #include "Source/TicketNames.h"
 
@@ -29,7 +31,8 @@ struct Word {
 };
 using enum Word::Effect;
 
-constexpr char kOneInk[] = "highlight color takes settings of its own in the job ticket";
+/// The one colorant that is in the printer beside black.
+constexpr std::int32_t kLoadedColorant = 5;
 constexpr char kNoSuchBin[] = "the printers have no such bin; use top, stacker, or one by number";
 constexpr char kNoTurn[] = "the printers turn pages by 180 degrees only; use orientation-requested";
 constexpr char kNoPlace[] =
@@ -61,7 +64,8 @@ constexpr Word kWords[] = {
      "it is printed in shades of gray"},
     {"print-color-mode", "process-bi-level", kNearest, key::kFinishingOutputColor, 1,
      "it is printed in shades of gray"},
-    {"print-color-mode", "highlight", kCannot, {}, 0, kOneInk},
+    {"print-color-mode", "highlight", kSet, key::highlight::kPrintingColor, kLoadedColorant,
+     nullptr, key::kHighlightColorOptionsJob},
 
     {"output-bin", "auto", kSet, key::kFinishingOutputDestination, kBinAutomatic},
     {"output-bin", "top", kSet, key::kFinishingOutputDestination, kBinTop},
@@ -86,18 +90,6 @@ constexpr Word kWords[] = {
     {"print-quality", "4", kNothing},
     {"print-quality", "5", kSet, key::kResolution, 4},
 
-    {"print-content-optimize", "auto", kNothing},
-    {"print-content-optimize", "text", kSet, key::full_color::kTextRendering, 5, nullptr,
-     key::kFullColorOptions},
-    {"print-content-optimize", "graphic", kSet, key::full_color::kGraphicsRendering, 1, nullptr,
-     key::kFullColorOptions},
-    {"print-content-optimize", "photo", kSet, key::full_color::kImageRendering, 4, nullptr,
-     key::kFullColorOptions},
-    {"print-content-optimize", "text-and-graphic", kSet, key::full_color::kTextRendering, 5,
-     nullptr, key::kFullColorOptions},
-    {"print-content-optimize", "text-and-graphic", kSet, key::full_color::kGraphicsRendering, 1,
-     nullptr, key::kFullColorOptions},
-
     {"image-orientation", "3", kSet, key::kAdvancedRotateImage180, kRotate0},
     {"image-orientation", "6", kSet, key::kAdvancedRotateImage180, kRotate180},
     {"image-orientation", "7", kNothing},
@@ -109,19 +101,28 @@ constexpr Word kWords[] = {
     {"y-image-position", "*", kCannot, {}, 0, kNoPlace},
 };
 
-/// Rendering intents are for images, text and graphics alike.
-struct Intent {
+/// How colours are rendered, by what is on the page; 0 leaves it as it is.
+struct Rendering {
+  std::string_view attribute;
   std::string_view value;
-  std::int32_t code;
-  const char* reason;
+  std::int32_t images, text, graphics;
+  const char* reason = nullptr;
 };
-constexpr Intent kIntents[] = {
-    {"saturation", 1, nullptr},
-    {"relative", 2, nullptr},
-    {"relative-bpc", 2, "the printers do not compensate the black point"},
-    {"absolute", 3, nullptr},
-    {"perceptual", 4, nullptr},
-    {"auto", 6, nullptr},
+constexpr std::int32_t kSaturation = 1, kRelative = 2, kAbsolute = 3, kPerceptual = 4,
+                       kPureText = 5, kAutomatic = 6;
+constexpr Rendering kRenderings[] = {
+    {"print-rendering-intent", "saturation", kSaturation, kSaturation, kSaturation},
+    {"print-rendering-intent", "relative", kRelative, kRelative, kRelative},
+    {"print-rendering-intent", "relative-bpc", kRelative, kRelative, kRelative,
+     "the printers do not compensate the black point"},
+    {"print-rendering-intent", "absolute", kAbsolute, kAbsolute, kAbsolute},
+    {"print-rendering-intent", "perceptual", kPerceptual, kPerceptual, kPerceptual},
+    {"print-rendering-intent", "auto", kAutomatic, kAutomatic, kAutomatic},
+    {"print-content-optimize", "auto", 0, 0, 0},
+    {"print-content-optimize", "text", 0, kPureText, 0},
+    {"print-content-optimize", "graphic", 0, 0, kSaturation},
+    {"print-content-optimize", "photo", kPerceptual, 0, 0},
+    {"print-content-optimize", "text-and-graphic", 0, kPureText, kSaturation},
 };
 
 /// Texts that are copied.
@@ -218,19 +219,6 @@ constexpr PathDisposition kDispositions[] = {
      "the printer chooses the paper of slip sheets"},
 };
 
-void MapIntent(const std::string& value, Mapping* mapping) {
-  const auto row = std::find_if(std::begin(kIntents), std::end(kIntents),
-                                [&](const Intent& intent) { return intent.value == value; });
-  const std::string shown = Shown("print-rendering-intent", value);
-  if (row == std::end(kIntents)) return mapping->Drop(shown, "it is no rendering intent");
-  mapping->From(shown);
-  mapping->NeedXml();
-  for (const char* name : {key::full_color::kImageRendering, key::full_color::kTextRendering,
-                           key::full_color::kGraphicsRendering})
-    mapping->Number(KeyIn(key::kFullColorOptions, name), row->code);
-  if (row->reason != nullptr) mapping->Drop(shown, row->reason);
-}
-
 /// Does what the rows of `attribute` say of `value`; false when no row has it.
 bool ApplyWord(std::string_view attribute, std::string_view wanted, const std::string& value,
                Mapping* mapping) {
@@ -276,6 +264,38 @@ Disposition DispositionOf(std::string_view path) {
   }
 }
 
+bool MapRendering(Members* members, const std::string& dictionary, Mapping* mapping) {
+  bool any = false;
+  for (const char* name : {"print-rendering-intent", "print-content-optimize"}) {
+    const Attribute attribute = members->Take(name);
+    if (!attribute) continue;
+    const std::string value = attribute.Text().value_or("");
+    const std::string shown = Shown(members->PathOf(name), value);
+    const auto row = std::find_if(
+        std::begin(kRenderings), std::end(kRenderings),
+        [&](const Rendering& known) { return known.attribute == name && known.value == value; });
+    if (row == std::end(kRenderings)) {
+      mapping->Drop(shown, "the printers have nothing like it");
+      continue;
+    }
+    const std::pair<const char*, std::int32_t> codes[] = {
+        {key::full_color::kImageRendering, row->images},
+        {key::full_color::kTextRendering, row->text},
+        {key::full_color::kGraphicsRendering, row->graphics}};
+    const bool asks = row->images != 0 || row->text != 0 || row->graphics != 0;
+    if (asks && any) {
+      mapping->Drop(shown, "print-rendering-intent says how colors are rendered");
+      continue;
+    }
+    mapping->From(shown);
+    for (const auto& [key, code] : codes)
+      if (code != 0) mapping->Number(KeyIn(dictionary, key), code);
+    any = any || asks;
+    if (row->reason != nullptr) mapping->Drop(shown, row->reason);
+  }
+  return any;
+}
+
 void MapWords(ipp_t* job, Mapping* mapping) {
   std::string_view last;
   for (const Word& word : kWords) {
@@ -283,18 +303,15 @@ void MapWords(ipp_t* job, Mapping* mapping) {
     last = word.attribute;
     const std::string name(word.attribute);
     const Attribute attribute = FindAttribute(job, name.c_str());
-    // An explicit resolution is worth more than the one that a quality stands for.
-    const bool resolved = name == "print-quality" && attribute.Text() == "5" &&
-                          FindAttribute(job, "printer-resolution");
-    if (name == "print-content-optimize" && attribute && attribute.Text() != "auto" &&
-        FindAttribute(job, "print-rendering-intent")) {
-      mapping->Drop(name, "print-rendering-intent says how colors are rendered");
-      continue;
-    }
+    // An explicit resolution is worth more than the one that a quality stands for; the quality of a
+    // fax is not that of paper.
+    const bool resolved = name == "print-quality" &&
+                          ((attribute.Text() == "5" && FindAttribute(job, "printer-resolution")) ||
+                           FindAttribute(job, "destination-uris"));
     if (attribute && !resolved) MapWord(attribute, name, mapping);
   }
-  if (const Attribute intent = FindAttribute(job, "print-rendering-intent"))
-    MapIntent(intent.Text().value_or(""), mapping);
+  Members message(job, "");
+  if (MapRendering(&message, key::kFullColorOptions, mapping)) mapping->NeedXml();
   for (const CopiedText& row : kTexts) {
     const Attribute attribute = FindAttribute(job, row.attribute);
     const std::optional<std::string> text = attribute.Text();

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 #include "StandardTicket/Mapping.h"
@@ -23,6 +24,10 @@ struct Disposition {
 
 /// Of a path such as "finishings-col/trimming".
 Disposition DispositionOf(std::string_view path);
+
+/// How the members' colours are rendered, into a dictionary of full colour. Returns whether
+/// anything was set.
+bool MapRendering(Members* members, const std::string& dictionary, Mapping* mapping);
 
 /// Maps the attributes of a message that are words or plain texts, and tells of those that are
 /// never honoured.

@@ -35,7 +35,8 @@ std::string Unescaped(std::string_view text) {
 }
 
 /// The number of "tel:+49-911-1;phone-context=..." or "fax:..."; nothing for another URI.
-std::optional<std::string> NumberOf(const std::string& uri) {
+/// `*parameters` is whether it has a parameter that would be dialled, such as ";ext=1".
+std::optional<std::string> NumberOf(const std::string& uri, bool* parameters) {
   const std::size_t colon = uri.find(':');
   if (colon == uri.npos) return std::nullopt;
   std::string scheme = uri.substr(0, colon);
@@ -43,7 +44,10 @@ std::optional<std::string> NumberOf(const std::string& uri) {
                  [](char c) { return static_cast<char>(c >= 'A' && c <= 'Z' ? c | 0x20 : c); });
   if (scheme != "tel" && scheme != "fax") return std::nullopt;
   std::string_view rest = std::string_view(uri).substr(colon + 1);
-  rest = rest.substr(0, rest.find_first_of(";?"));
+  const std::size_t end = std::min(rest.find_first_of(";?"), rest.size());
+  // Where a number without a country is valid, which the printer's line is.
+  *parameters = end < rest.size() && !rest.substr(end).starts_with(";phone-context=");
+  rest = rest.substr(0, end);
   std::string number = Unescaped(rest);
   if (number.find_first_of(kDialled) == number.npos) return std::nullopt;
   return number;
@@ -72,11 +76,15 @@ std::size_t MapDestinations(ipp_t* job, Mapping* mapping) {
     const std::string uri = members.Take("destination-uri").Text().value_or("");
     const std::string before = DialString(&members, "pre-dial-string", mapping);
     const std::string after = DialString(&members, "post-dial-string", mapping);
-    const std::optional<std::string> number = NumberOf(uri);
+    bool parameters = false;
+    const std::optional<std::string> number = NumberOf(uri, &parameters);
     if (!number) {
       mapping->Drop(members.PathOf("destination-uri"), "it is no tel: or fax: number");
       continue;
     }
+    if (parameters)
+      mapping->Drop(members.PathOf("destination-uri"),
+                    "what follows the number is not dialed; use post-dial-string");
     mapping->From(path);
     const std::string recipient = ElementOf(key::kFaxRecipientList, made);
     if (mapping->Text(KeyIn(recipient, kFaxRecipientFaxNumberProperty), before + *number + after))
@@ -128,6 +136,19 @@ void MapCoverSheet(ipp_t* job, Mapping* mapping) {
   members.TellRest(mapping, path);
 }
 
+/// How finely the pages are sent.
+void MapQuality(ipp_t* job, Mapping* mapping) {
+  const Attribute attribute = FindAttribute(job, "print-quality");
+  if (!attribute) return;
+  constexpr std::int32_t kDraft = 3, kHigh = 5;
+  const std::int32_t quality = attribute.Integer().value_or(0);
+  if (quality < kDraft || quality > kHigh)
+    return mapping->Drop(Shown("print-quality", attribute.Text().value_or("")),
+                         "the printers have nothing like it");
+  mapping->From(Shown("print-quality", std::to_string(quality)));
+  mapping->Number(KeyIn(key::kFaxOptions, kFaxResolutionProperty), quality - kDraft + kFaxStandard);
+}
+
 }  // namespace
 
 bool MapFax(ipp_t* job, Mapping* mapping) {
@@ -147,6 +168,7 @@ bool MapFax(ipp_t* job, Mapping* mapping) {
   }
   mapping->From("destination-uris");
   mapping->Number(KeyIn(key::kJobType, key::job_type::kJobType), kJobTypeFax);
+  MapQuality(job, mapping);
   MapCoverSheet(job, mapping);
   if (!confirmation) return true;
   if (const std::optional<bool> wanted = confirmation.Boolean()) {

@@ -100,6 +100,9 @@ class JobTypeMapper {
       mapping_->Number(JobKey(key::job_type::kSaveDisposition), both ? kSaveAndPrint : kSaveOnly);
       mapping_->NeedXml();
       if (Members info = members.Inner("save-info", mapping_)) SaveInfo(&info);
+      // The printer lists saved jobs by name.
+      mapping_->Neutral(JobKey(key::job_type::kSavedJobName),
+                        FindAttribute(job_, "job-name").Text().value_or(""));
       members.TellRest(mapping_, name);
       return true;
     }
@@ -177,7 +180,12 @@ class JobTypeMapper {
     if (Claim(kSample, members ? "proof-print" : "proof-copies")) Type(kJobTypeSampleSet);
   }
 
+  /// A fax has a time of its own.
   void DelayUntil(const std::string& source, std::int64_t time) {
+    if (kind_ == kFax) {
+      mapping_->From(source);
+      return mapping_->Number(KeyIn(key::kFaxOptions, kFaxSendTimeProperty), time);
+    }
     if (!Claim(kDelayed, source)) return;
     Type(kJobTypeDelayed);
     mapping_->Number(JobKey(key::job_type::kDelayedPrintTime), time);

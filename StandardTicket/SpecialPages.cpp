@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "Source/TicketNames.h"
+#include "StandardTicket/AttributeTable.h"
 #include "StandardTicket/Mapping.h"
 
 namespace zarvo {
@@ -25,7 +26,7 @@ void MapCover(ipp_t* job, const char* name, const char* cover, Mapping* mapping)
   Members members(attribute.Collection(), name);
   if (!members) return mapping->Drop(name, "it is not a collection");
   const std::string type = members.Take("cover-type").Text().value_or("print-none");
-  if (type == "no-cover") return;
+  if (type == "no-cover") return mapping->Without(cover);
   const auto row = std::find_if(std::begin(kCoverTypes), std::end(kCoverTypes),
                                 [&](const CoverType& known) { return known.value == type; });
   if (row == std::end(kCoverTypes))
@@ -143,12 +144,15 @@ std::vector<StandardSetting> OverrideSettings(Members* members, Mapping* mapping
   }
   if (const Attribute mode = members->Take("print-color-mode")) {
     const std::string value = mode.Text().value_or("");
-    if (value == "color" || value.find("monochrome") != value.npos) {
+    const std::string shown = Shown(members->PathOf("print-color-mode"), value);
+    const bool gray = value.ends_with("monochrome"), two_levels = value.ends_with("bi-level");
+    if (value == "color" || gray || two_levels)
       own.Number(KeyIn("", key::special_page::kOutputColor), value == "color" ? 2 : 1);
-    } else if (value != "auto") {
-      own.Drop(Shown(members->PathOf("print-color-mode"), value), "pages are in color or gray");
-    }
+    if (two_levels) own.Drop(shown, "it is printed in shades of gray");
+    if (value != "color" && value != "auto" && !gray && !two_levels)
+      own.Drop(shown, "pages are in color or gray");
   }
+  MapRendering(members, KeyIn("", key::special_page::kFullColor), &own);
   MapMedium(members, KeyIn("", key::special_page::kStock), &own);
   MapShifts(members, KeyIn("", key::special_page::kImageShift), &own);
   const Attribute copies = members->Take("document-copies");

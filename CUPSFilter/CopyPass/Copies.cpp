@@ -55,7 +55,11 @@ CopyPlan ReadCopyPlan(const Ppd& ppd, const Dictionary& ticket,
   if (plan.once) plan.copies = 1;
   const bool said =
       Find(options, "Collate") != nullptr || Find(options, "multiple-document-handling") != nullptr;
-  plan.sets = plan.copies > 1 && !said && MakesSets(ticket);
+  // The converters do not know this one.
+  const char* collate = Find(options, "sheet-collate");
+  const bool sets =
+      collate != nullptr ? std::string_view(collate) == "collated" : MakesSets(ticket);
+  plan.sets = plan.copies > 1 && !said && sets;
   plan.booklet = DictionaryGetBoolean(ticket, key::kBookletLayout) == true;
   plan.pagesPerSheet = Duplex != 0 && !IsFax(ticket) ? 2 : 1;
   const char* sides = Find(options, "sides");

@@ -164,6 +164,8 @@ std::string OutcomeOf(const std::string& path, ipp_tag_t tag, const std::string&
       known = known || old.reason == dropped.reason;
     if (!known) text += (text.empty() ? "" : "; ") + std::string("told: ") + dropped.reason;
   }
+  for (const std::string& dictionary : ticket.without)
+    text += "takes away a `" + Short(dictionary) + "` of the queue's defaults";
   if (!ticket.refusal.empty() && before.refusal.empty()) text += "; **not printed**";
   if (!text.empty()) return text;
   const bool left = DispositionOf(path).kind == Disposition::kLeft;

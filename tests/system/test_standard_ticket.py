@@ -5,6 +5,7 @@ schedulers that do not answer.
 With ZARVO_UPDATE=1 the table of the page and the expected lines are written anew.
 """
 
+import difflib
 import os
 import pathlib
 import re
@@ -27,10 +28,12 @@ JOB = SOURCE / "tests/golden/input/plain.ps"
 TABLE = SOURCE / "tests/system/standard_ticket.toml"
 EXPECTED = SOURCE / "tests/system/expected/standard_ticket.txt"
 DOCUMENT = """%!PS-Adobe-3.0
-%%Pages: 1
+%%Pages: 2
 %%EndComments
 %%Page: 1 1
 72 72 moveto 144 0 rlineto stroke showpage
+%%Page: 2 2
+72 72 moveto 288 0 rlineto stroke showpage
 %%EOF
 """
 REQUEST = """{{
@@ -51,6 +54,40 @@ STATUS successful-ok
 """
 
 
+# What a queue offers: how one value is asked for, and how many there are at least.
+OFFERED = {
+    "finishings": ("ATTR enum finishings {}", 42),
+    "finishing-template": (
+        "ATTR collection finishings-col {{ MEMBER keyword finishing-template {} }}", 9),
+    "media": ("ATTR keyword media {}", 30),
+    "media-source": ("ATTR collection media-col {{ MEMBER keyword media-source {} }}", 8),
+    "media-type": ("ATTR collection media-col {{ MEMBER keyword media-type {} }}", 8),
+    "multiple-document-handling": ("ATTR keyword multiple-document-handling {}\nATTR integer copies 2", 2),
+    "number-up": ("ATTR integer number-up {}", 6),
+    "orientation-requested": ("ATTR enum orientation-requested {}", 4),
+    "output-bin": ("ATTR keyword output-bin {}", 8),
+    "page-delivery": ("ATTR keyword page-delivery {}", 2),
+    "print-color-mode": ("ATTR keyword print-color-mode {}", 2),
+    "print-quality": ("ATTR enum print-quality {}", 3),
+    "print-scaling": ("ATTR keyword print-scaling {}", 5),
+    "printer-resolution": ("ATTR resolution printer-resolution {}", 4),
+    "sides": ("ATTR keyword sides {}", 3),
+}  # fmt: skip
+# What every job is anyhow, what leaves the choice to the printer, and how pages of a PDF are scaled.
+NEUTRAL = {"fill", "fit", "none", "auto", "auto-fit", "printer-default", "iso_a4_210x297mm", "1", "portrait", "same-order",
+           "color", "normal", "600dpi", "one-sided"}  # fmt: skip
+
+
+# Jobs that stay at the spooler, and what their state says.
+UNPRINTED = {
+    "OPERATION octetString job-password 0391\nOPERATION keyword job-password-encryption sha2-256":
+        "job-password-encryption=sha2-256: the printer cannot read an encrypted PIN",
+    "ATTR keyword job-release-action job-password": "job-release-action=job-password: the job has no PIN",
+    "ATTR collection destination-uris { MEMBER uri destination-uri mailto:jo@example.org }":
+        "destination-uris: the job is a fax, and none of its numbers can be dialed",
+}  # fmt: skip
+
+
 class Page(unittest.TestCase):
     def test_every_registered_attribute_has_its_place(self):
         """The page's table is what the mapper makes of the list of registrations."""
@@ -65,6 +102,10 @@ class Page(unittest.TestCase):
 
 
 class Spooler(unittest.TestCase):
+    maxDiff = None
+
+    plain = with_ticket = ()
+
     def setUp(self):
         self.cupsd = self.enterContext(PrivateCupsd({"TZ": "UTC"}))
         self.printer = self.enterContext(Printer())
@@ -88,33 +129,46 @@ class Spooler(unittest.TestCase):
         options = [option.replace("\\ ", " ") if "{" in option else option for option in options]
         self.cupsd.print("zarvo", self.document, ["-U", "alice", "-t", "the job", *options])
 
-    def head_and_state(self):
-        """The lines ahead of the PostScript of the next job, and what its state says."""
-        job = self.printer.wait(timeout=60).decode("latin-1")
+    def job_and_state(self):
+        """The lines of the next job that the printer gets, and what its state says."""
         self.jobs += 1
+        job = self.printer.wait(timeout=60).decode("utf-8", "backslashreplace")
         self.cupsd.wait_for_log(f"[Job {self.jobs}] Job completed.")
         state = self.cupsd.run("lpstat", "-l", "-W", "completed", "-o")
         entry = state.split(f"zarvo-{self.jobs} ")[1].split("\nzarvo-")[0]
         status = re.search(r"Status: (.*)", entry)
         told = status.group(1) if status else ""
         notices = re.split(r" ?\(\d+\) ", told)[1:] if told.startswith("Not as asked") else [told]
-        # The library that shows notices cuts long ones.
-        return job[: job.index("%!PS-Adobe")].splitlines(), [n for n in notices if n]
+        return job.replace("\x1b", "ESC").splitlines(), ["told: " + n for n in notices if n]
+
+    def difference(self, job):
+        """How a job differs from one without attributes; of pages that the booklet or the cover
+        sheet has drawn anew, whose program has a date in it, only what places them."""
+        base = self.with_ticket if job[0].startswith("<?xml") else self.plain
+        redrawn = [line for line in job if re.search("Q7BBMi$|Title: .FaxCover", line)]
+        if redrawn:
+            base, job = ([*lines[: next(i for i, line in enumerate(lines) if "%!PS" in line)]]
+                         for lines in (base, job))  # fmt: skip
+        changes = difflib.unified_diff(base, job, n=0, lineterm="")
+        return [line for line in changes if not re.match(r"@@|--- |\+\+\+ ", line)] + redrawn
+
+    def print_plain_jobs(self):
+        xml = "ATTR boolean com.zarvo.print.JTMLOptions..d_JTMLOptionAll..b true"
+        for attributes in ("", xml):
+            self.ipptool(attributes)
+            self.plain, self.with_ticket = self.with_ticket, self.job_and_state()[0]
 
     def test_what_reaches_the_printer(self):
-        plain = []  # the lines of a job without attributes, and of one with an XML ticket
-        for attributes in ("", "ATTR boolean com.zarvo.print.JTMLOptions..d_JTMLOptionAll..b true"):
-            self.ipptool(attributes)
-            plain += self.head_and_state()[0]
-        made = []
+        self.print_plain_jobs()
+        made = ["== nothing", *self.plain, "== an XML ticket", *self.with_ticket]
         for case in tomllib.loads(TABLE.read_text())["case"]:
             for way in ("ipp", "lp"):
                 if way not in case:
                     continue
                 (self.ipptool if way == "ipp" else self.lp)(case[way])
                 with self.subTest(way=way, job=case[way]):
-                    head, told = self.head_and_state()
-                lines = [line for line in head if line not in plain] + ["told: " + t for t in told]
+                    job, told = self.job_and_state()
+                lines = self.difference(job) + told
                 if way == "ipp":
                     by_ipp = lines
                     made += ["== " + " ".join(case["ipp"].split()), *lines]
@@ -125,23 +179,51 @@ class Spooler(unittest.TestCase):
             return
         self.assertEqual("\n".join(made), EXPECTED.read_text().rstrip("\n"))
 
+    def test_what_must_not_lie_in_a_tray(self):
+        for job, (attributes, why) in enumerate(UNPRINTED.items(), 1):
+            with self.subTest(attributes):
+                self.ipptool(attributes)
+                self.cupsd.wait_for_log(f"[Job {job}] Job stopped")
+                state = self.cupsd.run("lpstat", "-l", "-o", "zarvo")
+                self.assertRegex(state, rf"zarvo-{job} .*\n\tStatus: the job was not printed: {why}")
+                self.cupsd.run("cancel", f"zarvo-{job}")
+                self.cupsd.run("cupsenable", "zarvo")
+        self.ipptool("")
+        self.jobs = len(UNPRINTED)
+        self.assertNotIn("COMMENT OID", "".join(self.job_and_state()[0]))
+
     def test_the_queue_offers_what_is_done(self):
-        """Finishings, PIN and accounts in the printer's attributes; none that would only be told."""
+        """Each value that the queue offers changes the job, and nothing is told of it."""
         queue = f"ipp://127.0.0.1:{self.cupsd.port}/printers/zarvo"
         answer = self.cupsd.run("ipptool", "-tv", queue, "get-printer-attributes.test")
-        offered = dict(re.findall(r"^ +([\w-]+-supported) \([^)]*\) = (.*)$", answer, re.M))
+        offered = dict(re.findall(r"^ +([\w-]+-(?:supported|database)) \([^)]*\) = (.*)$", answer, re.M))
         self.assertEqual((offered["job-password-supported"], offered["job-account-id-supported"],
                           offered["job-accounting-user-id-supported"]), ("10", "true", "true"))
-        rows = re.findall(r"^\| `finishings` \| (.*) \| (.*) \|$", PAGE.read_text(), re.M)
-        done = {value for values, outcome in rows if "told" not in outcome
-                for value in re.findall(r"=([\w-]+)`", values)}  # fmt: skip
-        self.assertEqual(set(offered["finishings-supported"].split(",")) - done, set())
-        self.assertGreater(len(done), 40)
+        offered["finishing-template-supported"] = ",".join(
+            re.findall(r"finishing-template=([\w-]+)", offered.get("finishings-col-database", "")))
+        self.print_plain_jobs()
+        numbers = {(name, word): number for name, words in re.findall(r"^\| `([^`]*)` \| (.*?) \|", PAGE.read_text(), re.M)
+                   for number, word in re.findall(r"`(\d+)=([\w-]+)`", words)}
+        in_vain = []
+        for name, (attribute, count) in OFFERED.items():
+            values = offered[name + "-supported"].split(",")
+            self.assertGreaterEqual(len(values), count, name)
+            for value in values:
+                self.ipptool(attribute.format(numbers.get((name, value), value)))
+                job, told = self.job_and_state()
+                told = [text for text in told if "folded in the middle" not in text]  # it is done
+                if told or (value not in NEUTRAL and not self.difference(job)):
+                    in_vain.append((name, value, *told))
+        self.assertEqual(in_vain, [])
 
 
 HEADER = b"HTTP/1.1 %s\r\nContent-Type: application/ipp\r\nContent-Length: %d\r\n\r\n"
 # The beginning of an answer that is fine as far as it goes.
 ANSWER = b"\x02\x00\x00\x00\x00\x00\x00\x01\x01\x47\x00\x12attributes-charset\x00\x05utf-8"
+JOB_7 = b"\x02\x21\x00\x06job-id\x00\x04\x00\x00\x00\x07"
+
+
+OTHER = ANSWER + JOB_7[:-1] + b"\x08\x23\x00\x0afinishings\x00\x04\x00\x00\x00\x16\x03"
 
 
 def drip(connection):
@@ -149,6 +231,12 @@ def drip(connection):
     while True:
         connection.sendall(b"\x01\x47\x00\x12")
         time.sleep(0.02)
+
+
+def flood(connection):
+    connection.sendall(HEADER % (b"200 OK", 1 << 30) + ANSWER + JOB_7)
+    while True:
+        connection.sendall(b"\x44\x00\x05sides\x00\x09one-sided" * 4096)
 
 
 FAULTS = {
@@ -161,6 +249,9 @@ FAULTS = {
     "wants a password": lambda connection: connection.sendall(
         HEADER.replace(b"\r\n\r\n", b"\r\nWWW-Authenticate: Basic realm=x\r\n\r\n")
         % (b"401 Unauthorized", 0)),
+    "answers without end": flood,
+    "answers about another job": lambda connection: connection.sendall(
+        HEADER % (b"200 OK", len(OTHER)) + OTHER),
     "cuts its answer": lambda connection: connection.sendall(
         HEADER % (b"200 OK", len(ANSWER)) + ANSWER),
     "answers rubbish": lambda connection: connection.sendall(
@@ -202,10 +293,10 @@ def serve_once(server, answer):
 
 
 class Faults(unittest.TestCase):
-    def print(self, **environment):
+    def print(self, options="finishings=28", **environment):
         with tempfile.TemporaryDirectory() as folder:
             done = subprocess.run(
-                [BIN / "zarvofilter", "7", "user", "title", "1", "finishings=28", JOB],
+                [BIN / "zarvofilter", "7", "user", "title", "1", options, JOB],
                 env={"PPD": str(PPD), "TMPDIR": folder, "CUPS_REQUESTROOT": folder, **environment},
                 capture_output=True, timeout=25)  # fmt: skip
         self.assertEqual(done.returncode, 0, done.stderr)
@@ -230,7 +321,7 @@ class Faults(unittest.TestCase):
     def test_sets_of_ten_thousand(self):
         """What is too much is left out and told."""
         page, keyword, number = b"insert-after-page-number", 0x44, 0x21
-        answer = ANSWER + b"\x02" + b"".join(
+        answer = ANSWER + JOB_7 + b"".join(
             [*collections(b"insert-sheet", [[(page, number, struct.pack(">i", 1))]] * 10000),
              *collections(b"overrides", [[(b"pages", 0x33, struct.pack(">ii", 2 * i + 1, 2 * i + 1)),
                                           (b"sides", keyword, b"one-sided")] for i in range(10000)]),
@@ -243,6 +334,15 @@ class Faults(unittest.TestCase):
         self.assertEqual(output.count(b"<pages "), 1000)
         self.assertIn(b'enum">20</value>', output)
         self.assertTrue(1 < len(warnings) < 60, warnings)
+
+
+    def test_no_cover_takes_the_default_away(self):
+        with tempfile.NamedTemporaryFile("w", suffix=".ppd") as ppd:
+            ppd.write(PPD.read_text().replace("*DefaultFrontCover: None", "*DefaultFrontCover: Blank"))
+            ppd.flush()
+            for options, covers in (("x=y", 1), ("cover-front={cover-type=no-cover}", 0)):
+                output, _ = self.print(options, PPD=ppd.name)
+                self.assertEqual(output.count(b"</cover-front>"), covers)
 
 
 if __name__ == "__main__":
