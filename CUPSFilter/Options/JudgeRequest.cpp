@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CUPSFilter/Options/JudgeRequest.h"
 
-#include <algorithm>
+#include <set>
 #include <string_view>
 
 #include "CUPSFilter/Options/OptionCheck.h"
@@ -22,14 +22,13 @@ Judgement JudgeUnread(const JobRequest& request, Ppd::Hidden hidden, const Ppd& 
   return {};
 }
 
-/// Whether the job itself asks for what is in the ticket under that key, and not the PPD by a
-/// choice that stands there for want of another. What has no place in the ticket is told already.
-bool IsOwn(const JobRequest& request, std::string_view place) {
-  const std::string_view top = place.substr(0, place.find('/'));
-  const auto names = [top](std::string_view name) { return SplitName(name)[0] == top; };
-  return std::any_of(request.own.begin(), request.own.end(),
-                     [&](const cups_option_t& option) { return names(option.name); }) &&
-         std::none_of(request.leftOut.begin(), request.leftOut.end(), names);
+/// The keys at the top of the ticket that the job itself asks for, and not the PPD by a choice that
+/// stands there for want of another. What has no place in the ticket is told already.
+std::set<std::string_view> OwnKeys(const JobRequest& request) {
+  std::set<std::string_view> keys;
+  for (const cups_option_t& option : request.own) keys.insert(SplitName(option.name)[0]);
+  for (const std::string_view name : request.leftOut) keys.erase(SplitName(name)[0]);
+  return keys;
 }
 
 }  // namespace
@@ -44,8 +43,9 @@ Judgement JudgeRequest(const JobRequest& request, const QueuePolicy& policy, con
   verdict.notices.insert(verdict.notices.end(), fax.notices.begin(), fax.notices.end());
   for (std::string& text : FindVainOptions(request, ppd, *ticket))
     verdict.notices.push_back(std::move(text));
+  const std::set<std::string_view> own = OwnKeys(request);
   for (const TicketFinding& finding : CheckTicketKeys(*ticket)) {
-    if (IsOwn(request, finding.place))
+    if (own.contains(std::string_view(finding.place).substr(0, finding.place.find('/'))))
       verdict.notices.push_back(finding.place + ": " + finding.text);
   }
   return verdict;
