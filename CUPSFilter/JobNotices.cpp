@@ -75,11 +75,10 @@ void JobNotices::Add(const std::string& text) {
   LogLine("WARNING: %s", notices_.back().c_str());
 }
 
-void JobNotices::Refuse(const std::string& text) const {
+void JobNotices::TellFailure(const std::string& text) const {
   constexpr std::string_view kAround = "ERROR: . ";
   const std::string summary = notices_.empty() ? "" : ". " + Summary(text.size() + kAround.size());
   LogLine("ERROR: %s%s", text.c_str(), summary.c_str());
-  MarkRefused();
 }
 
 void JobNotices::MarkRefused() const {

@@ -32,9 +32,10 @@ class JobNotices {
   /// A setting that is dropped, cut or replaced: one WARNING line with its name, the cause and what
   /// to do, without any secret.
   void Add(const std::string& text);
-  /// The job is not printed: one ERROR line, which holds the notices too, and the queue's state.
-  void Refuse(const std::string& text) const;
-  /// The job is not printed, or not to its end, and a line tells that already.
+  /// The job is not printed, or not to its end: one ERROR line, which holds the notices too,
+  /// because the spooler keeps no other.
+  void TellFailure(const std::string& text) const;
+  /// The queue's state of a job that is not printed, or not to its end; a line tells that already.
   void MarkRefused() const;
   /// At the end of the job: the line that holds all notices, when there are several. Where it has
   /// no room for them, those with one reason stand together, and for the last there are the names

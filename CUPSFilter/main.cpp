@@ -83,7 +83,10 @@ std::optional<Job> ReadJob(char** arguments, std::optional<JobNotices>* notices)
   if (!verdict.refusal.empty() || !verdict.notices.empty()) (*notices)->Tell();
   for (const std::string& text : verdict.notices) (*notices)->Add(text);
   // The spooler shows people the first of all errors.
-  if (!refusal.empty()) (*notices)->Refuse("the job was not printed: " + refusal);
+  if (!refusal.empty()) {
+    (*notices)->TellFailure("the job was not printed: " + refusal);
+    (*notices)->MarkRefused();
+  }
   for (const std::string& fault : faults) LogLine("ERROR: %s", fault.c_str());
   if (!refusal.empty()) return std::nullopt;
   for (const NotHonoured& lost : standard.ticket.not_honoured)
@@ -159,15 +162,14 @@ int RunJob(const Job& job, const char* input_name, JobNotices* notices) {
   const CopyResult result = pass.Run();
   output.Flush();
   if (!rules.refusal().empty()) {
-    LogLine("ERROR: %s", rules.refusal().c_str());
+    notices->TellFailure(rules.refusal());
     return kFailure;
   }
   if (result == CopyResult::kGrownTooMuch) {
-    LogLine(
-        "ERROR: the job grew past %llu MiB and %llu times its size; it was cut short. Print it "
-        "without watermark and cover, or by another program",
-        static_cast<unsigned long long>(kMostGrowth >> 20),
-        static_cast<unsigned long long>(kMostTimes));
+    notices->TellFailure("the job grew past " + std::to_string(kMostGrowth >> 20) + " MiB and " +
+                         std::to_string(kMostTimes) +
+                         " times its size; it was cut short. Print it without watermark and cover, "
+                         "or by another program");
     return kFailure;
   }
   if (result == CopyResult::kEarlyEnd || result == CopyResult::kReadFailed)
