@@ -22,6 +22,7 @@ com.zarvo.print.SpecialPages.InsertList..a_0..d_StartPage..n=3
 com.zarvo.print.SpecialPages.InsertList..a_0..d_Stock..d_Color..n=5
 com.zarvo.print.SpecialPages.ExceptionList..a_0..d_StartPage..n=2
 com.zarvo.print.SpecialPages.ExceptionList..a_0..d_EndPage..n=4
+com.zarvo.print.SpecialPages.ExceptionList..a_0..d_com.zarvo.print.ImageShiftOptionsPage..d_X1..n=-15
 com.zarvo.print.PagesToPrintSelected..n=1 com.zarvo.print.PagesToPrintFrom..n=1
 com.zarvo.print.PagesToPrintTo..n=9"""
 FAX = f"""{JOBTYPE}JobType..n=5 com.zarvo.print.FaxOptions..d_Resolution..n=3

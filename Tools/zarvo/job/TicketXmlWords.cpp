@@ -13,13 +13,13 @@ namespace {
 
 enum class Kind {
   kText,
-  kKeyword,  // one of `keywords`
-  kSecret,   // never shown
-  kGroup,    // has elements of its own
-  kSize,     // x-dimension and y-dimension, 1/100 mm
-  kCodes,    // a set of numbers that are told in one line
-  kDots,     // a resolution across and along the feed
-  kTenths,   // tenths of a millimetre
+  kKeyword,     // one of `keywords`
+  kSecret,      // never shown
+  kGroup,       // has elements of its own
+  kSize,        // x-dimension and y-dimension, 1/100 mm
+  kCodes,       // a set of numbers that are told in one line
+  kDots,        // a resolution across and along the feed
+  kHundredths,  // of a millimetre
 };
 
 struct Element {
@@ -117,15 +117,15 @@ constexpr Element kElements[] = {
     {"forms-col", "background form", kGroup},
     {"form-name", "name"},
     {"form-cycle-start", "pages in a cycle"},
-    {"forms-x-image-shift", "offset to the right", kTenths},
-    {"forms-y-image-shift", "offset upwards", kTenths},
+    {"forms-x-image-shift", "offset to the right", kHundredths},
+    {"forms-y-image-shift", "offset upwards", kHundredths},
     {"job-accounting-user-id", "accounting user", kSecret},
     {"job-account-id", "account", kSecret},
     {"page-ranges", "pages", kGroup},
-    {"x-side1-image-shift", "shift to the right, side 1", kTenths},
-    {"x-side2-image-shift", "shift to the right, side 2", kTenths},
-    {"y-side1-image-shift", "shift upwards, side 1", kTenths},
-    {"y-side2-image-shift", "shift upwards, side 2", kTenths},
+    {"x-side1-image-shift", "shift to the right, side 1", kHundredths},
+    {"x-side2-image-shift", "shift to the right, side 2", kHundredths},
+    {"y-side1-image-shift", "shift upwards, side 1", kHundredths},
+    {"y-side2-image-shift", "shift upwards, side 2", kHundredths},
     {"cover-front", "front cover", kGroup},
     {"cover-back", "back cover", kGroup},
     {"cover-type", "printed sides", kKeyword,
@@ -419,7 +419,7 @@ class Explainer {
       Wrong(std::string(element.words) + ": unknown code " + text);
     std::string words;
     if (element.kind == kKeyword && !named) words = KeywordText(text);
-    if (element.kind == kTenths) words = Millimetres(text);
+    if (element.kind == kHundredths) words = Millimetres(text);
     if (*element.unit != '\0') words = text + element.unit;
     if (element.name == "orientation-requested") {
       if (const char* known = FindName(kOrientations, text)) words = known;
@@ -427,11 +427,14 @@ class Explainer {
     Say(element.words, text, element.name, level, words);
   }
 
-  static std::string Millimetres(const std::string& tenths) {
-    const long value = std::atol(tenths.c_str());
-    const long rest = std::labs(value % 10);
-    return (value < 0 ? "-" : "") + std::to_string(std::labs(value / 10)) +
-           (rest != 0 ? "." + std::to_string(rest) : "") + " mm";
+  static std::string Millimetres(const std::string& hundredths) {
+    const long value = std::atol(hundredths.c_str());
+    std::string text = std::to_string(std::labs(value / 100));
+    if (const long rest = std::labs(value % 100); rest != 0) {
+      text += "." + std::to_string(rest / 10);
+      if (rest % 10 != 0) text += std::to_string(rest % 10);
+    }
+    return (value < 0 ? "-" : "") + text + " mm";
   }
 
   void Size(const pugi::xml_node& node, const Element& element, int level) {
