@@ -194,7 +194,9 @@ class HeadReader {
       Show();
     } else if ((name == "Td" || name == "TD") && count_ > 1) {
       moved_ = Axes{o[4], o[5], 0, 0};
-    } else if (name.starts_with("Tj") || name.starts_with("TJ") ||
+    } else if (name.starts_with("Tj")) {
+      Show(count_ > 1);
+    } else if (name.starts_with("TJ") ||
                (name.find("show") != name.npos && name.find("page") == name.npos)) {
       Show();
     } else if (name == "BI" || name.starts_with("pdfIm") || name.ends_with("image") ||
@@ -224,9 +226,9 @@ class HeadReader {
   /// Letters that were turned into pictures stand upright by themselves, each at a place of its
   /// own: there only the way from one to the next shows where the text runs. Some converters tell
   /// that way with each letter; text in columns goes downwards and is no turn.
-  void Show() {
+  void Show(bool advances = false) {
     Axes along = line_;
-    if (count_ > 1) {
+    if (advances) {
       if (operands_[5] >= 0) along = Axes{operands_[4], operands_[5], 0, 0} * line_;
     } else if (shown_ == 1) {
       const Axes moved = moved_ * line_;

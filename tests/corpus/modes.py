@@ -67,6 +67,8 @@ class Document:
         self.job, self.sheet, self.renderer, self.run_filter = job, sheet, renderer, run_filter
         self.paper_option = paper_option
         self.plain, self.error, _ = renderer.job(job)
+        if not any(set(page.pixels) != {255} for page in self.plain):
+            self.error = self.error or "empty"
         self.turns, self._yellow = turns, None
 
     def turn(self, index):
@@ -81,8 +83,8 @@ class Document:
         return self._yellow
 
     def paper(self, index):
-        """Where the page shows its paper."""
-        return yellow(self.on_yellow()[0][index])
+        """Where the page shows its paper, and not a yellow of its own."""
+        return yellow(self.on_yellow()[0][index]) & ~yellow(self.plain[index])
 
     def size(self, index):
         return self.on_yellow()[1][index]

@@ -218,7 +218,7 @@ def main():
         tasks = [task for task in tasks if task[1] in arguments.routes.split(",")]
     modes = arguments.modes.split(",")
     right = collections.Counter()
-    failures = []
+    failures, told = [], []
     with concurrent.futures.ProcessPoolExecutor(arguments.jobs) as pool:
         futures = [pool.submit(corpus.examine, row, route, modes) for row, route in tasks]
         for (row, route), future in zip(tasks, futures):
@@ -233,8 +233,10 @@ def main():
             right["cannot"] += sum(bool(why) and mode in known for mode, why in wrong.items())
             good = sum(not why for why in wrong.values())
             print(f"{row['name']:28} {route:10} {good:2} of {len(wrong):2}  {' '.join(bad)}", flush=True)
+            told += [f"{row['name']} {route} {mode}: {known[mode]}" for mode, why in wrong.items()
+                     if why and mode in known]  # fmt: skip
             failures += [f"{row['name']} {route} {mode}: {why}" for mode, why in bad.items()]
-    for reason in failures + [f"missing: {line}" for line in missing]:
+    for reason in told + failures + [f"missing: {line}" for line in missing]:
         print(reason)
     programs = len({row["by"] for row in rows})
     print(f"{len(rows) - len(missing)} documents of {programs} programs, {len(tasks)} conversions: "
