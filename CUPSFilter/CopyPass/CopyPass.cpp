@@ -162,7 +162,8 @@ bool CopyPass::ShowAhead(char* line, char* next) {
     held_ = line;
     return false;
   }
-  rules_.ShowAhead({next, std::min(there, kLongestAhead)});
+  rules_.ShowAhead({line, static_cast<std::size_t>(next - line)},
+                   {next, std::min(there, kLongestAhead)});
   return true;
 }
 

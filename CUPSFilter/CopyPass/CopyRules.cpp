@@ -29,6 +29,17 @@ constexpr std::array kFeatureLines = {beginZarvoProofPrint, beginZarvoSavedPrint
 constexpr std::size_t kShortestFeatureLine = std::min(
     {beginZarvoProofPrint.size(), beginZarvoSavedPrint.size(), beginZarvoSecurePrint.size()});
 
+/// The spooler takes showpage from figures and gives a page it finds its own. Of a figure without
+/// page comments it finds none, and says so at the end.
+constexpr std::string_view kProlog = "%%BeginProlog";
+constexpr std::string_view kHidesShowpage = "userdict/ESPshowpage/showpage load put";
+constexpr std::string_view kNoPages = "%%Pages: 0";
+
+/// What a figure begins with that has a preview for DOS in front of its program or behind, and how
+/// the spooler embeds what it does not understand.
+constexpr std::string_view kDosFigure = "\xC5\xD0\xD3\xC6";
+constexpr std::string_view kNotUnderstood = "%%BeginDocument: nondsc";
+
 bool Contains(std::string_view line, std::string_view text) {
   return line.find(text) != std::string_view::npos;
 }
@@ -166,6 +177,37 @@ std::int64_t CopyRules::Apply(Landmark landmark, std::string_view line) {
   return 0;
 }
 
+bool CopyRules::LooksAhead(std::string_view line) const {
+  if (!page_hooks_) return false;
+  return page_hooks_->LooksAhead(line) || line.starts_with(kProlog) ||
+         line.starts_with(kNotUnderstood);
+}
+
+void CopyRules::ShowAhead(std::string_view line, std::string_view head) {
+  if (line.starts_with(kProlog)) {
+    hides_showpage_ = hides_showpage_ || head.starts_with(kHidesShowpage);
+  } else if (line.starts_with(kNotUnderstood)) {
+    if (head.starts_with(kDosFigure)) TellDosFigure();
+  } else {
+    page_hooks_->ShowAhead(head);
+  }
+}
+
+void CopyRules::TellLostFigure(std::string_view line) {
+  if (!hides_showpage_ || !shape_.OwnLine() || !shape_.EndsWithoutPage()) return;
+  if (!line.starts_with(kNoPages) || notices_ == nullptr) return;
+  notices_->Add(
+      "the figure has no page comments, so the spooler has found no page in it and nothing comes "
+      "out; \"ps2pdf -dEPSCrop\" makes a PDF of it that can be printed");
+}
+
+void CopyRules::TellDosFigure() {
+  if (notices_ == nullptr) return;
+  notices_->Add(
+      "the figure has a preview for DOS around it, which printers do not understand, so nothing "
+      "may come out; \"ps2pdf -dEPSCrop\" makes a PDF of it that can be printed");
+}
+
 /// Copies a line with all its parts. Only the last one can be followed by counted data.
 std::int64_t CopyRules::CopyStructure(std::string_view line) {
   std::int64_t counted = 0;
@@ -191,11 +233,14 @@ std::int64_t CopyRules::CopyPart(std::string_view line) {
       frame_.NoteBegin();
       page_hooks_->BeginDocument();
       copies_.BeginDocument();
+      hides_showpage_ = false;
+      if (line.starts_with(kDosFigure)) TellDosFigure();
       break;
     case JobLine::kDocument:
       if (frame_.GoOn()) TakeExit();
       break;
   }
+  TellLostFigure(line);
   if (shape_.OwnLine()) copies_.BeforeLine(line);
   page_hooks_->BeforeLine(line, shape_.OwnLine());
   const std::int64_t counted = Apply(ClassifyLine(line), line);

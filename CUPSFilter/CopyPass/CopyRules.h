@@ -85,11 +85,9 @@ class CopyRules {
   const std::string& refusal() const { return refusal_; }
 
   /// Whether what follows the line has to be shown before it is applied,
-  bool LooksAhead(std::string_view line) const {
-    return page_hooks_ && page_hooks_->LooksAhead(line);
-  }
+  bool LooksAhead(std::string_view line) const;
   /// and its first bytes, which may be cut short by the end of the job.
-  void ShowAhead(std::string_view head) { page_hooks_->ShowAhead(head); }
+  void ShowAhead(std::string_view line, std::string_view head);
 
   /// Writes what goes after the last line. To be called when the input has ended.
   void Finish();
@@ -102,6 +100,8 @@ class CopyRules {
   void Refuse();
   void TakeExit();
   void TellEarlyEnd();
+  void TellDosFigure();
+  void TellLostFigure(std::string_view line);
   std::int64_t CopyStructure(std::string_view line);
   std::int64_t CopyPart(std::string_view line);
   void WriteCover();
@@ -134,6 +134,7 @@ class CopyRules {
   bool added_pjl_ = false;
   bool ended_ = false;  // the envelope's end has been written, and no other one begun
   bool early_end_told_ = false;
+  bool hides_showpage_ = false;  // the spooler does, of this document
   bool begin_setup_found_ = false;
   bool fax_resolution_overridden_ = false;
   bool job_type_match_ = false;

@@ -70,7 +70,8 @@ bool BeginsWithExit(std::string_view line) { return line.starts_with(kExit); }
 
 bool DocumentShape::Concerns(std::string_view line) {
   if (!line.starts_with("%%")) return line.starts_with(kExit) || line.starts_with('\x04');
-  return line.starts_with(kEnd) || EndsPart(line) ||
+  return line.starts_with(kEnd) || EndsPart(line) || line.starts_with("%%Pages:") ||
+         line.starts_with("%%BeginProlog") ||
          (line.starts_with("%%Begin") && KindOf(line.substr(7)) != 0) ||
          (line.starts_with("%%End") && KindOf(line.substr(5)) != 0);
 }

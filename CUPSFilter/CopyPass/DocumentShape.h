@@ -59,6 +59,9 @@ class DocumentShape {
   /// comment that ends an embedded part still belongs to that.
   bool OwnLine() const { return own_line_; }
 
+  /// Whether the document has come to its trailer without having begun a page.
+  bool EndsWithoutPage() const { return trailer_ && !has_pages_; }
+
  private:
   enum class State { kAhead, kInside, kPending };
 

@@ -9,6 +9,7 @@ its middle, and of the red watermark above or below that bar.
 import functools
 import itertools
 import pathlib
+import struct
 import subprocess
 import tempfile
 import unittest
@@ -203,6 +204,23 @@ class PageHooks(ZarvoTest):
                     for side, other in zip(sides[index::2], negative[index::2]):
                         self.assertGreater(side.count(MARKS[number], *area), 1000)
                         self.assertGreater(other.count(inverse, *area), 1000)
+
+    def test_figures_that_the_spooler_loses(self):
+        """What a printer makes nothing of is told: no page comments, and a preview for DOS."""
+        figure = (b"%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 99 99\n%%EndComments\n%%BeginProlog\n"
+                  b"%%EndProlog\n50 50 20 20 rectfill\nshowpage\n%%Trailer\n%%EOF\n")  # fmt: skip
+        dos = b"\xc5\xd0\xd3\xc6" + struct.pack("<6IH", 30, len(figure), 0, 0, 0, 0, 0xFFFF) + figure
+        paged = figure.replace(b"%%EndProlog\n", b"%%EndProlog\n%%Page: 1 1\n")
+        arguments = [f"{CUPS_FILTERS}/pstops", "1", "user", "title", "1", ""]
+        for document, told in (
+            (dos, "preview for DOS"),
+            (run(arguments, dos, PPD=str(PPD)), "preview for DOS"),
+            (run(arguments, figure, PPD=str(PPD)), "no page comments"),
+            (run(arguments, paged, PPD=str(PPD)), ""),
+        ):
+            self.filtered("", document, ppd=PPD)
+            self.assertEqual(bool(told), "WARNING" in self.errors, self.errors)
+            self.assertIn(told, self.errors)
 
     def test_nothing_asked(self):
         """Without anything to draw a job is not touched, whatever the PPD wants."""
