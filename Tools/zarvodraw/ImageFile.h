@@ -23,9 +23,9 @@ using Image = std::unique_ptr<GdkPixbuf, PixbufDeleter>;
 /// later. Looks at the file's first bytes only.
 void PrepareDecoder(int file);
 
-/// The first picture of an open PNG, JPEG, TIFF, GIF or BMP file, 8 bits per component, with or
-/// without an alpha channel that is not premultiplied. The kind is told by the content, not by the
-/// name. Fails when the file cannot be read whole and without errors.
+/// The first picture of an open file of a kind that ImageFile.cpp lists, 8 bits per component, with
+/// or without an alpha channel that is not premultiplied. The kind is told by the content, not by
+/// the name. Fails when the file cannot be read whole and without errors.
 Failure DecodeImage(int file, Image* image);
 
 }  // namespace zarvo

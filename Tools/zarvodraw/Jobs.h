@@ -9,7 +9,7 @@ constexpr int kJobDone = 0;
 constexpr int kJobFailed = 1;  // and logged: the caller need not log it again
 constexpr int kBadUsage = 2;
 
-/// image FORM NAME: decodes the PNG, JPEG, TIFF, GIF or BMP image on standard input. FORM "ppm"
+/// image FORM NAME: decodes the image (see ImageFile.h) on standard input. FORM "ppm"
 /// writes it as a binary PPM, transparent parts over white, "pam" as a PAM with its transparency;
 /// both have 8 bits per component. NAME is what log lines call it.
 int RunImageJob(char** arguments);

@@ -16,8 +16,7 @@ namespace zarvo::tool {
 std::vector<TicketFinding> CheckTicket(const Dictionary& ticket, bool whole = true);
 
 /// Why no job with this ticket should be sent: a PIN that cannot be kept or that people should not
-/// type (4 to 10 digits), a fax that cannot be sent. Empty when there is no reason; without
-/// secrets.
+/// type, a fax that cannot be sent. Empty when there is no reason; without secrets.
 std::string SecretFault(const Dictionary& ticket);
 
 }  // namespace zarvo::tool
