@@ -68,7 +68,7 @@ class HeadReader {
   static constexpr std::size_t kOperands = 6;
   static constexpr std::size_t kShortestPictureLine = 40;
   /// Bytes. Programs that save and restore under names of their own are not understood for long.
-  static constexpr std::size_t kEnoughText = 1000;
+  static constexpr std::size_t kEnoughText = 250;
 
   std::optional<int> Turn() const {
     if (const std::optional<int> told = Winner(text_votes_)) return told;
