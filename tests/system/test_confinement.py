@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: Apache-2.0
 """What the filter and its helper cannot do, tried by programs in their places."""
 
+import ctypes
 import os
 import pathlib
 import plistlib
@@ -9,6 +10,7 @@ import resource
 import shutil
 import signal
 import subprocess
+import time
 import unittest
 
 from pictures import png
@@ -17,6 +19,7 @@ from zarvo import BIN, PPD, ZarvoTest, document
 SANITIZED = b"__asan_init" in (BIN / "zarvofilter").read_bytes()
 ROOT = os.geteuid() == 0
 LP = 7
+LANDLOCK = ctypes.CDLL(None).syscall(444, None, 0, 1) > 0  # the kernel's version of it
 P = "com.zarvo.print."
 IMAGE = f"{P}watermark.Watermark=logo {P}watermark.Option..n=1"
 COVER = (
@@ -64,11 +67,33 @@ class Confinement(ZarvoTest):
                                       check=True, cwd="/", env=self.environment).stdout  # fmt: skip
                 lines = dict(line.split() for line in told.splitlines())
                 landlock = lines.pop("landlock")
+                self.assertEqual(landlock, "on" if LANDLOCK else "off")
                 self.assertEqual(lines.pop("seccomp"), "on")
                 if task == "page" and landlock == "off":
                     lines.pop("reading")
                 self.assertEqual(set(lines.values()), {"refused"}, lines)
                 self.assertGreaterEqual(len(lines), 7)
+
+    @unittest.skipIf(SANITIZED, "the leak sanitizer looks into its own process")
+    def test_each_bolt_by_itself(self):
+        """Where one holds, those behind it are never tried."""
+        somebody = {"user": LP, "group": LP, "extra_groups": []} if ROOT else {}
+        with subprocess.Popen([self.helper, "image", "pam", "x"], env=self.environment, cwd="/",
+                              stdin=subprocess.PIPE, stdout=subprocess.PIPE,
+                              stderr=subprocess.DEVNULL, **somebody) as process:
+            about = pathlib.Path("/proc", str(process.pid))
+            for _ in range(1000):
+                status = (about / "status").read_text()
+                if "\nSeccomp:\t2" in status:
+                    break
+                time.sleep(0.01)
+            self.assertIn("\nNoNewPrivs:\t1\n", status)
+            limits = (about / "limits").read_text()
+            for what in ("core file size", "file size", "processes"):
+                self.assertRegex(limits, rf"Max {what} +0 +0 ")
+            # Who may not be looked into, by his own user either, has his files in /proc taken away.
+            self.assertEqual((about / "mem").stat().st_uid, 0)
+            process.kill()
 
     @unittest.skipUnless(ROOT, "takes root, to be another user")
     def test_a_program_in_the_helpers_place_finds_nothing(self):
@@ -122,6 +147,8 @@ ls /proc/$PPID/fd && echo REACHED
         process.stdin.write(LONG)
         process.stdin.flush()
         process.stdout.read(1)
+        limits = pathlib.Path(f"/proc/{process.pid}/limits").read_text()
+        self.assertRegex(limits, "Max core file size +0 +0 ")
         process.send_signal(signal.SIGSEGV)
         process.communicate(timeout=30)
         self.assertEqual(process.returncode, -signal.SIGSEGV)

@@ -186,7 +186,7 @@ class Secrets(unittest.TestCase):
         os.mkfifo(self.scratch / "fifo")
         (self.scratch / "folder").mkdir()
         broken = {
-            "broken": text[text.index("\n"):], "long": text + "*% \n" * (1 << 20), "fifo": None, "folder": None,
+            "many": text + "*OpenUI *X: PickOne\n*CloseUI\n" * 20000, "broken": text[text.index("\n"):], "long": text + "*% \n" * (1 << 20), "fifo": None, "folder": None,
         }  # fmt: skip
         for name, content in broken.items():
             ppd = self.scratch / name
