@@ -66,7 +66,10 @@ int Decode(const Options& options) {
 int Check(const Options& options) {
   const std::optional<Dictionary> ticket = Load(options.input);
   if (!ticket) return kExitFailure;
-  const std::vector<TicketFinding> findings = CheckTicket(*ticket);
+  std::vector<TicketFinding> findings = CheckTicket(*ticket);
+  std::vector<FlatOption> flat;
+  if (const Failure failure = FlattenTicket(*ticket, &flat); !failure.empty())
+    findings.push_back({"no job can carry this", failure});
   if (!options.quiet) {
     for (const TicketFinding& finding : findings)
       std::printf("%s\n", PrintableText(finding.place + ": " + finding.text).c_str());

@@ -102,12 +102,6 @@ std::string Quoted(const std::string& value) {
 
 }  // namespace
 
-Failure LengthFault(std::size_t bytes) {
-  if (bytes <= kLongestOptions) return "";
-  return "has " + std::to_string(bytes) + " bytes as options, and a job carries " +
-         std::to_string(kLongestOptions) + " at most; shorten it";
-}
-
 std::string OptionText(const std::vector<FlatOption>& options) {
   std::string text;
   for (const FlatOption& option : options) {
@@ -125,7 +119,9 @@ Failure FlattenTicket(const Dictionary& ticket, std::vector<FlatOption>* options
     return twin + ": another key differs from it in letter case only";
   // The last word has what will read it: whatever does not come back the same is refused.
   const std::string text = OptionText(flattener.options);
-  if (Failure failure = LengthFault(text.size()); !failure.empty()) return failure;
+  if (text.size() > kLongestOptions)
+    return "has " + std::to_string(text.size()) + " bytes as options, and a job carries " +
+           std::to_string(kLongestOptions) + " at most; shorten it";
   const std::string place = Difference(ticket, TicketOfOptions(text));
   if (!place.empty())
     return place +

@@ -274,7 +274,10 @@ Failure ReadTicket(std::string_view text, Dictionary* ticket) {
     failure = ReadJson(text, &read);
   } else if (first == '<' || text.starts_with("bplist")) {
     failure = ReadPropertyListTicket(text, &read);
-  } else if (failure = LengthFault(text.size()); failure.empty()) {
+  } else if (text.size() > kLongestReadOptions) {
+    failure = "has " + std::to_string(text.size()) + " bytes, and options are read up to " +
+              std::to_string(kLongestReadOptions) + "; shorten it";
+  } else {
     read = TicketOfOptions(std::string(text));
   }
   if (!failure.empty()) return failure;

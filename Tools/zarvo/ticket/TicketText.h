@@ -19,6 +19,9 @@ constexpr int kMaxTicketDepth = 50;
 /// In bytes: a job's options are one argument of the filter, and Linux takes none that fills 32
 /// pages of memory, the zero byte behind it included.
 constexpr std::size_t kLongestOptions = 32 * 4096 - 1;
+/// In bytes: longer option texts are not read, because the library's time grows with the square of
+/// the options. What no job could carry can be looked at all the same.
+constexpr std::size_t kLongestReadOptions = 1 << 20;
 
 /// What a hidden secret is shown as.
 inline constexpr std::string_view kHiddenSecret = "(hidden)";
@@ -27,7 +30,7 @@ inline constexpr std::string_view kHiddenSecret = "(hidden)";
 /// In JSON a key may leave out "com.zarvo.print.", a number with a word may be that word, a date
 /// may be "YYYY-MM-DDThh:mm", and data is {"$data": "hexadecimal digits"}; a number under a name
 /// that is none of ours becomes text, as the spooler's options are. Fails when the text is
-/// none of the three, or has more options than a job can carry.
+/// none of the three, or is of more than kLongestReadOptions.
 Failure ReadTicket(std::string_view text, Dictionary* ticket);
 
 /// The ticket of an option text, as the filter rebuilds it.
@@ -48,9 +51,6 @@ struct FlatOption {
 /// Flattens a ticket. Fails when it holds what options cannot carry: fractions, empty lists, keys
 /// with blanks, two keys that differ in letter case only, more than kLongestOptions.
 Failure FlattenTicket(const Dictionary& ticket, std::vector<FlatOption>* options);
-
-/// Why no job can carry an option text of that length; empty when one can.
-Failure LengthFault(std::size_t bytes);
 
 /// The options as one text, quoted so that the spooler's library reads the same options back.
 std::string OptionText(const std::vector<FlatOption>& options);
