@@ -44,6 +44,10 @@ def succeed(command, stdin=b"", **environment):
     return output
 
 
+class NotInRelease(Exception):
+    """This release of Debian has no such package."""
+
+
 class Corpus:
     def __init__(self, arguments):
         self.build = arguments.build
@@ -68,7 +72,10 @@ class Corpus:
             with tempfile.TemporaryDirectory(dir=folder.parent) as scratch:
                 get = f"cd {scratch} && apt-get download -qq {package}"
                 if run(["sh", "-c", get])[2] != 0:
-                    succeed(["apt-get", "-qq", "update"])
+                    if os.geteuid() == 0:
+                        succeed(["apt-get", "-qq", "update"])
+                    if not run(["apt-cache", "madison", package])[0].strip():
+                        raise NotInRelease(f"this release has no package {package}")
                     succeed(["sh", "-c", get])
                 part = pathlib.Path(scratch, "content")
                 succeed(["dpkg-deb", "-x", *pathlib.Path(scratch).glob("*.deb"), part])
@@ -208,10 +215,12 @@ def main():
     if arguments.install and (programs := sorted({name for row in rows for name in row.get("install", ())})):
         succeed(["apt-get", "-o", "DPkg::Lock::Timeout=600", "install", "-y", "-qq",
                  "--no-install-recommends", *programs], DEBIAN_FRONTEND="noninteractive")  # fmt: skip
-    corpus, tasks, missing = Corpus(arguments), [], []
+    corpus, tasks, missing, absent = Corpus(arguments), [], [], []
     for row in rows:
         try:
             tasks += [(row, route) for route in routes(row, corpus.fetch(row))]
+        except NotInRelease as error:
+            absent.append(f"{row['name']}: {error}")
         except Exception as error:
             missing.append(f"{row['name']}: {error}")
     if arguments.routes:
@@ -236,10 +245,10 @@ def main():
             told += [f"{row['name']} {route} {mode}: {known[mode]}" for mode, why in wrong.items()
                      if why and mode in known]  # fmt: skip
             failures += [f"{row['name']} {route} {mode}: {why}" for mode, why in bad.items()]
-    for reason in told + failures + [f"missing: {line}" for line in missing]:
+    for reason in told + failures + absent + [f"missing: {line}" for line in missing]:
         print(reason)
     programs = len({row["by"] for row in rows})
-    print(f"{len(rows) - len(missing)} documents of {programs} programs, {len(tasks)} conversions: "
+    print(f"{len(rows) - len(missing) - len(absent)} documents of {programs} programs, {len(tasks)} conversions: "
           f"{right['right']} right, {right['wrong']} wrong, {right['cannot']} that no filter can mend")  # fmt: skip
     return 1 if right["wrong"] or missing or not right["right"] else 0
 
