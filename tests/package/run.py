@@ -81,6 +81,19 @@ def examine(packages):
             check(listed.get(path) == mode, f"{path}: {listed.get(path)}, not {mode}")
 
 
+def check_links(package):
+    """Whoever reads the installed documents gets to the others and sees their pictures."""
+    with tempfile.TemporaryDirectory() as folder:
+        run("dpkg-deb", "-x", package, folder)
+        documents = sorted(pathlib.Path(folder, "usr/share/doc").rglob("*.md"))
+        links = [(document, link) for document in documents for link in re.findall(
+            r"""\]\(([^)#\s]+)|(?:src|href)="([^"#]+)""", document.read_text())]
+        check(len(links) > 20, f"links: {len(links)}")
+        broken = [f"{document.name}: {link}" for document, pair in links for link in pair
+                  if link and "://" not in link and not (document.parent / link).is_file()]
+        check(not broken, f"broken links: {broken}")
+
+
 class Bare(BareDebian):
     """A bare Debian in a folder, of this machine's release."""
 
@@ -203,6 +216,7 @@ def use_on_bare_system(packages):
 def main():
     packages = {name: next(PACKAGES.glob(f"{name}_*.deb")) for name in MODES}
     step("lintian, owners and modes", lambda: examine(packages))
+    step("links of the documents", lambda: check_links(packages["zarvo-filter"]))
     reason = use_on_bare_system(packages)
     (PACKAGES / "steps.txt").write_text("\n".join(STEPS) + "\n")
     if reason:
