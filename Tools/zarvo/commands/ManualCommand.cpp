@@ -183,7 +183,15 @@ else
 fi
 )sh"},
     {"fish", R"sh(# fish completion for zarvo
-complete -c zarvo -a '(zarvo manual --complete -- (commandline -opc)[2..-1] (commandline -ct) 2>/dev/null)'
+function __zarvo_complete
+    set -l found (zarvo manual --complete -- (commandline -opc)[2..-1] (commandline -ct) 2>/dev/null)
+    if set -q found[1]
+        printf '%s\n' $found
+    else
+        __fish_complete_path (commandline -ct)
+    end
+end
+complete -c zarvo -f -a '(__zarvo_complete)'
 )sh"},
 };
 
