@@ -16,6 +16,7 @@
 #include <new>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "CUPSFilter/Booklet/ImposeJob.h"
@@ -25,6 +26,7 @@
 #include "CUPSFilter/JobNotices.h"
 #include "CUPSFilter/JobOutput.h"
 #include "CUPSFilter/JobSettings.h"
+#include "CUPSFilter/Options/HouseTicketOption.h"
 #include "CUPSFilter/Options/JudgeRequest.h"
 #include "CUPSFilter/Options/ParseOptions.h"
 #include "CUPSFilter/Options/PpdTicket.h"
@@ -34,20 +36,69 @@
 #include "CUPSFilter/Options/common.h"
 #include "CUPSFilter/SpoolFile.h"
 #include "CUPSFilter/Watermark/PageHooks.h"
+#include "HouseTicket/HouseTicketStore.h"
 #include "Platform/Log.h"
 #include "Platform/Process.h"
 #include "Platform/ScratchFolder.h"
 #include "Platform/SpoolerUser.h"
 #include "Platform/UniqueFd.h"
+#include "Source/CFAdditions.h"
 #include "Source/DrawHelper.h"
 #include "Source/FaxCover.h"
 #include "Source/Preferences.h"
+#include "Source/TicketNames.h"
 
 namespace zarvo {
 namespace {
 
 constexpr int kSuccess = 0;
 constexpr int kFailure = 1;
+
+/// What the attributes ask for themselves, without what only keeps defaults from showing through.
+OptionList Asked(const StandardTicket& standard) {
+  OptionList asked;
+  for (const StandardSetting& setting : standard.settings)
+    if (!setting.quiet) asked.Add(setting.name.c_str(), setting.value.c_str());
+  return asked;
+}
+
+/// Replaces the ticket of a job that names a house ticket. Gives why the job must not be printed.
+std::string PutHouseTicketBelow(const NamedHouseTicket& named, const PpdChoices& chosen,
+                                const StandardTicket& standard, const OptionList& options,
+                                Dictionary* ticket, JobNotices* notices) {
+  if (!named.fault.empty() || named.name.empty()) return named.fault;
+  ResolvedHouseTicket house;
+  if (std::string fault = LoadHouseTicket(named.name, &house); !fault.empty()) return fault;
+  const auto decode = [](std::initializer_list<const OptionList*> lists) {
+    const std::vector<cups_option_t> ordered = TicketOrder(lists);
+    return ParseCUPSOptionsToDictionary(ordered.data(), static_cast<int>(ordered.size()));
+  };
+  const OptionList asked = Asked(standard);
+  std::vector<std::string> kept;
+  *ticket = ApplyHouseTicket(house,
+                             {QueueDefaults(std::getenv("PPD")), decode({&chosen.others}),
+                              decode({&asked, &chosen.named}), decode({&options})},
+                             &kept);
+  for (const std::string& path : kept)
+    notices->Add(path + ": house ticket \"" + named.name +
+                 "\" does not let jobs change it, it was left as it is there");
+  return "";
+}
+
+/// The sides that a house ticket asks for, wherever the filter acts on them itself. Gives the
+/// set-up of a page description that knows nothing of them, or null.
+const char* ReadHouseSides(const Dictionary& ticket, JobSettings* settings) {
+  std::int32_t sides = 0;
+  if (!CFDictionaryGetNumber(ticket, key::kFinishingDuplex, &sides)) return nullptr;
+  const bool tumble = sides == kShortEdge;
+  const bool duplex = tumble || sides == kLongEdge;
+  const bool is_known = std::exchange(Duplex, duplex ? 1 : 0) == (duplex ? 1 : 0) && !tumble;
+  settings->sides = !duplex ? "one-sided" : tumble ? "two-sided-short-edge" : "two-sided-long-edge";
+  if (is_known || settings->booklet) return nullptr;
+  return !duplex  ? "<</Duplex false>>setpagedevice\n"
+         : tumble ? "<</Duplex true/Tumble true>>setpagedevice\n"
+                  : "<</Duplex true/Tumble false>>setpagedevice\n";
+}
 
 struct Job {
   Dictionary ticket;
@@ -64,6 +115,8 @@ std::optional<Job> ReadJob(char** arguments, std::optional<JobNotices>* notices)
   (*notices)->Begin();
   StandardJob standard;
   if (policy.standardTicket) standard = ReadStandardJob(arguments[1], arguments[2], options, &ppd);
+  if (!policy.standardTicket && ppd.HasOption(kHouseTicketOption))
+    for (const cups_option_t& option : options.span()) standard.ownNames.insert(option.name);
   std::vector<std::string> faults;
   PpdChoices chosen = PpdTicketOptions(ppd, standard.ownNames, &faults);
   for (const std::string& dictionary : standard.ticket.without)
@@ -76,6 +129,9 @@ std::optional<Job> ReadJob(char** arguments, std::optional<JobNotices>* notices)
   job.ticket =
       ParseCUPSOptionsToDictionary(ordered.data(), static_cast<int>(ordered.size()), &left_out);
   std::string refusal = standard.ticket.refusal;
+  const NamedHouseTicket house = FindHouseTicketName(options, chosen, standard, ppd);
+  if (refusal.empty())
+    refusal = PutHouseTicketBelow(house, chosen, standard.ticket, options, &job.ticket, &**notices);
   const std::vector<cups_option_t> choices = TicketOrder({&chosen.others, &chosen.named});
   const JobRequest request = {options.span(), choices, left_out};
   const Judgement verdict = JudgeRequest(request, policy, ppd, &job.ticket);
@@ -95,9 +151,11 @@ std::optional<Job> ReadJob(char** arguments, std::optional<JobNotices>* notices)
   options.AddMissing(attributes);
   options.AddMissing(chosen.others);
   job.settings = ReadJobSettings(job.ticket, options.size(), options.data(), &**notices);
+  const char* sides = house.name.empty() ? nullptr : ReadHouseSides(job.ticket, &job.settings);
   job.settings.pageHooks = PageHooksWanted(ppd);
   job.settings.failClosed = policy.failClosed;
   job.settings.copies = ReadCopyPlan(ppd, job.ticket, options.span(), arguments[4]);
+  job.settings.copies.sides = sides;
   return job;
 }
 
@@ -231,6 +289,7 @@ bool ReachesEverything(const SpoolerUser& user, const char* input_name) {
   return (input_name == nullptr || is_open(input_name, R_OK)) &&
          (ppd == nullptr || is_open(ppd, R_OK)) && is_open(TemporaryFolder(), W_OK | X_OK) &&
          is_open(CopyPreferenceFileURL(kWatermarkCollection).value_or("/"), R_OK) &&
+         is_open(CopyPreferenceFileURL(kHouseTicketFile).value_or("/"), R_OK) &&
          is_open(CopyPreferenceFileURL(kFaxImageCollection).value_or("/"), R_OK) &&
          is_open(DrawHelperPath(), X_OK);
 }

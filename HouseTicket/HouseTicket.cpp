@@ -191,6 +191,9 @@ Failure ResolveHouseTicket(const std::string& name, const FindHouseTicket& find,
   for (std::string next = name; !next.empty(); next = tickets.back().basedOn) {
     if (!seen.insert(next).second)
       return "house ticket \"" + name + "\" builds on itself, by way of \"" + next + "\"";
+    if (seen.size() > kMostHouseTicketBases + 1)
+      return "house ticket \"" + name + "\" builds on more than " +
+             std::to_string(kMostHouseTicketBases) + " others";
     HouseTicket house;
     std::string fault = find(next, &house);
     if (!fault.empty())
@@ -207,6 +210,8 @@ Failure ResolveHouseTicket(const std::string& name, const FindHouseTicket& find,
 
 Dictionary ApplyHouseTicket(const ResolvedHouseTicket& house, JobSays job,
                             std::vector<std::string>* kept) {
+  Dictionary ticket = std::move(job.derived);
+  MergeSettings(job.chosen, &ticket);
   DropSettings(
       "", job.defaults, &job.chosen,
       [](const std::string&, const Value& value, const Value& other) { return value == other; });
@@ -222,7 +227,6 @@ Dictionary ApplyHouseTicket(const ResolvedHouseTicket& house, JobSays job,
                    return !may;
                  });
   }
-  Dictionary ticket = std::move(job.derived);
   MergeSettings(house.ticket, &ticket);
   MergeSettings(std::move(says), &ticket);
   return ticket;

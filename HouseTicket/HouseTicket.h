@@ -37,6 +37,9 @@ constexpr std::size_t kLongestHouseTicketName = 127;
 /// Tickets nest this deep at most; real ones need four levels.
 constexpr int kMaxHouseTicketDepth = 50;
 
+/// As many may build on one another; real ones are two or three.
+constexpr std::size_t kMostHouseTicketBases = 100;
+
 struct HouseTicket {
   Dictionary ticket;    ///< the settings, under the keys that a job's ticket has
   std::string basedOn;  ///< name of the ticket whose settings these go over; empty for none
@@ -93,9 +96,9 @@ struct JobSays {
 };
 
 /// The job's ticket: its own settings, then its choices, then the house ticket, then the rest. A
-/// choice that is the queue's default anyway counts for nothing, because dialogs send all their
-/// settings with every job. The paths of settings that the house ticket does not let go are
-/// appended to `kept`.
+/// choice that is the queue's default anyway gives way to the house ticket, because dialogs send
+/// all their settings with every job. The paths of settings that the house ticket does not let go
+/// are appended to `kept`.
 Dictionary ApplyHouseTicket(const ResolvedHouseTicket& house, JobSays job,
                             std::vector<std::string>* kept);
 

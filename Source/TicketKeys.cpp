@@ -370,6 +370,7 @@ constexpr TicketKey kTopLevel[] = {
     {key::kRotateBooklet180Degrees, kBoolean, "turn booklet sheets"},
     {key::kBannerPage, kBoolean, "banner page"},
     {key::kRequestOffset, kBoolean, "offset this job in the tray"},
+    {key::kHouseTicket, kText, "ticket that is kept under this name, below all other settings"},
     {key::kEmitJTML, kNumber, "write the XML ticket", 0, 1, kOffOn},
     Group(key::kJTMLOptions, "which sections the XML ticket has; only the presence of a key counts",
           kJtmlOptions),

@@ -42,6 +42,7 @@ inline constexpr char kListedWatermarkFirstPage[] = "com.zarvo.WMS.ZRVWMFPage";
 inline constexpr char kJobType[] = "com.zarvo.print.JobType";          // see job_type
 inline constexpr char kJTMLOptions[] = "com.zarvo.print.JTMLOptions";  // see sections
 inline constexpr char kEmitJTML[] = "com.zarvo.print.EmitJTML";
+inline constexpr char kHouseTicket[] = "com.zarvo.print.HouseTicket";
 inline constexpr char kFaxOptions[] = "com.zarvo.print.FaxOptions";
 inline constexpr char kFaxRecipientList[] = "com.zarvo.print.FaxRecipientList";
 inline constexpr char kBannerPage[] = "com.zarvo.print.BannerPage";

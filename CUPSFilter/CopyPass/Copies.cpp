@@ -87,6 +87,7 @@ void Copies::BeforeLine(std::string_view line) {
   if (!plan_.counted || (!page && !line.starts_with("%%EndSetup"))) return;
   if (!std::exchange(set_up_, true)) {
     if (plan_.once) output_.Write("<</NumCopies 1>>setpagedevice\n");
+    if (plan_.sides != nullptr) output_.Write(plan_.sides);
     if (plan_.sets) output_.Write("<</Collate true>>setpagedevice\n");
   }
   if (!page) return;

@@ -31,6 +31,8 @@ struct CopyPlan {
   bool booklet = false;   ///< its sheets are known only when it has been imposed
   int pagesPerSheet = 1;  ///< 2 for two-sided jobs
   int logged = 1;         ///< what the spooler has to be given for one sheet
+  const char* sides =
+      nullptr;  ///< set-up for sides that the page description does not know; or null
 };
 
 /// `copies` is the spooler's argument, a number from 1 on; anything else counts as 1. The PPD's

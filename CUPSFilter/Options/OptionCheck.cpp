@@ -10,6 +10,7 @@
 #include <optional>
 #include <string_view>
 
+#include "CUPSFilter/Options/HouseTicketOption.h"
 #include "CUPSFilter/Options/TicketGaps.h"
 #include "Source/CFAdditions.h"
 #include "Source/NearestName.h"
@@ -122,6 +123,8 @@ std::string MarkedChoice(const Ppd& ppd, const char* option) {
 
 /// A choice that the PPD's option does not have.
 void CheckChoice(const cups_option_t& option, const Ppd& ppd, std::vector<std::string>* found) {
+  if (Equals(option.name, kHouseTicketOption))
+    return;  // takes any name, and an unknown one ends it
   const std::string value = option.value;
   const bool custom = value.starts_with("Custom.") || value.starts_with("{");
   const bool own_text = ppd.TakesCustom(option.name);

@@ -126,6 +126,15 @@ PpdChoices PpdTicketOptions(const Ppd& ppd, const OptionNames& names,
   return choices;
 }
 
+OptionList ReadTicketAttribute(std::string_view text) {
+  OptionList options;
+  const CustomValues none;
+  ItemReader reader(text, none);
+  std::string name, value;
+  while (reader.Next(&name, &value)) options.Add(name.c_str(), value.c_str());
+  return reader.failure().empty() ? std::move(options) : OptionList();
+}
+
 std::vector<cups_option_t> TicketOrder(std::initializer_list<const OptionList*> lists) {
   std::vector<cups_option_t> ordered;
   for (const OptionList* list : lists) {

@@ -8,6 +8,7 @@
 #include <initializer_list>
 #include <set>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "CUPSFilter/Options/OptionList.h"
@@ -33,6 +34,10 @@ struct PpdChoices {
 };
 PpdChoices PpdTicketOptions(const Ppd& ppd, const OptionNames& names,
                             std::vector<std::string>* faults);
+
+/// The ticket options of one attribute's value, without a custom choice; none when it cannot be
+/// understood.
+OptionList ReadTicketAttribute(std::string_view value);
 
 /// The options of several lists in the order in which the ticket is decoded: a later list
 /// overwrites an earlier one, even when it spells an address differently. The texts still belong to

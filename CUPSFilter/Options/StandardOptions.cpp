@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CUPSFilter/Options/StandardOptions.h"
 
+#include <algorithm>
+#include <iterator>
 #include <map>
 #include <string_view>
+#include <utility>
 
+#include "CUPSFilter/Options/HouseTicketOption.h"
 #include "CUPSFilter/Options/SchedulerRequest.h"
 #include "Platform/Clock.h"
 #include "Source/TicketNames.h"
@@ -53,6 +57,39 @@ void KeepReversedOrder(const OptionList& options, StandardTicket* ticket) {
   }
 }
 
+/// The finishing template and the preset as clients give them that have no PPD of ours, and the
+/// keyword under which the PPD has each.
+constexpr std::pair<const char*, const char*> kHouseNames[] = {
+    {"finishing-template", "cupsFinishingTemplate"},
+    {"cupsFinishingTemplate", "cupsFinishingTemplate"},
+    {"preset", "APPrinterPreset"}};
+
+bool NamesHouseTicket(std::string_view name) {
+  return std::any_of(std::begin(kHouseNames), std::end(kHouseNames),
+                     [name](const auto& row) { return name == row.first; });
+}
+
+/// Templates and presets are choices of clients that know no PPD; those that mean a house ticket
+/// are taken out of the message.
+void TakeHouseChoices(ipp_t* message, const Ppd& ppd, std::vector<std::string>* choices) {
+  if (!ppd.HasOption(kHouseTicketOption)) return;
+  const auto take = [&](ipp_t* group, const char* name, const char* keyword) {
+    ipp_attribute_t* attribute = ippFindAttribute(group, name, IPP_TAG_ZERO);
+    const std::optional<std::string> text =
+        attribute != nullptr ? Attribute(attribute).Text() : std::nullopt;
+    const std::string choice = text ? HouseTicketChoiceOf(ppd, keyword, *text) : "";
+    if (choice.empty()) return;
+    ippDeleteAttribute(group, attribute);
+    if (choices->empty() || choices->back() != choice) choices->push_back(choice);
+  };
+  const Attribute finishings(ippFindAttribute(message, "finishings-col", IPP_TAG_BEGIN_COLLECTION));
+  constexpr int kMost = 100;
+  for (int i = 0; i < std::min(finishings.count(), kMost); ++i)
+    if (ipp_t* group = finishings.Collection(i))
+      take(group, kHouseNames[0].first, kHouseNames[0].second);
+  for (const auto& [name, keyword] : kHouseNames) take(message, name, keyword);
+}
+
 }  // namespace
 
 StandardJob ReadStandardJob(const char* job_id, const char* user, const OptionList& options,
@@ -74,9 +111,11 @@ StandardJob ReadStandardJob(const char* job_id, const char* user, const OptionLi
   for (int i = 0; i < options.size(); ++i) {
     const cups_option_t& option = options.data()[i];
     if (!answered) job.ownNames.insert(option.name);
-    if (IsStandardAttribute(option.name) && told.insert(option.name).second)
+    if ((IsStandardAttribute(option.name) || NamesHouseTicket(option.name)) &&
+        told.insert(option.name).second)
       cupsEncodeOption(message.get(), IPP_TAG_JOB, option.name, option.value);
   }
+  TakeHouseChoices(message.get(), *ppd, &job.houseChoices);
   job.ticket = MapStandardAttributes(message.get(), SystemClock().LocalSeconds());
   KeepReversedOrder(options, &job.ticket);
   if (!why.empty()) {

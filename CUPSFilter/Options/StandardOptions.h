@@ -9,6 +9,9 @@
 // scheduler tells count first, then those among the filter's options.
 #pragma once
 
+#include <string>
+#include <vector>
+
 #include "CUPSFilter/Options/Ppd.h"
 #include "CUPSFilter/Options/PpdTicket.h"
 #include "StandardTicket/StandardTicket.h"
@@ -18,6 +21,9 @@ namespace zarvo {
 struct StandardJob {
   StandardTicket ticket;
   OptionNames ownNames;  ///< of all that the job itself asked for, as far as is known
+  /// Choices of the PPD's option HouseTicket that templates and presets of the job stand for; they
+  /// are no finishing of their own.
+  std::vector<std::string> houseChoices;
 };
 
 /// Reads the job's standard attributes. `options` are the filter's. Asks the scheduler when there

@@ -101,12 +101,13 @@ def lines():
 
 
 def setUpModule():
-    """The store of watermarks that comes with the PPD, in its place."""
+    """The stores that come with the PPD, in their place."""
     global STORE_ROOT
     STORE_ROOT = pathlib.Path(os.environ["ZARVO_TEST_OUTPUT"]) / "ppd"
     (STORE_ROOT / "Zarvo").mkdir(parents=True, exist_ok=True)
-    target = STORE_ROOT / "Zarvo/com.zarvo.printing.watermarks.plist"
-    target.write_bytes((SOURCE / "ppd/watermarks.plist").read_bytes())
+    for name in ("watermarks", "housetickets"):
+        target = STORE_ROOT / f"Zarvo/com.zarvo.printing.{name}.plist"
+        target.write_bytes((SOURCE / f"ppd/{name}.plist").read_bytes())
 
 
 class Choices(unittest.TestCase):
