@@ -34,6 +34,8 @@ struct Command {
 void SetUpPreview(CLI::App& app, Action* action);
 void SetUpExplain(CLI::App& app, Action* action);
 void SetUpTicket(CLI::App& app, Action* action);
+/// The subcommands of "ticket" for those that are kept under a name.
+void SetUpHouseTickets(CLI::App& app, Action* action);
 void SetUpPrint(CLI::App& app, Action* action);
 void SetUpWatermark(CLI::App& app, Action* action);
 void SetUpRecipient(CLI::App& app, Action* action);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Tools/zarvo/Terminal.h"
 
+#include <termios.h>
+
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
@@ -11,6 +13,21 @@ namespace zarvo::tool {
 bool ColorWanted(int fd) {
   const char* no_color = std::getenv("NO_COLOR");
   return isatty(fd) == 1 && (no_color == nullptr || *no_color == '\0');
+}
+
+std::string ReadSecret(const char* prompt) {
+  std::fputs(prompt, stderr);
+  termios shown{};
+  const bool is_terminal = tcgetattr(STDIN_FILENO, &shown) == 0;
+  termios hidden = shown;
+  hidden.c_lflag &= ~static_cast<tcflag_t>(ECHO);
+  if (is_terminal) tcsetattr(STDIN_FILENO, TCSAFLUSH, &hidden);
+  std::string line;
+  for (int c = std::getchar(); c != EOF && c != '\n'; c = std::getchar())
+    line += static_cast<char>(c);
+  if (is_terminal) tcsetattr(STDIN_FILENO, TCSAFLUSH, &shown);
+  std::fputc('\n', stderr);
+  return line;
 }
 
 Palette::Palette(bool color)

@@ -15,6 +15,9 @@ namespace zarvo::tool {
 /// Whether colour may be written to the descriptor: a terminal, and NO_COLOR is not set.
 bool ColorWanted(int fd);
 
+/// Asks for a line on the terminal that is standard input, without showing what is typed.
+std::string ReadSecret(const char* prompt);
+
 /// Text styles; with `color` false they are empty texts.
 struct Palette {
   explicit Palette(bool color);

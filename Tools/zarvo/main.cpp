@@ -91,15 +91,20 @@ std::span<const Command> Commands() {
        "cupsfilter -e -p printer.ppd -m printer/any report.pdf 2>/dev/null | zarvo explain -\n"
        "zarvo explain --json job.prn | jq .findings",
        &SetUpExplain},
-      {"ticket", "Translate and check job tickets",
+      {"ticket", "Translate, check and keep job tickets",
        "zarvo ticket encode settings.json\n"
        "lp -d office -o \"$(zarvo ticket encode settings.json)\" report.pdf\n"
        "zarvo ticket decode options.txt > settings.json\n"
        "zarvo ticket check settings.json\n"
-       "zarvo ticket keys | grep -i staple",
+       "zarvo ticket keys | grep -i staple\n"
+       "zarvo ticket save payslips settings.json --title 'de=Lohnzettel'\n"
+       "zarvo ticket save reports --from-job office-12\n"
+       "zarvo ticket show thesis --settings\n"
+       "sudo zarvo ticket publish payslips -q office",
        &SetUpTicket},
       {"print", "Print with settings in the readable form",
        "zarvo print report.pdf -d office settings.json\n"
+       "zarvo print report.pdf -d office --ticket payslips\n"
        "zarvo print report.pdf -d office secure.json -o copies=2",
        &SetUpPrint},
       {"watermark", "Look after the watermarks of this machine",

@@ -18,6 +18,7 @@
 #include <sstream>
 
 #include "CUPSFilter/FaxCover/PdfToPostScript.h"
+#include "HouseTicket/HouseTicketStore.h"
 #include "Platform/Log.h"
 #include "Platform/SpoolerUser.h"
 #include "Source/CFAdditions.h"
@@ -264,6 +265,27 @@ class Examination {
                      "is missing and cannot be made", "Install the package zarvo-filter again");
       CheckStore(collection, *path);
     }
+    CheckHouseTickets();
+  }
+
+  /// Tickets that jobs may name, each with all that it builds on.
+  void CheckHouseTickets() {
+    HouseTicketStore store = HouseTicketStore::Shared();
+    struct stat status {};
+    if (stat(store.path().c_str(), &status) != 0)
+      return Note("store", store.path(), "is not there yet, jobs that name a house ticket stop",
+                  "\"sudo zarvo ticket save\" makes it");
+    if (!JobsMayRead(store.path()))
+      return Wrong("store", store.path(), "the spooler's user cannot read it",
+                   "chmod a+r " + store.path() + ", and a+x on the folders above it");
+    std::string fault = store.Read();
+    for (const std::string& name : store.Names()) {
+      ResolvedHouseTicket resolved;
+      if (fault.empty()) fault = ResolveHouseTicket(name, FindIn({&store}), &resolved);
+    }
+    if (fault.empty()) return Good("store", store.path());
+    Wrong("store", store.path(), fault,
+          "Save the ticket again, or restore the store from a backup");
   }
 
   void CheckStore(const char* collection, const std::string& path) {

@@ -9,6 +9,7 @@
 #include "Tools/zarvo/Command.h"
 #include "Tools/zarvo/CommandTable.h"
 #include "Tools/zarvo/system/Queues.h"
+#include "Tools/zarvo/ticket/HouseText.h"
 
 namespace zarvo::tool {
 namespace {
@@ -22,6 +23,13 @@ struct Options {
 
 bool IsQueueOption(const std::string& word) {
   return word == "-q" || word == "--queue" || word == "-d";
+}
+
+/// Whether the subcommand of "ticket" is given the name of one that there is.
+bool TakesHouseTicket(const std::string& command) {
+  constexpr std::string_view kCommands[] = {"show", "edit",    "remove",    "rename",
+                                            "diff", "publish", "unpublish", "save"};
+  return std::find(std::begin(kCommands), std::end(kCommands), command) != std::end(kCommands);
 }
 
 /// A text for troff: backslashes and minus signs as such, no line that begins with a command.
@@ -136,7 +144,14 @@ std::vector<std::string> Completions(const std::vector<std::string>& words) {
   const std::string last = words.empty() ? "" : words.back();
   const std::string previous = words.size() > 1 ? words[words.size() - 2] : "";
   std::vector<std::string> found;
-  if (IsQueueOption(previous)) {
+  const bool house = previous == "--ticket" || previous == "--based-on" ||
+                     (words.size() == 3 && words[0] == "ticket" && TakesHouseTicket(words[1]));
+  if (house) {
+    HouseStores stores;
+    if (stores.Read().empty())
+      for (const HouseTicketStore* store : stores.All())
+        for (std::string& name : store->Names()) found.push_back(std::move(name));
+  } else if (IsQueueOption(previous)) {
     ListQueues(&found);
   } else if (previous == "-o") {
     QueuePpd ppd;

@@ -379,8 +379,6 @@ class Preview {
 int RunPreview(Options options) {
   if (options.open && options.output == "-")
     return Fail("--open", "shows files, not standard output", "Give --output a name");
-  const std::optional<std::string> text = OptionTextOf(options.options);
-  if (!text) return kExitFailure;
   if (options.job != "-" && access(options.job.c_str(), R_OK) != 0)
     return Fail(options.job, std::strerror(errno));
   QueuePpd queue;
@@ -395,6 +393,8 @@ int RunPreview(Options options) {
   if (!ppd.empty()) {
     if (const std::string fault = PpdFault(ppd); !fault.empty()) return Fail(ppd, fault);
   }
+  const std::optional<std::string> text = OptionTextOf(options.options, ppd);
+  if (!text) return kExitFailure;
   if (options.output.empty())
     options.output =
         options.job == "-" ? "preview.pdf" : fs::path(options.job).stem().string() + "-preview.pdf";
@@ -423,6 +423,7 @@ void SetUpPreview(CLI::App& app, Action* action) {
   app.add_option("-p,--ppd", options->ppd, "take this PPD file")->excludes(queue);
   app.add_option("-o", options->options.options, "an option, as for lp; may be repeated")
       ->allow_extra_args(false);
+  AddHouseOption(app, &options->options);
   app.add_option("-s,--settings", options->options.settings,
                  "settings in the readable form; - for standard input");
   app.add_option("-n,--copies", options->copies, "number of copies")->check(CLI::PositiveNumber);

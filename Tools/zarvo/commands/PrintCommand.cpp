@@ -6,6 +6,7 @@
 #include "Tools/zarvo/Command.h"
 #include "Tools/zarvo/job/JobOptions.h"
 #include "Tools/zarvo/job/PrintJob.h"
+#include "Tools/zarvo/system/Queues.h"
 
 namespace zarvo::tool {
 namespace {
@@ -17,7 +18,11 @@ struct Options {
 
 int Print(const Options& options) {
   std::vector<std::string> told;
-  const std::optional<std::string> text = OptionTextOf(options.options, &told);
+  QueuePpd ppd;
+  if (!options.options.house.empty())
+    if (const Failure failure = ppd.Fetch(options.job.queue); !failure.empty())
+      return Fail(options.job.queue, failure, "\"lpstat -e\" lists the queues");
+  const std::optional<std::string> text = OptionTextOf(options.options, ppd.path(), &told);
   return text ? PrintChecked(options.job, *text, told) : kExitFailure;
 }
 
@@ -27,6 +32,7 @@ void SetUpPrint(CLI::App& app, Action* action) {
   const auto options = std::make_shared<Options>();
   app.add_option("file", options->job.file, "file to print; - for standard input")->required();
   app.add_option("settings", options->options.settings, "settings in the readable form");
+  AddHouseOption(app, &options->options);
   AddPrintOptions(app, &options->job);
   app.add_option("-o", options->options.options, "an option, as for lp; may be repeated")
       ->allow_extra_args(false);

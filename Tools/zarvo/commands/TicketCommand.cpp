@@ -152,6 +152,7 @@ void SetUpTicket(CLI::App& app, Action* action) {
       Add(app, "check", "Names misspelt keys and values out of range", options, action, &Check);
   for (CLI::App* command : {encode, decode, check}) AddInput(*command, options);
   check->add_flag("-q,--quiet", options->quiet, "only the exit status");
+  SetUpHouseTickets(app, action);
 }
 
 }  // namespace zarvo::tool

@@ -311,17 +311,6 @@ int Show(const Options& options) {
   return Deliver(scratch->File("page-1.png"), target);
 }
 
-/// The value in the quotes of a ZRVTicket attribute. A double quote would end the attribute.
-std::string Quoted(const std::string& name) {
-  std::string text = "'";
-  for (const char c : name) {
-    if (c == '\'' || c == '\\') text += '\\';
-    text += c;
-    if (c == '%') text += '%';
-  }
-  return text + "'";
-}
-
 int Publish(const Options& options) {
   QueuePpd queue;
   if (const Failure failure = queue.Fetch(options.queue); !failure.empty())
@@ -335,7 +324,7 @@ int Publish(const Options& options) {
       Fail(names[i], "has a double quote, which no PPD can hold", "Give it another name");
       continue;
     }
-    choices.push_back({names[i], std::string(key::kWatermark) + "=" + Quoted(names[i])});
+    choices.push_back({names[i], std::string(key::kWatermark) + "=" + TicketValue(names[i])});
   }
   std::string changed;
   if (const Failure failure = PublishChoices(ppd, "Watermark", choices, &changed); !failure.empty())

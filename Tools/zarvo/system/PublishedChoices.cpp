@@ -28,20 +28,27 @@ std::vector<std::string_view> Lines(std::string_view text) {
   return lines;
 }
 
-/// A keyword for the title that no other choice has.
-std::string KeywordOf(const std::string& title, const std::vector<std::string>& taken) {
+/// A keyword for the title that no other choice has; of a title that is meant as one, with its
+/// punctuation.
+std::string KeywordOf(const std::string& title, bool is_keyword,
+                      const std::vector<std::string>& taken,
+                      const std::vector<std::string>& reserved) {
   std::string stem;
   for (const char c : title)
-    if (std::isalnum(static_cast<unsigned char>(c)) != 0 && stem.size() < kLongestKeyword - 4)
+    if ((std::isalnum(static_cast<unsigned char>(c)) != 0 ||
+         (is_keyword && (c == '-' || c == '_' || c == '.'))) &&
+        stem.size() < kLongestKeyword - 4)
       stem += c;
   if (stem.empty()) stem = "Choice";
   std::string keyword = stem;
-  const auto is_taken = [&] {
-    return std::any_of(taken.begin(), taken.end(), [&](const std::string& other) {
-      return strcasecmp(other.c_str(), keyword.c_str()) == 0;
-    });
+  const auto is_same = [&](const std::string& other) {
+    return strcasecmp(other.c_str(), keyword.c_str()) == 0;
   };
-  for (int number = 2; is_taken() || keyword == "Custom"; ++number)
+  const auto is_taken = [&] {
+    return std::any_of(taken.begin(), taken.end(), is_same) ||
+           (keyword != title && std::any_of(reserved.begin(), reserved.end(), is_same));
+  };
+  for (int number = 2; is_taken() || strcasecmp(keyword.c_str(), "Custom") == 0; ++number)
     keyword = stem + std::to_string(number);
   return keyword;
 }
@@ -105,7 +112,8 @@ std::vector<std::string> Languages(const std::vector<std::string_view>& lines) {
 }  // namespace
 
 Failure PublishChoices(std::string_view ppd, const std::string& option,
-                       const std::vector<PublishedChoice>& choices, std::string* changed) {
+                       const std::vector<PublishedChoice>& choices, std::string* changed,
+                       const std::vector<std::string>& reserved) {
   const std::string mark = std::string(kMark) + option;
   std::vector<std::string_view> kept;
   bool published = false;
@@ -116,16 +124,28 @@ Failure PublishChoices(std::string_view ppd, const std::string& option,
   const std::vector<std::string> languages = Languages(kept);
   std::string inside, after;
   for (const PublishedChoice& choice : choices) {
-    if (std::find(own.titles.begin(), own.titles.end(), choice.title) != own.titles.end()) continue;
-    const std::string keyword = KeywordOf(choice.title, own.keywords);
+    const bool wanted = !choice.keyword.empty();
+    if (!wanted &&
+        std::find(own.titles.begin(), own.titles.end(), choice.title) != own.titles.end())
+      continue;
+    const std::string keyword =
+        KeywordOf(wanted ? choice.keyword : choice.title, wanted, own.keywords, reserved);
     own.keywords.push_back(keyword);
     own.titles.push_back(choice.title);
     const auto line = [&](const std::string& text) { return mark + "\n" + text + "\n"; };
     inside += line("*" + option + " " + keyword + "/" + Translation(choice.title, true) + ": \"\"");
     after += line("*ZRVTicket " + option + "." + keyword + ": \"" + choice.ticket + "\"");
-    for (const std::string& language : languages)
-      after += line("*" + language + "." + option + " " + keyword + "/" +
-                    Translation(choice.title, false) + ": \"\"");
+    for (const std::string& attribute : choice.attributes)
+      after += line("*" + attribute + " " + keyword + "/" + Translation(choice.title, true) +
+                    ": \"*" + option + " " + keyword + "\"");
+    for (const std::string& language : languages) {
+      const auto title = choice.titles.find(language);
+      const std::string text =
+          Translation(title != choice.titles.end() ? title->second : choice.title, false);
+      after += line("*" + language + "." + option + " " + keyword + "/" + text + ": \"\"");
+      for (const std::string& attribute : choice.attributes)
+        after += line("*" + language + "." + attribute + " " + keyword + "/" + text + ": \"\"");
+    }
   }
   std::string result;
   bool found = false;
@@ -139,6 +159,26 @@ Failure PublishChoices(std::string_view ppd, const std::string& option,
   if (!found) return "its PPD has no option " + option;
   *changed = result + after;
   return "";
+}
+
+std::vector<std::string> PublishedLines(std::string_view ppd, const std::string& option) {
+  const std::string mark = std::string(kMark) + option;
+  std::vector<std::string> found;
+  bool published = false;
+  for (const std::string_view line : Lines(ppd)) {
+    if (std::exchange(published, line == mark)) found.emplace_back(line);
+  }
+  return found;
+}
+
+std::string TicketValue(const std::string& value) {
+  std::string text = "'";
+  for (const char c : value) {
+    if (c == '\'' || c == '\\') text += '\\';
+    text += c;
+    if (c == '%') text += '%';
+  }
+  return text + "'";
 }
 
 int InstallPpd(const std::string& queue, const std::string& ppd) {

@@ -1,0 +1,392 @@
+// SPDX-License-Identifier: Apache-2.0
+// zarvo ticket save, list, show, edit, remove, rename, diff, publish, unpublish: job tickets that
+// are kept under a name.
+#include <unistd.h>
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <memory>
+#include <nlohmann/json.hpp>
+
+#include "CUPSFilter/Options/HouseTicketOption.h"
+#include "Platform/AtomicFile.h"
+#include "Platform/Log.h"
+#include "Source/TicketNames.h"
+#include "Tools/zarvo/Command.h"
+#include "Tools/zarvo/system/PublishedChoices.h"
+#include "Tools/zarvo/system/PublishedTickets.h"
+#include "Tools/zarvo/system/Queues.h"
+#include "Tools/zarvo/system/Run.h"
+#include "Tools/zarvo/system/SpoolerJobs.h"
+#include "Tools/zarvo/ticket/HouseText.h"
+#include "Tools/zarvo/ticket/JobTicket.h"
+#include "Tools/zarvo/ticket/TicketCheck.h"
+#include "Tools/zarvo/ticket/TicketText.h"
+
+namespace zarvo::tool {
+namespace {
+
+struct Options {
+  std::string name, other;
+  std::string file = "-";
+  std::string fromJob, queue, basedOn;
+  std::vector<std::string> titles, mayOverride;
+  bool shared = false, own = false, json = false, secrets = false, settings = false, force = false;
+};
+
+constexpr const char* kListRemedy = "\"zarvo ticket list\" shows them";
+
+void Note(const std::string& place, const std::string& text) {
+  std::fprintf(stderr, "zarvo: %s\n", PrintableText(place + ": " + text).c_str());
+}
+
+/// Where a new ticket goes: where it is said, else root's to everybody and a user's to the user.
+HouseTicketStore TargetStore(const Options& options) {
+  const bool shared = options.shared || (!options.own && ::geteuid() == 0);
+  return shared ? HouseTicketStore::Shared() : HouseTicketStore::Own();
+}
+
+/// The store to change a ticket in, which has been read; null, having told why.
+HouseTicketStore* StoreOf(const Options& options, HouseStores* stores) {
+  if (const std::string fault = stores->Read(); !fault.empty())
+    return Fail("store", fault), nullptr;
+  HouseTicketStore* first = options.shared ? &stores->shared : &stores->own;
+  for (HouseTicketStore* store : {first, &stores->shared})
+    if (store->Contains(options.name) && !(options.own && store->shared())) return store;
+  Fail(options.name, UnknownHouseTicket(options.name, stores->All()));
+  return nullptr;
+}
+
+int Changed(const std::string& place, const HouseTicketStore& store, const std::string& fault) {
+  if (fault.empty()) return kExitOk;
+  const bool denied = store.shared() && (errno == EACCES || errno == EPERM || errno == EROFS);
+  return Fail(place, fault,
+              denied ? "Everybody's tickets are changed as root; --own keeps yours" : "");
+}
+
+std::string PinDropped(Dictionary* ticket) {
+  Dictionary* job = nullptr;
+  if (const auto entry = ticket->find("com.zarvo.print.JobType"); entry != ticket->end())
+    job = entry->second.AsDictionary();
+  return job != nullptr && HoldsPin(*ticket) && job->erase("SecurePrintPassword") != 0
+             ? "its PIN was left out; give one with each job"
+             : "";
+}
+
+/// The settings of a job that the spooler knows.
+bool ReadFrom(const Options& options, HouseTicket* house) {
+  std::string queue;
+  OptionList list;
+  const int number = JobNumber(options.fromJob);
+  const Failure failure = number == 0 ? "is no job; \"lpstat -W all\" lists them"
+                                      : OptionsOfSpoolerJob(number, &list, &queue);
+  if (!failure.empty()) return Fail(options.fromJob, failure), false;
+  QueuePpd ppd;
+  if (const Failure fetched = ppd.Fetch(queue); !fetched.empty())
+    return Fail(queue, fetched), false;
+  std::vector<std::string> others, kept;
+  house->ticket = TicketOfJob(list, ppd.path(), {}, &others, &kept);
+  for (const char* account :
+       {key::kAccount, key::kAccountUser, key::kXmlAccount, key::kXmlAccountUser})
+    house->ticket.erase(account);
+  if (const std::string dropped = PinDropped(&house->ticket); !dropped.empty())
+    Note(options.name, dropped);
+  return true;
+}
+
+/// Choices of a queue's PPD become the settings that they stand for.
+bool Translate(const Options& options, HouseTicket* house) {
+  std::vector<FlatOption> plain;
+  for (const auto& [name, value] : house->ticket)
+    if (!name.starts_with("com.") && value.AsString() != nullptr)
+      plain.push_back({name, *value.AsString()});
+  if (plain.empty()) return true;
+  if (options.queue.empty())
+    return Fail(options.name, plain[0].name + " is an option of a queue, not of a ticket",
+                "-q QUEUE takes what it stands for there"),
+           false;
+  QueuePpd ppd;
+  if (const Failure failure = ppd.Fetch(options.queue); !failure.empty())
+    return Fail(options.queue, failure), false;
+  const OptionList list = OptionList::Parse(OptionText(plain).c_str());
+  std::vector<std::string> others, kept;
+  Dictionary ticket = TicketOfJob(list, ppd.path(), {}, &others, &kept);
+  if (!others.empty())
+    return Fail(options.name, others[0] + " cannot be kept in a ticket",
+                "It works before the filter; give it with each job"),
+           false;
+  std::erase_if(house->ticket, [](const auto& entry) { return !entry.first.starts_with("com."); });
+  MergeSettings(std::move(house->ticket), &ticket);
+  house->ticket = std::move(ticket);
+  return true;
+}
+
+bool AddDetails(const Options& options, HouseTicket* house) {
+  if (!options.basedOn.empty()) house->basedOn = options.basedOn;
+  for (const std::string& title : options.titles) {
+    const std::size_t equals = title.find('=');
+    if (equals == title.npos || equals == 0)
+      return Fail("--title", title + " is no LANGUAGE=TITLE, such as \"de=Diplomarbeit\""), false;
+    house->titles[title.substr(0, equals)] = title.substr(equals + 1);
+  }
+  if (!options.mayOverride.empty()) house->mayOverride.emplace();
+  for (const std::string& path : options.mayOverride)
+    if (path != "nothing") house->mayOverride->push_back(SettingPath(path));
+  for (const TicketFinding& finding : CheckTicket(house->ticket, /*whole=*/false))
+    Note(options.name, finding.place + ": " + finding.text);
+  return true;
+}
+
+/// Keeps the ticket when it can be resolved with it.
+int Keep(const Options& options, HouseTicketStore store, const HouseTicket& house) {
+  errno = 0;
+  const std::string fault = store.Change([&](HouseTicketStore* open) {
+    if (std::string put = open->Put(options.name, house); !put.empty()) return put;
+    HouseTicketStore shared = HouseTicketStore::Shared();
+    if (std::string read = open->shared() ? "" : shared.Read(); !read.empty()) return read;
+    ResolvedHouseTicket resolved;
+    return ResolveHouseTicket(options.name, FindIn({open, &shared}), &resolved);
+  });
+  return Changed(options.name, store, fault);
+}
+
+int Save(const Options& options) {
+  HouseTicket house;
+  if (!options.fromJob.empty()) {
+    if (!ReadFrom(options, &house)) return kExitFailure;
+  } else {
+    std::string text;
+    if (!ReadInput(options.file, &text)) return kExitFailure;
+    if (const std::string fault = ReadHouseTicket(text, &house); !fault.empty())
+      return Fail(options.file == "-" ? "(stdin)" : options.file, fault);
+  }
+  if (!Translate(options, &house) || !AddDetails(options, &house)) return kExitFailure;
+  return Keep(options, TargetStore(options), house);
+}
+
+int List(const Options& options) {
+  HouseStores stores;
+  if (const std::string fault = stores.Read(); !fault.empty()) return Fail("store", fault);
+  nlohmann::ordered_json json = nlohmann::ordered_json::array();
+  int status = kExitOk;
+  for (const HouseTicketStore* store : stores.All()) {
+    for (const std::string& name : store->Names()) {
+      HouseTicket house;
+      const std::string fault = store->Find(name, &house);
+      if (!fault.empty()) status = kExitFindings;
+      const char* place = store->shared() ? "everybody's" : "yours";
+      const std::string title = fault.empty() ? TitleOf(house, name) : fault;
+      json.push_back(
+          {{"name", name}, {"store", place}, {"title", title}, {"based-on", house.basedOn}});
+      if (options.json) continue;
+      const std::string base = house.basedOn.empty() ? "" : "\tbuilds on " + house.basedOn;
+      std::printf("%s\n", PrintableText(name).c_str());
+      std::printf("    %s, %s%s\n", place, PrintableText(title).c_str(),
+                  PrintableText(base).c_str());
+    }
+  }
+  if (options.json)
+    std::printf("%s\n", json.dump(2, ' ', false, nlohmann::json::error_handler_t::replace).c_str());
+  return status;
+}
+
+/// A ticket and all it builds on; false, having told why.
+bool Resolve(const std::string& name, ResolvedHouseTicket* resolved) {
+  HouseStores stores;
+  std::string fault = stores.Read();
+  if (fault.empty()) fault = ResolveHouseTicket(name, FindIn(stores.All()), resolved);
+  if (!fault.empty()) Fail(name, fault);
+  return fault.empty();
+}
+
+int Show(const Options& options) {
+  if (options.settings) {
+    ResolvedHouseTicket resolved;
+    if (!Resolve(options.name, &resolved)) return kExitFailure;
+    return WriteOutput(
+        "-", TicketToJson(options.secrets ? resolved.ticket : WithoutSecrets(resolved.ticket)));
+  }
+  HouseStores stores;
+  const HouseTicketStore* store = StoreOf(options, &stores);
+  if (store == nullptr) return kExitFailure;
+  HouseTicket house;
+  if (const std::string fault = store->Find(options.name, &house); !fault.empty())
+    return Fail(options.name, fault);
+  return WriteOutput("-", HouseTicketText(house, options.secrets));
+}
+
+int Edit(const Options& options) {
+  HouseStores stores;
+  HouseTicketStore* store = StoreOf(options, &stores);
+  HouseTicket house;
+  if (store == nullptr) return kExitFailure;
+  if (const std::string fault = store->Find(options.name, &house); !fault.empty())
+    return Fail(options.name, fault);
+  const std::unique_ptr<ScratchFolder> scratch = MakeScratchFolder();
+  if (!scratch) return kExitFailure;
+  const std::string file = scratch->File("ticket.json");
+  const std::string before = HouseTicketText(house, true);
+  if (!WriteFileAtomically(file, before, 0600)) return Fail(file, std::strerror(errno));
+  const char* editor = std::getenv("VISUAL");
+  if (editor == nullptr) editor = std::getenv("EDITOR");
+  // As every program does that starts one: the variable is a command line of the user's own.
+  const std::string command =
+      std::string(editor != nullptr && *editor != '\0' ? editor : "editor") + " " + file;
+  if (std::system(command.c_str()) != 0) return Fail(command, "failed; the ticket is as it was");
+  std::string after;
+  if (!ReadInput(file, &after)) return kExitFailure;
+  if (after == before) return kExitOk;
+  HouseTicket edited;
+  if (const std::string fault = ReadHouseTicket(after, &edited); !fault.empty())
+    return Fail(options.name, fault, "The ticket is as it was");
+  if (!Translate(options, &edited) || !AddDetails(options, &edited)) return kExitFailure;
+  return Keep(options, *store, edited);
+}
+
+/// The tickets of the store that build on this one.
+std::vector<std::string> Dependents(const HouseTicketStore& store, const std::string& name) {
+  std::vector<std::string> found;
+  for (const std::string& one : store.Names()) {
+    HouseTicket house;
+    if (store.Find(one, &house).empty() && house.basedOn == name) found.push_back(one);
+  }
+  return found;
+}
+
+int Remove(const Options& options) {
+  HouseStores stores;
+  HouseTicketStore* store = StoreOf(options, &stores);
+  if (store == nullptr) return kExitFailure;
+  errno = 0;
+  const std::string fault = store->Change([&](HouseTicketStore* open) -> std::string {
+    const std::vector<std::string> others = Dependents(*open, options.name);
+    if (!others.empty() && !options.force)
+      return "\"" + others[0] + "\" builds on it; change that one first, or give --force";
+    open->Remove(options.name);
+    return "";
+  });
+  return Changed(options.name, *store, fault);
+}
+
+int Rename(const Options& options) {
+  HouseStores stores;
+  HouseTicketStore* store = StoreOf(options, &stores);
+  if (store == nullptr) return kExitFailure;
+  errno = 0;
+  const std::string fault = store->Change([&](HouseTicketStore* open) -> std::string {
+    HouseTicket house;
+    if (std::string find = open->Find(options.name, &house); !find.empty()) return find;
+    if (open->Contains(options.other)) return "there is a \"" + options.other + "\" already";
+    if (std::string put = open->Put(options.other, house); !put.empty()) return put;
+    for (const std::string& name : Dependents(*open, options.name)) {
+      HouseTicket dependent;
+      open->Find(name, &dependent);
+      dependent.basedOn = options.other;
+      if (std::string put = open->Put(name, dependent); !put.empty()) return put;
+    }
+    open->Remove(options.name);
+    return "";
+  });
+  return Changed(options.name, *store, fault);
+}
+
+int Diff(const Options& options) {
+  ResolvedHouseTicket left, right;
+  if (!Resolve(options.name, &left) || !Resolve(options.other, &right)) return kExitFailure;
+  const std::vector<std::string> lines = TicketDifferences(left.ticket, right.ticket);
+  for (const std::string& line : lines) std::printf("%s\n", PrintableText(line).c_str());
+  return lines.empty() ? kExitOk : kExitFindings;
+}
+
+/// Jobs are printed from the shared store; so only what is there can be a queue's choice.
+int ChangeChoices(const Options& options, bool publish) {
+  QueuePpd queue;
+  if (const Failure failure = queue.Fetch(options.queue); !failure.empty())
+    return Fail(options.queue, failure);
+  std::string ppd;
+  if (!ReadInput(queue.path(), &ppd)) return kExitFailure;
+  HouseTicketStore shared = HouseTicketStore::Shared();
+  if (const std::string fault = shared.Read(); !fault.empty()) return Fail("store", fault);
+  if (publish) {
+    ResolvedHouseTicket resolved;
+    if (const std::string fault = ResolveHouseTicket(options.name, FindIn({&shared}), &resolved);
+        !fault.empty())
+      return Fail(options.name, fault,
+                  "A queue offers everybody's tickets: \"zarvo ticket save --shared\"");
+  }
+  std::string changed;
+  if (const std::string fault =
+          ChangePublishedTickets(ppd, options.name, publish, shared, &changed);
+      !fault.empty())
+    return Fail(options.queue, fault);
+  return InstallPpd(options.queue, changed);
+}
+
+int Publish(const Options& options) { return ChangeChoices(options, true); }
+int Unpublish(const Options& options) { return ChangeChoices(options, false); }
+
+}  // namespace
+
+void SetUpHouseTickets(CLI::App& app, Action* action) {
+  const auto options = std::make_shared<Options>();
+  const auto add = [&](const char* name, const char* summary, int (*run)(const Options&)) {
+    CLI::App* command = app.add_subcommand(name, summary);
+    command->callback([=] { *action = [=] { return run(*options); }; });
+    return command;
+  };
+  const auto add_name = [&](CLI::App* command, const char* what = "its name") {
+    command->add_option("name", options->name, what)->required();
+  };
+  CLI::App* save = add("save", "Keeps a ticket under a name", &Save);
+  add_name(save);
+  CLI::Option* file =
+      save->add_option("file", options->file, "settings in the readable form, or what show writes");
+  file->capture_default_str();
+  CLI::Option* job = save->add_option("--from-job", options->fromJob, "take those of this job");
+  file->excludes(job);
+  CLI::App* list = add("list", "Lists the tickets that are kept under a name", &List);
+  list->add_flag("--json", options->json, "for programs");
+  CLI::App* show = add("show", "Writes a ticket as save and edit take it", &Show);
+  add_name(show);
+  show->add_flag("--settings", options->settings,
+                 "all its settings, with those it builds on, as print takes them");
+  show->add_flag("--secrets", options->secrets, "show PIN and account instead of \"(hidden)\"");
+  CLI::App* edit = add("edit", "Opens a ticket in your editor", &Edit);
+  add_name(edit);
+  CLI::App* remove = add("remove", "Removes a ticket", &Remove);
+  add_name(remove);
+  remove->add_flag("--force", options->force, "even when others build on it");
+  CLI::App* rename = add("rename", "Gives a ticket another name", &Rename);
+  add_name(rename);
+  rename->add_option("new-name", options->other, "its new name")->required();
+  CLI::App* diff = add("diff", "Tells in which settings two tickets differ", &Diff);
+  add_name(diff, "one of them");
+  diff->add_option("other", options->other, "the other")->required();
+  for (CLI::App* command : {save, edit}) {
+    command->add_option("--based-on", options->basedOn, "ticket whose settings these go over");
+    command->add_option("--title", options->titles, "LANGUAGE=TITLE that dialogs show")
+        ->allow_extra_args(false);
+    command
+        ->add_option("--may-override", options->mayOverride,
+                     "setting that jobs may change, and no others; \"nothing\" for none")
+        ->allow_extra_args(false);
+    command->add_option("-q,--queue", options->queue,
+                        "queue whose options, such as Staple, the settings may name");
+  }
+  for (CLI::App* command : {save, show, edit, remove, rename}) {
+    CLI::Option* shared = command->add_flag("--shared", options->shared, "everybody's");
+    command->add_flag("--own", options->own, "your own")->excludes(shared);
+  }
+  CLI::App* publish = add("publish", "Offers a ticket in a queue's dialogs", &Publish);
+  CLI::App* unpublish = add("unpublish", "Takes a ticket out of them", &Unpublish);
+  for (CLI::App* command : {publish, unpublish}) {
+    add_name(command);
+    command->add_option("-q,--queue", options->queue, "queue, whose PPD is changed")->required();
+  }
+}
+
+}  // namespace zarvo::tool
