@@ -97,10 +97,16 @@ std::span<const Command> Commands() {
        "zarvo ticket decode options.txt > settings.json\n"
        "zarvo ticket check settings.json\n"
        "zarvo ticket keys | grep -i staple\n"
-       "zarvo ticket save payslips settings.json --title 'de=Lohnzettel'\n"
-       "zarvo ticket save reports --from-job office-12\n"
-       "zarvo ticket show thesis --settings\n"
-       "sudo zarvo ticket publish payslips -q office",
+       "sudo zarvo ticket save payslips settings.json --shared --title 'de=Lohnzettel'\n"
+       "zarvo ticket save reports --own --from-job office-1\n"
+       "zarvo ticket list\n"
+       "zarvo ticket show payslips --settings\n"
+       "zarvo ticket edit reports --own --title 'fr=Rapports'\n"
+       "zarvo ticket diff payslips reports\n"
+       "zarvo ticket rename reports weekly --own\n"
+       "zarvo ticket remove weekly --own\n"
+       "sudo zarvo ticket publish payslips -q office\n"
+       "sudo zarvo ticket unpublish payslips -q office",
        &SetUpTicket},
       {"print", "Print with settings in the readable form",
        "zarvo print report.pdf -d office settings.json\n"

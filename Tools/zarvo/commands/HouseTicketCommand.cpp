@@ -219,7 +219,10 @@ int Show(const Options& options) {
   return WriteOutput("-", HouseTicketText(house, options.secrets));
 }
 
+/// In the editor, unless the command line says all that is to change.
 int Edit(const Options& options) {
+  const bool said =
+      !options.titles.empty() || !options.basedOn.empty() || !options.mayOverride.empty();
   HouseStores stores;
   HouseTicketStore* store = StoreOf(options, &stores);
   HouseTicket house;
@@ -236,10 +239,11 @@ int Edit(const Options& options) {
   // As every program does that starts one: the variable is a command line of the user's own.
   const std::string command =
       std::string(editor != nullptr && *editor != '\0' ? editor : "editor") + " " + file;
-  if (std::system(command.c_str()) != 0) return Fail(command, "failed; the ticket is as it was");
+  if (!said && std::system(command.c_str()) != 0)
+    return Fail(command, "failed; the ticket is as it was");
   std::string after;
   if (!ReadInput(file, &after)) return kExitFailure;
-  if (after == before) return kExitOk;
+  if (after == before && !said) return kExitOk;
   HouseTicket edited;
   if (const std::string fault = ReadHouseTicket(after, &edited); !fault.empty())
     return Fail(options.name, fault, "The ticket is as it was");
@@ -355,7 +359,7 @@ void SetUpHouseTickets(CLI::App& app, Action* action) {
   show->add_flag("--settings", options->settings,
                  "all its settings, with those it builds on, as print takes them");
   show->add_flag("--secrets", options->secrets, "show PIN and account instead of \"(hidden)\"");
-  CLI::App* edit = add("edit", "Opens a ticket in your editor", &Edit);
+  CLI::App* edit = add("edit", "Changes a ticket, in your editor where no option says how", &Edit);
   add_name(edit);
   CLI::App* remove = add("remove", "Removes a ticket", &Remove);
   add_name(remove);
