@@ -12,15 +12,13 @@ import os
 import pathlib
 import plistlib
 import shutil
-import struct
 import subprocess
 import sys
 import tempfile
-import zlib
 
 SOURCE = pathlib.Path(__file__).resolve().parent.parent
-sys.path.insert(0, str(SOURCE / "tests/system"))
-from pictures import read_png  # noqa: E402
+sys.dont_write_bytecode = True
+from picture_rows import read_rows, write_png  # noqa: E402
 
 BESIDE = {"confidential": ["JobPIN=Custom.0391"],
           "fax-cover": ["FaxNumber=Custom.0911-4711", "FaxRecipient=Custom.Ada", "FaxNotes=Custom.As\\ agreed"]}  # fmt: skip
@@ -41,20 +39,6 @@ JOB = """%!PS-Adobe-3.0
   showpage
 } for
 """
-
-
-def rows_of(picture):
-    step = 3 * picture.width
-    return [picture.pixels[start : start + step] for start in range(0, len(picture.pixels), step)]
-
-
-def write_png(rows):
-    def chunk(kind, data):
-        return struct.pack(">I", len(data)) + kind + data + struct.pack(">I", zlib.crc32(kind + data))
-
-    head = struct.pack(">IIBBBBB", len(rows[0]) // 3, len(rows), 8, 2, 0, 0, 0)
-    data = zlib.compress(b"".join(b"\0" + row for row in rows), 9)
-    return b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", head) + chunk(b"IDAT", data) + chunk(b"IEND", b"")
 
 
 def strip(sides):
@@ -85,7 +69,7 @@ def main():
             subprocess.run([tool, "preview", job, "-p", ppd, "--ticket", name, *words, "--resolution", "26",
                             "--output", scratch / f"{name}.png"], env=environment)  # fmt: skip
             files = sorted(scratch.glob(f"{name}-*.png"), key=lambda file: int(file.stem.split("-")[-1]))
-            sides = [rows_of(read_png(file)) for file in files or [scratch / f"{name}.png"]]
+            sides = [read_rows(file) for file in files or [scratch / f"{name}.png"]]
             (folder / f"house-{name}.png").write_bytes(write_png(strip(sides[:MOST_SIDES])))
 
 

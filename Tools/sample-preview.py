@@ -13,8 +13,8 @@ import sys
 import tempfile
 
 SOURCE = pathlib.Path(__file__).resolve().parent.parent
-sys.path.insert(0, str(SOURCE / "tests/system"))
-from pictures import read_png, write_png  # noqa: E402
+sys.dont_write_bytecode = True
+from picture_rows import read_rows, write_png  # noqa: E402
 
 STORE = "com.zarvo.printing.watermarks.plist"
 JOB = """%!PS-Adobe-3.0
@@ -49,7 +49,7 @@ def main():
         options += "Watermark=DRAFT WMPlace=Background"
         subprocess.run([tool, "preview", job, "-p", ppd, "-o", options, "--resolution", "48",
                         "--output", pathlib.Path(scratch, "side.png")], check=True)
-        sides = [turned(read_png(pathlib.Path(scratch, f"side-{n}.png"))) for n in range(1, 5)]
+        sides = [read_rows(pathlib.Path(scratch, f"side-{n}.png")) for n in range(1, 5)]
     gap = [b"\xd0" * len(sides[0][0] * 2 + GAP)] * 8
     upper, lower = ([left + GAP + right for left, right in zip(*pair)]
                     for pair in (sides[:2], sides[2:]))
@@ -57,12 +57,6 @@ def main():
 
 
 GAP = b"\xd0" * 24
-
-
-def turned(rows):
-    """A quarter turn to the left: the pages of a booklet lie on their right side."""
-    width = len(rows[0])
-    return [b"".join(row[x : x + 3] for row in rows) for x in range(width - 3, -1, -3)]
 
 
 if __name__ == "__main__":
