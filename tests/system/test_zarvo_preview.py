@@ -149,6 +149,7 @@ class Spooler(ZarvoTest):
             self.run_zarvo("print", job, settings, "-d", "office", "-o", "sides=one-sided", "-n", "2")
             self.environment["PATH"] = path
             told = self.run_zarvo("explain", stdin=printer.wait())
+            self.assertIn("  copies: 2\n", told)
             self.run_zarvo("print", job, self.path("bad.json", '{"JobType": {"SecurePrintPassword": "qwerty"}}'),
                            "-d", "office", status=2)
             self.assertIn("4 to 10 digits", self.errors)
@@ -156,7 +157,9 @@ class Spooler(ZarvoTest):
             self.assertIn("message to the operator: a \"b\" 'c' \\ {d}, \u00e9", told)
             plan = self.run_zarvo("preview", job, "-s", settings, "-q", "office", "--output", "x.pdf")
             self.assertIn("2 pages on 2 sheets", plan)
-            self.run_zarvo("preview", job, "-q", "nowhere", status=2)
+            for command in ("preview", job, "-q", "ofice"), ("print", job, "-d", "ofice"):
+                self.run_zarvo(*command, status=2)
+                self.assertIn("ofice: there is no such queue; did you mean office?", self.errors)
             faulty = self.path("faulty.json", {"siides": "one-sided"})
             self.run_zarvo("print", job, faulty, "-d", "office", status=2)
             self.assertIn("siides: unknown option; did you mean sides?", self.errors)

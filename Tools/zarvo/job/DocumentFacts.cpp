@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cstdlib>
+#include <cstring>
 
 namespace zarvo::tool {
 namespace {
@@ -122,6 +123,10 @@ void DocumentReader::Comment(std::string_view line) {
     in_header_ = false;
   } else if (line.starts_with("%%Pages:") && facts.announced == 0) {
     facts.announced = NumberOf(line.substr(line.find(':') + 1));
+  } else if (const std::size_t copies = line.find("NumCopies ");
+             copies != line.npos && Contains(line, "BeginNonPPDFeature:")) {
+    // As the spooler's own filter has it, whose code puts the number on a line without the name.
+    SetCopies(NumberOf(line.substr(copies + std::strlen("NumCopies "))));
   } else if (line.starts_with("%%EOF")) {
     facts.ended = true;
   } else if (line.starts_with("%%ZRVPagelet:")) {
@@ -195,11 +200,15 @@ void DocumentReader::Setting(std::string_view line) {
     facts.two_sided = line.substr(key).starts_with("/Duplex true");
   for (const std::string_view name : {"/NumCopies ", "/#copies "}) {
     const std::size_t key = line.find(name);
-    if (key == std::string_view::npos) continue;
-    constexpr std::uint64_t kMost = 1'000'000;
-    const std::uint64_t copies = NumberOf(line.substr(key + name.size()));
-    if (copies > 0) facts.copies = static_cast<int>(std::min(copies, kMost));
+    // Of several numbers the first is no count of copies, but how far the stack is rolled.
+    if (key != line.npos && !Contains(line.substr(key), " roll"))
+      SetCopies(NumberOf(line.substr(key + name.size())));
   }
+}
+
+void DocumentReader::SetCopies(std::uint64_t copies) {
+  constexpr std::uint64_t kMost = 1'000'000;
+  if (copies > 0) facts_->copies = static_cast<int>(std::min(copies, kMost));
 }
 
 void DocumentReader::Add(MarkFacts mark) {

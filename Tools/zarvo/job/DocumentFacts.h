@@ -68,6 +68,7 @@ class DocumentReader {
   void MarkInPage(std::string_view line);
   void PageSize(std::string_view line);
   void Setting(std::string_view line);
+  void SetCopies(std::uint64_t copies);
   void Add(MarkFacts mark);
 
   PostScriptFacts* facts_;

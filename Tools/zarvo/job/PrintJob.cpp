@@ -41,7 +41,7 @@ void AddDefaults(const std::string& queue, OptionList* options) {
 }
 
 int SpoolerFault(const std::string& queue) {
-  return Fail(queue, cupsLastErrorString(), "\"lpstat -e\" lists the queues");
+  return Fail(queue, QueueFault(queue), "\"lpstat -e\" lists the queues");
 }
 
 std::string BaseName(const std::string& file) {

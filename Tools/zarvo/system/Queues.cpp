@@ -6,7 +6,10 @@
 #include <cups/cups.h>
 #include <cups/ppd.h>
 
+#include <algorithm>
 #include <fstream>
+
+#include "Source/NearestName.h"
 
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
 
@@ -32,7 +35,7 @@ Failure QueuePpd::Fetch(const std::string& queue) {
   const Connection spooler = Connect();
   if (!spooler) return kNoAnswer;
   const char* path = cupsGetPPD2(spooler.get(), queue.c_str());
-  if (path == nullptr) return cupsLastErrorString();
+  if (path == nullptr) return QueueFault(queue);
   path_ = path;
   return "";
 }
@@ -52,6 +55,16 @@ Failure ListQueues(std::vector<std::string>* names) {
   }
   cupsFreeDests(count, destinations);
   return "";
+}
+
+std::string QueueFault(const std::string& queue) {
+  std::string told = cupsLastErrorString();
+  while (told.ends_with('.')) told.pop_back();
+  std::vector<std::string> names;
+  if (!ListQueues(&names).empty() || names.empty()) return told;
+  if (std::find(names.begin(), names.end(), queue) != names.end()) return told;
+  const std::string nearest = NearestName(queue, names);
+  return "there is no such queue" + (nearest.empty() ? "" : "; did you mean " + nearest + "?");
 }
 
 std::string DefaultQueue() {

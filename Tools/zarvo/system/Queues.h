@@ -30,6 +30,10 @@ class QueuePpd {
 /// The names of the spooler's queues.
 Failure ListQueues(std::vector<std::string>* names);
 
+/// Why nothing can be had from a queue: that there is none of this name, and which may have been
+/// meant, or else the spooler's last answer.
+std::string QueueFault(const std::string& queue);
+
 /// The queue that jobs go to when none is named, or an empty text.
 std::string DefaultQueue();
 
