@@ -36,7 +36,9 @@ FILE $filename
 STATUS successful-ok
 }}
 """
-ANY = [chr(c) for c in range(0x21, 0x7F)] + ["\u00e9t\u00e9", "\u65e5\u672c", "a b", "thesis2", "Thesis"]
+# Each character, several in a name; those that end something in a PPD by themselves too.
+ANY = ["".join(map(chr, range(c, min(c + 6, 0x7F)))) for c in range(0x21, 0x7F, 6)] + [*'"%*-./:<aA']
+ANY += ["\u00e9t\u00e9", "\u65e5\u672c", "a b", "thesis2", "Thesis"]
 
 
 class HouseTickets(unittest.TestCase):
