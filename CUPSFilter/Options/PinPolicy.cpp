@@ -341,7 +341,7 @@ bool AsksForSecrecy(const JobRequest& request, const Dictionary& ticket) {
       !UnreadableJobType(request, ticket).empty())
     return true;
   if (WantsSecure(request) || FindAlike(request.own, kFaxNumberOption) != nullptr) return true;
-  const std::optional<std::int32_t> type = TypeIn(ticket);
+  const std::int32_t type = TypeIn(ticket).value_or(kJobTypeNormal);
   return type == kJobTypeSecure || type == kJobTypeFax ||
          DictionaryContains(ticket, key::kFaxRecipientList);
 }
