@@ -18,27 +18,12 @@ import tempfile
 
 SOURCE = pathlib.Path(__file__).resolve().parent.parent
 sys.dont_write_bytecode = True
-from picture_rows import read_rows, write_png  # noqa: E402
+from sample_pictures import read_rows, sample_job, write_png  # noqa: E402
 
 BESIDE = {"confidential": ["JobPIN=Custom.0391"],
           "fax-cover": ["FaxNumber=Custom.0911-4711", "FaxRecipient=Custom.Ada", "FaxNotes=Custom.As\\ agreed"]}  # fmt: skip
 MOST_SIDES = 6
 GAP, BORDER = 16, b"\xd0"
-JOB = """%!PS-Adobe-3.0
-<< /PageSize [595 842] >> setpagedevice
-1 1 6 {
-  /page exch def
-  0.2 0.35 0.55 setrgbcolor 90 690 415 70 rectfill
-  1 setgray /Helvetica-Bold 44 selectfont 110 710 moveto (Page ) show page 10 string cvs show
-  0.6 setgray
-  0 1 24 {
-    /line exch def
-    90 640 line 22 mul sub
-    line page add 9 mod 8 eq { 170 } { 415 line page 3 mul add 5 mod 13 mul sub } ifelse 8 rectfill
-  } for
-  showpage
-} for
-"""
 
 
 def strip(sides):
@@ -63,7 +48,7 @@ def main():
             shutil.copy(SOURCE / f"ppd/{name}.plist", data / f"com.zarvo.printing.{name}.plist")
         environment = {**os.environ, "ZARVO_APPLICATION_SUPPORT": str(scratch), "HOME": str(scratch)}
         job = scratch / "report.pdf"
-        subprocess.run(["gs", "-q", "-o", job, "-sDEVICE=pdfwrite", "-"], input=JOB.encode(), check=True)
+        subprocess.run(["gs", "-q", "-o", job, "-sDEVICE=pdfwrite", "-"], input=sample_job(6), check=True)
         for name in plistlib.loads((SOURCE / "ppd/housetickets.plist").read_bytes()):
             words = [word for one in BESIDE.get(name, []) for word in ("-o", one)]
             subprocess.run([tool, "preview", job, "-p", ppd, "--ticket", name, *words, "--resolution", "26",

@@ -14,24 +14,9 @@ import tempfile
 
 SOURCE = pathlib.Path(__file__).resolve().parent.parent
 sys.dont_write_bytecode = True
-from picture_rows import read_rows, write_png  # noqa: E402
+from sample_pictures import read_rows, sample_job, write_png  # noqa: E402
 
 STORE = "com.zarvo.printing.watermarks.plist"
-JOB = """%!PS-Adobe-3.0
-<< /PageSize [595 842] >> setpagedevice
-1 1 8 {
-  /page exch def
-  0.2 0.35 0.55 setrgbcolor 60 690 475 84 rectfill
-  1 setgray /Helvetica-Bold 44 selectfont 80 716 moveto (Page ) show page 10 string cvs show
-  0.72 setgray
-  0 1 26 {
-    /line exch def
-    60 640 line 21 mul sub
-    line page add 9 mod 8 eq { 190 } { 475 line page 3 mul add 5 mod 13 mul sub } ifelse 7 rectfill
-  } for
-  showpage
-} for
-"""
 
 
 def main():
@@ -43,7 +28,7 @@ def main():
         shutil.copy(SOURCE / "ppd/watermarks.plist", data / STORE)
         os.environ["ZARVO_APPLICATION_SUPPORT"] = scratch
         job = pathlib.Path(scratch, "brochure.pdf")
-        subprocess.run(["gs", "-q", "-o", job, "-sDEVICE=pdfwrite", "-"], input=JOB.encode(),
+        subprocess.run(["gs", "-q", "-o", job, "-sDEVICE=pdfwrite", "-"], input=sample_job(8),
                        check=True)
         options = "media=A4 BookletLayout=LeftToRight BookletOutline=Frame "
         options += "Watermark=DRAFT WMPlace=Background"

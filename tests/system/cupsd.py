@@ -44,6 +44,23 @@ def free_port():
         probe.bind(("127.0.0.1", 0))
         return probe.getsockname()[1]
 
+REQUEST = """{{
+OPERATION Print-Job
+VERSION 2.0
+GROUP operation-attributes-tag
+ATTR charset attributes-charset utf-8
+ATTR naturalLanguage attributes-natural-language en
+ATTR uri printer-uri $uri
+ATTR name requesting-user-name {user}
+ATTR name job-name "{title}"
+{operation}
+GROUP job-attributes-tag
+{job}
+FILE $filename
+STATUS successful-ok
+}}
+"""
+
 
 class Printer:
     """Plays the printer: takes raw jobs on a loopback port, one connection a job."""
@@ -220,6 +237,13 @@ PreserveJobFiles No
         """Sends a file; gives the job's number."""
         answer = self.run("lp", "-d", queue, *options, str(file))
         return int(answer.split("-")[-1].split()[0])
+
+    def request(self, queue, file, attributes, user, title, operation=""):
+        """Sends a file as IPP clients do; `attributes` and `operation` are lines of a request of ipptool's."""
+        request = self.root / "request.test"
+        request.write_text(REQUEST.format(user=user, title=title, operation=operation, job=attributes))
+        self.run("ipptool", "-t", "-f", str(file),
+                 f"ipp://127.0.0.1:{self.port}/printers/{queue}", str(request))  # fmt: skip
 
     def wait_until_done(self, job, timeout=60):
         """Until the job waits for nothing any more: it is printed, or was stopped."""

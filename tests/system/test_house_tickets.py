@@ -20,22 +20,6 @@ PPD = BIN.parent / "ppd/zarvo.ppd"
 SHIPPED = plistlib.loads((SOURCE / "ppd/housetickets.plist").read_bytes())
 # What a ticket leaves to whoever prints.
 BESIDE = {"confidential": "JobPIN=Custom.0391", "fax-cover": "FaxNumber=Custom.0911-4711"}
-TEMPLATE = """{{
-OPERATION Print-Job
-VERSION 2.0
-GROUP operation-attributes-tag
-ATTR charset attributes-charset utf-8
-ATTR naturalLanguage attributes-natural-language en
-ATTR uri printer-uri $uri
-ATTR name requesting-user-name {user}
-ATTR name job-name four.ps
-GROUP job-attributes-tag
-ATTR collection finishings-col {{ MEMBER keyword finishing-template {name} }}
-{beside}
-FILE $filename
-STATUS successful-ok
-}}
-"""
 # Each character, several in a name; those that end something in a PPD by themselves too.
 ANY = ["".join(map(chr, range(c, min(c + 6, 0x7F)))) for c in range(0x21, 0x7F, 6)] + [*'"%*-./:<aA']
 ANY += ["\u00e9t\u00e9", "\u65e5\u672c", "a b", "thesis2", "Thesis"]
@@ -126,10 +110,10 @@ class HouseTickets(unittest.TestCase):
                 self.assertEqual(self.lp("driverless", f"HouseTicket={name}", *beside), wanted, "driverless")
                 self.zarvo("print", str(self.document), "-d", "office", "--ticket", name, *words)
                 self.assertEqual(self.head(), wanted, "zarvo print --ticket")
-                request = self.folder / "request.test"
-                ipp = "".join("ATTR name {} {}".format(*one.split("=")) for one in beside)
-                request.write_text(TEMPLATE.format(name=name, beside=ipp, user=getpass.getuser()))
-                self.cupsd.run("ipptool", "-t", "-f", str(self.document), self.uri, str(request))
+                ipp = [f"ATTR collection finishings-col {{ MEMBER keyword finishing-template {name} }}",
+                       *("ATTR name {} {}".format(*one.split("=")) for one in beside)]  # fmt: skip
+                self.cupsd.request("office", self.document, "\n".join(ipp), getpass.getuser(),
+                                   self.document.name)  # fmt: skip
                 self.assertEqual(self.head(), wanted, "finishing template")
                 dialog = ["/usr/bin/python3", str(SOURCE / "tests/system/gtk_dialog.py"), "office",
                           entry["Titles"]["en"], *("cups-" + one for one in beside)]  # fmt: skip

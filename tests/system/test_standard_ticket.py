@@ -36,22 +36,6 @@ DOCUMENT = """%!PS-Adobe-3.0
 72 72 moveto 288 0 rlineto stroke showpage
 %%EOF
 """
-REQUEST = """{{
-OPERATION Print-Job
-VERSION 2.0
-GROUP operation-attributes-tag
-ATTR charset attributes-charset utf-8
-ATTR naturalLanguage attributes-natural-language en
-ATTR uri printer-uri $uri
-ATTR name requesting-user-name alice
-ATTR name job-name "the job"
-{operation}
-GROUP job-attributes-tag
-{job}
-FILE $filename
-STATUS successful-ok
-}}
-"""
 
 
 # What a queue offers: how one value is asked for, and how many there are at least.
@@ -119,10 +103,8 @@ class Spooler(unittest.TestCase):
         lines = text.strip().splitlines()
         operation = [line.replace("OPERATION", "ATTR") for line in lines if "OPERATION" in line]
         job = [line for line in lines if "OPERATION" not in line]
-        request = self.folder / "request.test"
-        request.write_text(REQUEST.format(operation="\n".join(operation), job="\n".join(job)))
-        self.cupsd.run("ipptool", "-t", "-f", str(self.document),
-                       f"ipp://127.0.0.1:{self.cupsd.port}/printers/zarvo", str(request))  # fmt: skip
+        self.cupsd.request("zarvo", self.document, "\n".join(job), "alice", "the job",
+                           "\n".join(operation))  # fmt: skip
 
     def lp(self, text):
         options = [word for option in re.findall(r"(?:[^ \\]|\\.)+", text) for word in ("-o", option)]

@@ -10,29 +10,14 @@
 #include <fstream>
 
 #include "Source/NearestName.h"
+#include "Tools/zarvo/system/Spooler.h"
 
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
 
 namespace zarvo::tool {
 
-namespace {
-
-using Connection = std::unique_ptr<http_t, decltype(&httpClose)>;
-
-constexpr char kNoAnswer[] =
-    "the spooler does not answer; start it, for example with \"systemctl start cups\"";
-
-Connection Connect() {
-  constexpr int kMilliseconds = 10'000;
-  http_t* spooler = httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
-                                 kMilliseconds, nullptr);
-  return {spooler, &httpClose};
-}
-
-}  // namespace
-
 Failure QueuePpd::Fetch(const std::string& queue) {
-  const Connection spooler = Connect();
+  const SpoolerConnection spooler = ConnectToSpooler();
   if (!spooler) return kNoAnswer;
   const char* path = cupsGetPPD2(spooler.get(), queue.c_str());
   if (path == nullptr) return QueueFault(queue);
@@ -46,7 +31,7 @@ QueuePpd::~QueuePpd() {
 }
 
 Failure ListQueues(std::vector<std::string>* names) {
-  const Connection spooler = Connect();
+  const SpoolerConnection spooler = ConnectToSpooler();
   if (!spooler) return kNoAnswer;
   cups_dest_t* destinations = nullptr;
   const int count = cupsGetDests2(spooler.get(), &destinations);
@@ -88,7 +73,7 @@ std::vector<std::string> OptionWords(const std::string& path, bool values) {
 }
 
 std::string QueueDefault(const std::string& queue, const std::string& option) {
-  const Connection spooler = Connect();
+  const SpoolerConnection spooler = ConnectToSpooler();
   if (!spooler) return "";
   char uri[HTTP_MAX_URI];
   httpAssembleURIf(HTTP_URI_CODING_ALL, uri, sizeof uri, "ipp", nullptr, "localhost", 0,

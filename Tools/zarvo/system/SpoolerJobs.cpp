@@ -9,13 +9,11 @@
 #include <string_view>
 
 #include "CUPSFilter/JobNotices.h"
+#include "Tools/zarvo/system/Spooler.h"
 
 namespace zarvo::tool {
 namespace {
 
-struct HttpCloser {
-  void operator()(http_t* http) const { httpClose(http); }
-};
 struct IppDeleter {
   void operator()(ipp_t* ipp) const { ippDelete(ipp); }
 };
@@ -71,10 +69,8 @@ SpoolerJob Newest(ipp_t* answer) {
 }  // namespace
 
 Failure FindSpoolerJob(int number, SpoolerJob* job) {
-  constexpr int kMilliseconds = 10'000;
-  const std::unique_ptr<http_t, HttpCloser> spooler(httpConnect2(
-      cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, kMilliseconds, nullptr));
-  if (!spooler) return "the spooler does not answer";
+  const SpoolerConnection spooler = ConnectToSpooler();
+  if (!spooler) return kNoAnswer;
   const Answer answer =
       Ask(spooler.get(), number != 0 ? IPP_OP_GET_JOB_ATTRIBUTES : IPP_OP_GET_JOBS, number);
   SpoolerJob found;

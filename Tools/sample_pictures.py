@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: Apache-2.0
-"""Pictures as lists of rows, each three bytes a pixel, for those that put several together."""
+"""For pictures of previews: a document, and pictures as lists of rows, each three bytes a pixel."""
 
 import pathlib
 import struct
@@ -8,6 +8,28 @@ import zlib
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "tests/system"))
 from pictures import read_png  # noqa: E402
+
+
+JOB = """%%!PS-Adobe-3.0
+<< /PageSize [595 842] >> setpagedevice
+1 1 %d {
+  /page exch def
+  0.2 0.35 0.55 setrgbcolor 60 690 475 84 rectfill
+  1 setgray /Helvetica-Bold 44 selectfont 80 716 moveto (Page ) show page 10 string cvs show
+  0.72 setgray
+  0 1 26 {
+    /line exch def
+    60 640 line 21 mul sub
+    line page add 9 mod 8 eq { 190 } { 475 line page 3 mul add 5 mod 13 mul sub } ifelse 7 rectfill
+  } for
+  showpage
+} for
+"""
+
+
+def sample_job(pages):
+    """A report whose lines differ from page to page."""
+    return (JOB % pages).encode()
 
 
 def read_rows(path):

@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Tools/zarvo/system/Spooler.h"
+
+namespace zarvo::tool {
+
+SpoolerConnection ConnectToSpooler() {
+  constexpr int kMilliseconds = 10'000;
+  http_t* spooler = httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
+                                 kMilliseconds, nullptr);
+  return {spooler, &httpClose};
+}
+
+}  // namespace zarvo::tool
