@@ -13,7 +13,6 @@
 #include <filesystem>
 #include <memory>
 #include <thread>
-#include <tuple>
 
 #include "CUPSFilter/Options/PpdTicket.h"
 #include "Platform/Log.h"
@@ -22,7 +21,7 @@
 #include "Tools/zarvo/job/Findings.h"
 #include "Tools/zarvo/job/JobOptions.h"
 #include "Tools/zarvo/job/Notes.h"
-#include "Tools/zarvo/job/Sheets.h"
+#include "Tools/zarvo/job/SheetPlan.h"
 #include "Tools/zarvo/system/Convert.h"
 #include "Tools/zarvo/system/DrawSheets.h"
 #include "Tools/zarvo/system/Queues.h"
@@ -185,7 +184,7 @@ class Preview {
     {
       progress->Stage("Drawing the first pages");
       const std::vector<DrawnPage> pages = DrawFirstPages(split, *scratch_);
-      ahead = ArrangeSides(pages, report_.job.postscript.pages);
+      ahead = SidesOf(PlanSheets(report_, report_.job.postscript.pages), pages, NotesOn(report_));
       while (shown < ahead.size() && !(ahead[shown].file.empty() && ahead[shown].text.empty()))
         ++shown;
       if (pages.empty()) shown = 0;
@@ -235,7 +234,7 @@ class Preview {
         split, *scratch_, [&] { progress->Count(++done, total); }, &report_.looks);
     if (pages.empty()) return NoPage();
     LookForMarks(split, progress);
-    sides_ = ArrangeSides(pages, pages.size());
+    sides_ = SidesOf(PlanSheets(report_, pages.size()), pages, NotesOn(report_));
     return "";
   }
 
@@ -256,82 +255,6 @@ class Preview {
     }
   }
 
-  /// The sides in their order, with a sheet for each blank cover and each insert among the pages.
-  /// In a booklet the pages of the document are not those of the sheets: there they are only noted.
-  /// `total` is how many pages there will be; of those that are missing the side has no file.
-  std::vector<SheetSide> ArrangeSides(const std::vector<DrawnPage>& pages, std::uint64_t total) {
-    const PostScriptFacts& facts = report_.job.postscript;
-    std::vector<SheetSide> sides;
-    std::size_t next = 0;
-    const auto add_pages = [&](std::uint64_t to) {
-      for (; next < to; ++next) {
-        SheetSide side;
-        if (next < pages.size()) {
-          side.file = pages[next].file;
-          side.page = pages[next].page;
-        }
-        if (facts.booklet) side.turn = facts.booklet_reversed ? 90 : 270;
-        sides.push_back(std::move(side));
-      }
-    };
-    const auto add_sheets = [&](SpecialSheet::Place place) {
-      std::vector<const SpecialSheet*> here;
-      for (const SpecialSheet& sheet : special_) {
-        if (sheet.place == place && sheet.blank && !facts.booklet) here.push_back(&sheet);
-      }
-      std::stable_sort(here.begin(), here.end(),
-                       [](const auto* a, const auto* b) { return a->after_page < b->after_page; });
-      for (const SpecialSheet* sheet : here) {
-        if (place == SpecialSheet::Place::kInsert)
-          add_pages(std::min<std::uint64_t>(sheet->after_page, total));
-        SheetSide side;
-        side.text = sheet->text;
-        std::tie(side.width, side.height) = MainSize();
-        sides.push_back(std::move(side));
-      }
-    };
-    add_sheets(SpecialSheet::Place::kFront);
-    const std::size_t front = sides.size();
-    add_sheets(SpecialSheet::Place::kInsert);
-    add_pages(total);
-    add_sheets(SpecialSheet::Place::kBack);
-    AddNotes(front, &sides);
-    return sides;
-  }
-
-  /// `front` is where the first page's side is at the earliest.
-  void AddNotes(std::size_t front, std::vector<SheetSide>* sides) const {
-    for (const PageNote& note : NotesOn(report_)) {
-      std::uint64_t page = 0;
-      for (std::size_t i = front; i < sides->size(); ++i) {
-        SheetSide& side = (*sides)[i];
-        if (!side.text.empty()) continue;
-        ++page;
-        if (page == note.page || report_.job.postscript.booklet) {
-          side.notes.push_back(note.text);
-          break;
-        }
-      }
-    }
-  }
-
-  /// The size that most pages have.
-  std::pair<int, int> MainSize() const {
-    const auto& sizes = report_.job.postscript.page_sizes;
-    const auto most =
-        std::max_element(sizes.begin(), sizes.end(),
-                         [](const auto& a, const auto& b) { return a.second < b.second; });
-    return most == sizes.end() ? std::pair(612, 792) : most->first;
-  }
-
-  bool TwoSided() const {
-    if (report_.job.postscript.booklet || report_.job.postscript.two_sided) return true;
-    const std::vector<Statement>& statements = report_.ticket.statements;
-    return std::any_of(statements.begin(), statements.end(), [](const auto& s) {
-      return s.code == "sides" && s.level == 0 && s.value.starts_with("two");
-    });
-  }
-
   /// The files that have been written.
   std::string Written() const {
     if (!WantsPictures()) return options_.output;
@@ -343,7 +266,7 @@ class Preview {
   void PrintPlan() const {
     const PostScriptFacts& facts = report_.job.postscript;
     const std::uint64_t pages = DrawnPages(report_);
-    const std::uint64_t sheets = TwoSided() ? (pages + 1) / 2 : pages;
+    const std::uint64_t sheets = IsTwoSided(report_) ? (pages + 1) / 2 : pages;
     const auto plural = [](std::uint64_t count, const char* what) {
       return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
     };
