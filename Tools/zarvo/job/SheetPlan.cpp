@@ -84,9 +84,8 @@ FinishingCodes ReadFinishings(const Explanation& ticket) {
 /// The size that most pages have.
 std::pair<int, int> MainSize(const JobReport& report) {
   const auto& sizes = report.job.postscript.page_sizes;
-  const auto most = std::max_element(sizes.begin(), sizes.end(), [](const auto& a, const auto& b) {
-    return a.second < b.second;
-  });
+  const auto most = std::max_element(
+      sizes.begin(), sizes.end(), [](const auto& a, const auto& b) { return a.second < b.second; });
   return most == sizes.end() ? std::pair(612, 792) : most->first;
 }
 
@@ -110,8 +109,9 @@ class Planner {
     AddSheets(SpecialSheet::Place::kBack);
     MarkPrintedCovers();
     const bool slips = std::any_of(
-        report_.ticket.statements.begin(), report_.ticket.statements.end(),
-        [](const auto& s) { return s.code == "separator-sheets-type" && s.value == "slip-sheets"; });
+        report_.ticket.statements.begin(), report_.ticket.statements.end(), [](const auto& s) {
+          return s.code == "separator-sheets-type" && s.value == "slip-sheets";
+        });
     if (slips) AddBlank(PlannedSide::Kind::kSlipSheet, "slip sheet after the set", 1);
     plan_.sheets = sheet_;
     return std::move(plan_);

@@ -21,8 +21,9 @@ namespace zarvo::tool {
 struct PlannedSide {
   enum class Kind : std::uint8_t { kPage, kCover, kInsert, kSlipSheet };
   Kind kind = Kind::kPage;
-  std::uint64_t page = 0;   ///< which of the pages that come out, from 1; 0 where nothing is printed
-  std::uint64_t sheet = 0;  ///< of the set, from 1; an insert of several sheets takes as many numbers
+  std::uint64_t page = 0;  ///< which of the pages that come out, from 1; 0 where nothing is printed
+  std::uint64_t sheet =
+      0;  ///< of the set, from 1; an insert of several sheets takes as many numbers
   bool front = true;
   unsigned count = 1;     ///< sheets that are all alike
   std::string stock;      ///< its paper in words, where it is not the job's
@@ -50,8 +51,8 @@ struct SheetPlan {
 /// Whether the job is printed on both sides of its sheets.
 bool IsTwoSided(const JobReport& report);
 
-/// The plan of a job of which so many pages come out. In a booklet the pages of the document are not
-/// those of the sheets: there, covers and inserts are only listed as `special`.
+/// The plan of a job of which so many pages come out. In a booklet the pages of the document are
+/// not those of the sheets: there, covers and inserts are only listed as `special`.
 SheetPlan PlanSheets(const JobReport& report, std::uint64_t pages);
 
 /// The sides of the plan with the drawn pages on them, for a picture: each blank cover and insert

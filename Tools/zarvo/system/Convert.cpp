@@ -7,6 +7,7 @@
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
+#include <filesystem>
 #include <fstream>
 #include <optional>
 
@@ -132,21 +133,40 @@ std::vector<std::vector<std::string>> Converters(const JobSource& source, JobKin
 
 }  // namespace
 
+namespace {
+
+/// What is to be converted, and how: an office document is a PDF file from now on.
+Failure LookAtSource(const ScratchFolder& scratch, JobSource* source,
+                     std::vector<std::vector<std::string>>* converters, JobKind* kind) {
+  *kind = KindOfJob(StartOf(source->file), source->file);
+  if (*kind == JobKind::kEmpty) return "is empty: neither PostScript nor PDF";
+  if (*kind == JobKind::kOffice) {
+    std::string pdf;
+    const Failure failure = ConvertOfficeDocument(source->file, scratch, &pdf);
+    if (!failure.empty()) return failure;
+    source->file = pdf;
+    *kind = JobKind::kPdf;
+  }
+  *converters = Converters(*source, *kind);
+  return converters->empty()
+             ? "cannot be converted here; install the packages cups and cups-filters"
+             : "";
+}
+
+Failure Unconverted(JobKind kind, const std::string& log) {
+  return kind == JobKind::kOther ? "is nothing that the spooler can print: " + log
+                                 : "cannot be converted: " + log;
+}
+
+}  // namespace
+
 Failure MakeJob(const JobSource& given, const ScratchFolder& scratch, const PageListener& page,
                 PostScriptFiles* split, std::vector<Complaint>* complaints) {
   JobSource source = given;
-  JobKind kind = KindOfJob(StartOf(source.file), source.file);
-  if (kind == JobKind::kEmpty) return "is empty: neither PostScript nor PDF";
-  if (kind == JobKind::kOffice) {
-    std::string pdf;
-    const Failure failure = ConvertOfficeDocument(source.file, scratch, &pdf);
-    if (!failure.empty()) return failure;
-    source.file = pdf;
-    kind = JobKind::kPdf;
-  }
-  const auto converters = Converters(source, kind);
-  if (converters.empty())
-    return "cannot be converted here; install the packages cups and cups-filters";
+  JobKind kind{};
+  std::vector<std::vector<std::string>> converters;
+  if (const Failure failure = LookAtSource(scratch, &source, &converters, &kind); !failure.empty())
+    return failure;
   std::string log;
   for (const std::vector<std::string>& converter : converters) {
     *split = {};
@@ -157,8 +177,41 @@ Failure MakeJob(const JobSource& given, const ScratchFolder& scratch, const Page
     }
     log = ErrorLines(chain.converter_log());
   }
-  return kind == JobKind::kOther ? "is nothing that the spooler can print: " + log
-                                 : "cannot be converted: " + log;
+  return Unconverted(kind, log);
+}
+
+Failure ConvertJob(const JobSource& given, const ScratchFolder& scratch,
+                   const std::string& output) {
+  JobSource source = given;
+  JobKind kind{};
+  std::vector<std::vector<std::string>> converters;
+  if (const Failure failure = LookAtSource(scratch, &source, &converters, &kind); !failure.empty())
+    return failure;
+  std::string log;
+  for (const std::vector<std::string>& converter : converters) {
+    std::error_code error;
+    if (converter.empty()) {
+      std::filesystem::copy_file(source.file, output,
+                                 std::filesystem::copy_options::overwrite_existing, error);
+      return error ? error.message() : "";
+    }
+    ChildRun run;
+    run.arguments = converter;
+    run.environment = ChildEnvironment(scratch, source.ppd);
+    run.output = output;
+    if (RunChild(run, &log) && std::filesystem::file_size(output, error) > 0) return "";
+    log = ErrorLines(log);
+  }
+  return Unconverted(kind, log);
+}
+
+Failure FilterJob(const JobSource& source, const ScratchFolder& scratch, PostScriptFiles* split,
+                  std::vector<Complaint>* complaints) {
+  *split = {};
+  Chain chain(source, {});
+  chain.Run(scratch, nullptr, split);
+  *complaints = Complaints(chain.filter_log());
+  return chain.failure();
 }
 
 }  // namespace zarvo::tool

@@ -29,4 +29,13 @@ using PageListener = std::function<void(std::uint64_t, std::uint64_t)>;
 Failure MakeJob(const JobSource& source, const ScratchFolder& scratch, const PageListener& page,
                 PostScriptFiles* split, std::vector<Complaint>* complaints);
 
+/// The first half of the same: what the spooler's programs make of the file, into `output`. It does
+/// not depend on the settings of the ticket, so one conversion serves for many of them.
+Failure ConvertJob(const JobSource& source, const ScratchFolder& scratch,
+                   const std::string& output);
+
+/// The second half: the filter's job of a file that has been converted, taken apart.
+Failure FilterJob(const JobSource& source, const ScratchFolder& scratch, PostScriptFiles* split,
+                  std::vector<Complaint>* complaints);
+
 }  // namespace zarvo::tool
