@@ -1,5 +1,5 @@
 # The front door; everything else is CMake (see CMakePresets.json).
-.PHONY: corpus build setup demo test bench pictures screenshots install clean format check-format lint asan fuzz load deb test-packages test-debian
+.PHONY: corpus build setup demo test bench pictures screenshots install clean format check-format lint asan fuzz load fleet deb test-packages test-debian
 JOBS ?= $(shell nproc)
 SOURCES = $(shell git ls-files '*.cpp' '*.h')
 
@@ -97,6 +97,12 @@ lint:
 	@if command -v $(LINTER) >/dev/null; then cmake --preset release >/dev/null && \
 	  echo $(LINTED) | xargs -n 4 -P $(JOBS) $(LINTER) -quiet -p build 2>/dev/null; \
 	else echo "lint: not checked, $(LINTER) is not installed"; fi
+
+# Three servers behind a front, each a machine of its own on this one: prints through them and shows where
+# the jobs are. FLEET='--jobs 500 --fault "server2 at 50 for 10"' takes its power from one; see docs/fleet.md.
+fleet: setup
+	@$(MAKE) --no-print-directory build
+	@ZARVO_BIN=build/bin python3 fleet/fleet.py $(FLEET)
 
 clean:
 	@# What test-debian leaves belongs to root.
