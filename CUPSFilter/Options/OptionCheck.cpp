@@ -222,7 +222,7 @@ std::vector<std::string> FindVainOptions(const JobRequest& request, const Ppd& p
   for (const std::string_view name : request.leftOut)
     found.push_back("option " + std::string(name) +
                     ": its value or its place in the ticket cannot be read, it was left out");
-  for (const TicketGap& gap : FindGaps(ticket)) found.push_back(gap.cause + "; give " + gap.choice);
+  for (const TicketGap& gap : FindGaps(ticket)) found.push_back(GapLine(gap));
   return found;
 }
 

@@ -65,13 +65,18 @@ void CheckFax(const Dictionary& ticket, std::vector<TicketGap>* gaps) {
 
 }  // namespace
 
+TicketGap FoldGap() {
+  return {key::kFinishingOptions,
+          "the sheets are folded in the middle, but the pages are not laid out as a booklet",
+          "BookletLayout=LeftToRight", std::string(key::kBookletLayout) + ": true"};
+}
+
+std::string GapLine(const TicketGap& gap) { return gap.cause + "; give " + gap.choice; }
+
 std::vector<TicketGap> FindGaps(const Dictionary& ticket) {
   std::vector<TicketGap> gaps;
   if (IsFolded(ticket) && DictionaryGetBoolean(ticket, key::kBookletLayout) != true)
-    gaps.push_back({key::kFinishingOptions,
-                    "the sheets are folded in the middle, but the pages are not laid out as a "
-                    "booklet",
-                    "BookletLayout=LeftToRight", std::string(key::kBookletLayout) + ": true"});
+    gaps.push_back(FoldGap());
   CheckAccounting(ticket, &gaps);
   CheckFax(ticket, &gaps);
   return gaps;

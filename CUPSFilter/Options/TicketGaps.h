@@ -16,6 +16,12 @@ struct TicketGap {
   std::string setting;  ///< the remedy as a setting of the ticket
 };
 
+/// Folding in the middle where the pages are not laid out for it.
+TicketGap FoldGap();
+
+/// What becomes of it, and the remedy as an option: a line for people.
+std::string GapLine(const TicketGap& gap);
+
 /// Gaps in the order of their importance; none for a ticket that says nothing of their matters.
 std::vector<TicketGap> FindGaps(const Dictionary& ticket);
 

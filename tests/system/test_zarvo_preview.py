@@ -71,6 +71,9 @@ class Preview(ZarvoTest):
         pages = [read_png(self.scratch / f"p-{page}.png") for page in (1, 2, 3)]
         self.assertEqual([page.count("red") > 50 for page in pages], [False, True, True])
         self.assertEqual([page.height > 421 for page in pages], [True, False, False])
+        self.run_zarvo("preview", self.path("j.ps", ground), "-p", str(BIN.parent / "ppd/zarvo.ppd"),
+                       "-o", "Fold=Half", status=1)
+        self.assertEqual(self.errors.count("folded in the middle"), 1, self.errors)
 
     def test_covers_and_inserts_are_named_in_their_place(self):
         settings = self.path("s.json", {

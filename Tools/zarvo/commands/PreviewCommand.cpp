@@ -115,7 +115,14 @@ class Preview {
       Tell("the filter says: " + complaint.text);
       fault = fault || complaint.fault;
     }
-    for (const std::string& finding : findings) Tell(Title() + ": " + finding);
+    for (const std::string& finding : findings) {
+      // The filter may have seen it already.
+      const bool told = std::any_of(complaints_.begin(), complaints_.end(),
+                                    [&finding](const Complaint& complaint) {
+                                      return complaint.text.find(finding) != std::string::npos;
+                                    });
+      if (!told) Tell(Title() + ": " + finding);
+    }
     return fault ? kExitFindings : kExitOk;
   }
 

@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+#include "CUPSFilter/Options/TicketGaps.h"
+
 namespace zarvo::tool {
 namespace {
 
@@ -68,9 +70,7 @@ void CheckFold(const JobReport& report, std::vector<std::string>* findings) {
     for (const char* fold : {"13", "110", "111"}) {
       if ((" " + statement.value + " ").find(" " + std::string(fold) + " ") == std::string::npos)
         continue;
-      findings->push_back(
-          "the sheets are folded in the middle, but the pages are not laid out as a booklet; add "
-          "BookletLayout");
+      findings->push_back(GapLine(FoldGap()));
       return;
     }
   }
