@@ -85,8 +85,8 @@ std::string PutHouseTicketBelow(const NamedHouseTicket& named, const PpdChoices&
   return "";
 }
 
-/// The sides that a house ticket asks for, wherever the filter acts on them itself. Gives the
-/// set-up of a page description that knows nothing of them, or null.
+/// The sides that a house ticket asks for, wherever the filter acts on them itself. Gives what
+/// a page description that knows nothing of them has to ask the page device for, or null.
 const char* ReadHouseSides(const Dictionary& ticket, JobSettings* settings) {
   std::int32_t sides = 0;
   if (!CFDictionaryGetNumber(ticket, key::kFinishingDuplex, &sides)) return nullptr;
@@ -95,9 +95,9 @@ const char* ReadHouseSides(const Dictionary& ticket, JobSettings* settings) {
   const bool is_known = std::exchange(Duplex, duplex ? 1 : 0) == (duplex ? 1 : 0) && !tumble;
   settings->sides = !duplex ? "one-sided" : tumble ? "two-sided-short-edge" : "two-sided-long-edge";
   if (is_known || settings->booklet) return nullptr;
-  return !duplex  ? "<</Duplex false>>setpagedevice\n"
-         : tumble ? "<</Duplex true/Tumble true>>setpagedevice\n"
-                  : "<</Duplex true/Tumble false>>setpagedevice\n";
+  return !duplex  ? "<</Duplex false>>"
+         : tumble ? "<</Duplex true/Tumble true>>"
+                  : "<</Duplex true/Tumble false>>";
 }
 
 struct Job {

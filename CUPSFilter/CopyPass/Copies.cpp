@@ -76,6 +76,13 @@ long Copies::Sheets() const {
   return sheets_ + (pages_ + plan_.pagesPerSheet - 1) / plan_.pagesPerSheet;
 }
 
+/// Where several pages share a side, the converter's set-up ends with a setpagedevice that does
+/// nothing, so the printer's own is called. A booklet has its own between it and the document.
+void Copies::Set(const char* request) {
+  output_.Write(request);
+  output_.Write(plan_.booklet ? "setpagedevice\n" : "systemdict/setpagedevice get exec\n");
+}
+
 void Copies::BeginDocument() {
   sheets_ = Sheets();
   pages_ = 0;
@@ -86,9 +93,9 @@ void Copies::BeforeLine(std::string_view line) {
   const bool page = line.starts_with("%%Page:");
   if (!plan_.counted || (!page && !line.starts_with("%%EndSetup"))) return;
   if (!std::exchange(set_up_, true)) {
-    if (plan_.once) output_.Write("<</NumCopies 1>>setpagedevice\n");
-    if (plan_.sides != nullptr) output_.Write(plan_.sides);
-    if (plan_.sets) output_.Write("<</Collate true>>setpagedevice\n");
+    if (plan_.once) Set("<</NumCopies 1>>");
+    if (plan_.sides != nullptr) Set(plan_.sides);
+    if (plan_.sets) Set("<</Collate true>>");
   }
   if (!page) return;
   if (!plan_.booklet && pages_ % plan_.pagesPerSheet == 0 && Sheets() >= told_ + kSheetsPerLine) {

@@ -31,8 +31,8 @@ struct CopyPlan {
   bool booklet = false;   ///< its sheets are known only when it has been imposed
   int pagesPerSheet = 1;  ///< 2 for two-sided jobs
   int logged = 1;         ///< what the spooler has to be given for one sheet
-  const char* sides =
-      nullptr;  ///< set-up for sides that the page description does not know; or null
+  /// Of the page device, for sides that the page description does not know; or null.
+  const char* sides = nullptr;
 };
 
 /// `copies` is the spooler's argument, a number from 1 on; anything else counts as 1. The PPD's
@@ -55,6 +55,7 @@ class Copies {
 
  private:
   long Sheets() const;
+  void Set(const char* request);
 
   CopyPlan plan_;
   JobOutput& output_;

@@ -14,7 +14,7 @@ from gi.repository import GLib, Gtk  # noqa: E402
 if VERSION == "4":
     Gtk.init()
 SETTLED = 700  # milliseconds until the toolkit has drawn what was asked for
-WIDTH, HEIGHT, HEIGHT_OF_ALL_OPTIONS = 780, 640, 3400
+WIDTH, HEIGHT, HEIGHT_OF_ALL_OPTIONS = 780, 640, 3800
 
 
 def end_of_all(*fault):

@@ -38,7 +38,7 @@ def advanced():
                 and window.findChild(QtWidgets.QWidget, "cupsPropertiesPage")]
     tabs = window.findChild(QtWidgets.QTabWidget)
     tabs.setCurrentIndex(tabs.count() - 1)
-    window.setGeometry(10, 10, 780, 3400)
+    window.setGeometry(10, 10, 780, 3800)
     dialog.move(1000, 0)
     QtCore.QTimer.singleShot(SETTLED, lambda: (picture("2"), os._exit(0)))
 

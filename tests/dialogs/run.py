@@ -37,7 +37,7 @@ def locales(folder):
 def display(scratch):
     """A screen that is high enough for the longest list of options."""
     read, write = os.pipe()
-    server = subprocess.Popen(["Xvfb", "-displayfd", str(write), "-screen", "0", "900x3500x24"],
+    server = subprocess.Popen(["Xvfb", "-displayfd", str(write), "-screen", "0", "900x3900x24"],
                               pass_fds=[write], stderr=open(scratch / "Xvfb.log", "w"))
     os.close(write)
     with os.fdopen(read) as answer:

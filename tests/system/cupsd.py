@@ -207,6 +207,7 @@ WebInterface No
 MaxJobs {self._max_jobs}
 PreserveJobHistory Yes
 PreserveJobFiles No
+PageLogFormat "%j %{{job-media-sheets-completed}}"
 """
         )
 
@@ -244,6 +245,11 @@ PreserveJobFiles No
         request.write_text(REQUEST.format(user=user, title=title, operation=operation, job=attributes))
         self.run("ipptool", "-t", "-f", str(file),
                  f"ipp://127.0.0.1:{self.port}/printers/{queue}", str(request))  # fmt: skip
+
+    def page_log(self):
+        """The job and the sheets of each line."""
+        return {tuple(map(int, line.strip('"').split()))
+                for line in (self.root / "log/page_log").read_text().splitlines()}
 
     def wait_until_done(self, job, timeout=60):
         """Until the job waits for nothing any more: it is printed, or was stopped."""

@@ -91,9 +91,25 @@ def read_png(path):
 
 def draw(job, *options, dpi=72):
     """The pages of a job, or of a plain document, as the printer would draw them."""
+    return pictures(ghostscript("ppmraw", postscript_of(job), f"-r{dpi}", *options))
+
+
+def postscript_of(job):
     end = job.rfind(EXIT + b"@PJL EOJ")
-    document = job[job.index(b"%!PS-Adobe") : end] if end >= 0 else job
-    return pictures(ghostscript("ppmraw", document, f"-r{dpi}", *options))
+    return job[job.index(b"%!PS-Adobe") : end] if end >= 0 else job
+
+
+def printed_sides(job):
+    """What a printer that can do all of it makes of each side: collated, on both sides, how many copies."""
+    data = ghostscript("cups", postscript_of(job), "-r5")
+    sides, start = [], 4
+    while start < len(data):
+        number = {name: struct.unpack_from("=I", data, start + offset)[0]
+                  for name, offset in (("Collate", 264), ("Duplex", 272), ("NumCopies", 340),
+                                       ("height", 376), ("bytes of a line", 392))}  # fmt: skip
+        sides.append((bool(number["Collate"]), bool(number["Duplex"]), number["NumCopies"]))
+        start += 1796 + number["height"] * number["bytes of a line"]
+    return sides
 
 
 def ghostscript(device, document, *options):
