@@ -68,6 +68,22 @@ struct Structure {
   }
 };
 
+/// What NextTurningName looks for.
+struct TurningNames {
+  static Mask At(const char* from) {
+    const Bytes here = Load(from);
+    const Bytes after = Load(from + 1);
+    return (((here == 'c') | (here == 'T')) & (after == 'm')) | ((here == 'o') & (after == 't')) |
+           ((here == 'n') & (after == 'c')) | ((here == 's') & (after == 'l'));
+  }
+
+  static bool Is(const char* at) {
+    const char second = at[1];
+    return ((at[0] == 'c' || at[0] == 'T') && second == 'm') || (at[0] == 'o' && second == 't') ||
+           (at[0] == 'n' && second == 'c') || (at[0] == 's' && second == 'l');
+  }
+};
+
 template <class Wanted>
 const char* Next(const char* from, const char* end) {
   constexpr int kBlock = sizeof(Bytes);
@@ -92,5 +108,15 @@ const char* Next(const char* from, const char* end) {
 const char* NextCandidate(const char* from, const char* end) { return Next<Landmarks>(from, end); }
 
 const char* NextStructure(const char* from, const char* end) { return Next<Structure>(from, end); }
+
+const char* NextTurningName(const char* from, const char* end) {
+  if (end - from > kScanSlack) {
+    const char* const near = end - kScanSlack;
+    from = Next<TurningNames>(from, near);
+    if (from != near) return from;
+  }
+  while (end - from > 1 && !TurningNames::Is(from)) ++from;
+  return end - from > 1 ? from : end;
+}
 
 }  // namespace zarvo

@@ -13,7 +13,12 @@ const char* NextCandidate(const char* from, const char* end);
 /// right after a line end.
 const char* NextStructure(const char* from, const char* end);
 
-/// How many readable bytes both need after `end`.
+/// The first place in [from, end) where the name of an operator that turns a page can be: "cm" and
+/// "Tm", "otate" and "ncat" of longer names, "sl". May be wrong, but misses none. Reads nothing
+/// outside.
+const char* NextTurningName(const char* from, const char* end);
+
+/// How many readable bytes the first two need after `end`.
 constexpr int kScanSlack = 64;
 
 }  // namespace zarvo

@@ -3,9 +3,10 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <cmath>
 #include <vector>
+
+#include "CUPSFilter/Watermark/PageProgram.h"
 
 namespace zarvo {
 namespace {
@@ -34,13 +35,6 @@ std::optional<int> TurnOf(const Axes& axes) {
   return std::nullopt;
 }
 
-/// By which a text editor's pages are turned.
-constexpr std::string_view kEditorTurn = "sl";
-
-/// What paints, under the names that converters give it.
-constexpr std::array<std::string_view, 9> kPaint = {"S",  "s",      "f",    "f*",    "B",
-                                                    "B*", "stroke", "fill", "eofill"};
-
 using Votes = std::array<std::size_t, 4>;
 
 std::optional<int> Winner(const Votes& votes) {
@@ -49,17 +43,18 @@ std::optional<int> Winner(const Votes& votes) {
   return static_cast<int>(best - votes.begin());
 }
 
-bool IsSpace(char c) { return c == ' ' || (c >= '\t' && c <= '\r') || c == '\0'; }
-bool IsDelimiter(char c) {
-  return std::string_view("()<>[]{}/%").find(c) != std::string_view::npos;
-}
-
 class HeadReader {
  public:
   explicit HeadReader(std::string_view text) : text_(text) {}
 
   PageLook Read() {
-    while (at_ < text_.size() && !page_ended_ && text_seen_ < kEnoughText) Step();
+    while (at_ < text_.size() && !page_ended_ && text_seen_ < kEnoughText) {
+      Step();
+      if (upright_ >= kClearText && !looked_on_ && OnlyUpright()) {
+        looked_on_ = true;
+        if (!MayTurn(text_.substr(at_))) break;
+      }
+    }
     return {Turn(), pictures_, painted_ && !text_ahead_ && text_seen_ == 0};
   }
 
@@ -69,6 +64,14 @@ class HeadReader {
   static constexpr std::size_t kShortestPictureLine = 40;
   /// Bytes. Programs that save and restore under names of their own are not understood for long.
   static constexpr std::size_t kEnoughText = 250;
+  /// Bytes of upright text after which only what turns the rest matters: most pages are upright
+  /// from end to end, and most jobs have hundreds of them.
+  static constexpr std::size_t kClearText = 16;
+
+  bool OnlyUpright() const {
+    const auto others = [](const Votes& votes) { return votes[1] + votes[2] + votes[3]; };
+    return others(text_votes_) + others(votes_) == 0;
+  }
 
   std::optional<int> Turn() const {
     if (const std::optional<int> told = Winner(text_votes_)) return told;
@@ -145,70 +148,138 @@ class HeadReader {
   }
 
   void ReadWord() {
+    const char first = text_[at_];
+    bool number = KindOf(first) == kNumeral && first != 'e' && first != 'E' && first != '+';
     std::size_t end = at_ + 1;
-    while (end < text_.size() && !IsSpace(text_[end]) && !IsDelimiter(text_[end])) ++end;
+    for (; end < text_.size(); ++end) {
+      const unsigned char kind = KindOf(text_[end]);
+      if (kind == kSpace || kind == kDelimiter) break;
+      number = number && kind == kNumeral;
+    }
     const std::string_view word = text_.substr(at_, end - at_);
     at_ = end;
-    named_ = word[0] == '/';
+    named_ = first == '/';
     if (named_) return;
-    double value = 0;
-    const char* last = word.data() + word.size();
-    if (std::from_chars(word.data(), last, value).ptr == last && std::isfinite(value)) {
-      std::rotate(operands_.begin(), operands_.begin() + 1, operands_.end());
-      operands_.back() = value;
+    if (number) {  // most words are, and few of them matter
+      operands_[written_++ % kOperands] = word;
       count_ = std::min(count_ + 1, kOperands);
       return;
     }
     Operate(word);
     count_ = 0;
-    if (const std::optional<int> turn = TurnOf(page_)) ++votes_[static_cast<std::size_t>(*turn)];
+    if (page_turn_) ++votes_[static_cast<std::size_t>(*page_turn_)];
+  }
+
+  /// The operands of the next operator, the latest one as 0.
+  double Operand(std::size_t back) const {
+    return ValueOf(operands_[(written_ + kOperands - 1 - back) % kOperands]);
+  }
+
+  Axes Matrix() const { return {Operand(5), Operand(4), Operand(3), Operand(2)}; }
+
+  void SetPage(const Axes& axes) {
+    page_ = axes;
+    page_turn_ = TurnOf(axes);
   }
 
   void Operate(std::string_view name) {
-    const std::array<double, kOperands>& o = operands_;
-    const bool matrix = count_ == kOperands;
-    if ((name == "cm" || name == "concat") && matrix) {
-      page_ = Axes{o[0], o[1], o[2], o[3]} * page_;
-    } else if ((name == "rotate" || name == kEditorTurn) && count_ > 0) {
-      const double angle = (name == kEditorTurn ? 90 : std::remainder(o[5], 360)) * M_PI / 180;
-      page_ = Axes{std::cos(angle), std::sin(angle), -std::sin(angle), std::cos(angle)} * page_;
-    } else if (name == "scale" && count_ > 1) {
-      page_ = Axes{o[4], 0, 0, o[5]} * page_;
-    } else if (name == "Tm" && matrix) {
-      line_ = Axes{o[0], o[1], o[2], o[3]};
-      jumped_ = Axes{jumped_.a + o[4] - x_, jumped_.b + o[5] - y_, 0, 0};
-      x_ = o[4];
-      y_ = o[5];
-    } else if (name == "BT") {
-      line_ = Axes{};
-    } else if (name == "q" || name == "gsave" || name == "save" || name == "_S") {
-      if (saved_.size() < kDeepest) saved_.push_back(page_);
-    } else if (name == "Q" || name == "grestore" || name == "restore" || name == "_R") {
-      if (saved_.empty()) return;
-      page_ = saved_.back();
-      saved_.pop_back();
-    } else if (name == "TL" && count_ > 0) {
-      leading_ = o[5];
-    } else if (name == "'") {
-      moved_ = Axes{0, -leading_, 0, 0};
-      Show();
-    } else if ((name == "Td" || name == "TD") && count_ > 1) {
-      moved_ = Axes{o[4], o[5], 0, 0};
-    } else if (name.starts_with("Tj")) {
-      Show(count_ > 1);
-    } else if (name.starts_with("TJ") ||
-               (name.find("show") != name.npos && name.find("page") == name.npos)) {
-      Show();
-    } else if (name == "BI" || name.starts_with("pdfIm") || name.ends_with("image") ||
-               name.ends_with("imagemask")) {
-      pictures_ += std::fabs(page_.a * page_.d - page_.b * page_.c);
-      if (name != "BI") SkipPicture();
-    } else if (name == "ID") {
-      SkipPicture();
-    } else if (std::find(kPaint.begin(), kPaint.end(), name) != kPaint.end()) {
-      painted_ = true;
+    switch (Packed(name)) {
+      case Packed("cm"):
+      case Packed("concat"):
+        if (count_ == kOperands) SetPage(Matrix() * page_);
+        break;
+      case Packed("rotate"):
+        if (count_ > 0) Rotate(std::remainder(Operand(0), 360));
+        break;
+      case Packed(kEditorTurn):
+        if (count_ > 0) Rotate(90);
+        break;
+      case Packed("scale"):
+        if (count_ > 1) SetPage(Axes{Operand(1), 0, 0, Operand(0)} * page_);
+        break;
+      case Packed("Tm"):
+        if (count_ == kOperands) BeginLine();
+        break;
+      case Packed("BT"):
+        line_ = Axes{};
+        break;
+      case Packed("q"):
+      case Packed("gsave"):
+      case Packed("save"):
+      case Packed("_S"):
+        if (saved_.size() < kDeepest) saved_.push_back(page_);
+        break;
+      case Packed("Q"):
+      case Packed("grestore"):
+      case Packed("restore"):
+      case Packed("_R"):
+        if (saved_.empty()) break;
+        SetPage(saved_.back());
+        saved_.pop_back();
+        break;
+      case Packed("TL"):
+        if (count_ > 0) leading_ = Operand(0);
+        break;
+      case Packed("'"):
+        moved_ = Axes{0, -leading_, 0, 0};
+        Show();
+        break;
+      case Packed("Td"):
+      case Packed("TD"):
+        if (count_ > 1) moved_ = Axes{Operand(1), Operand(0), 0, 0};
+        break;
+      case Packed("BI"):
+        AddPicture();
+        break;
+      case Packed("ID"):
+        SkipPicture();
+        break;
+      // What paints, under the names that converters give it.
+      case Packed("S"):
+      case Packed("s"):
+      case Packed("f"):
+      case Packed("f*"):
+      case Packed("B"):
+      case Packed("B*"):
+      case Packed("stroke"):
+      case Packed("fill"):
+      case Packed("eofill"):
+        painted_ = true;
+        break;
+      default:
+        OperateLike(name);
     }
   }
+
+  /// Of operators that have names of many kinds.
+  void OperateLike(std::string_view name) {
+    if (name.starts_with("Tj")) {
+      Show(count_ > 1);
+    } else if (name.starts_with("TJ") || (name.size() > 3 && name.find("show") != name.npos &&
+                                          name.find("page") == name.npos)) {
+      Show();
+    } else if (name.starts_with("pdfIm") || name.ends_with("image") ||
+               name.ends_with("imagemask")) {
+      AddPicture();
+      SkipPicture();
+    }
+  }
+
+  void Rotate(double degrees) {
+    const double angle = degrees * M_PI / 180;
+    SetPage(Axes{std::cos(angle), std::sin(angle), -std::sin(angle), std::cos(angle)} * page_);
+  }
+
+  void BeginLine() {
+    line_ = Matrix();
+    const double x = Operand(1);
+    const double y = Operand(0);
+    jumped_ = Axes{jumped_.a + x - x_, jumped_.b + y - y_, 0, 0};
+    x_ = x;
+    y_ = y;
+  }
+
+  void AddPicture() { pictures_ += std::fabs(page_.a * page_.d - page_.b * page_.c); }
 
   /// A picture's bytes look like anything. What follows is one when it is no program text.
   void SkipPicture() {
@@ -228,14 +299,18 @@ class HeadReader {
   /// that way with each letter; text in columns goes downwards and is no turn.
   void Show(bool advances = false) {
     Axes along = line_;
+    const bool letter = !advances && shown_ == 1;
     if (advances) {
-      if (operands_[5] >= 0) along = Axes{operands_[4], operands_[5], 0, 0} * line_;
-    } else if (shown_ == 1) {
+      const double up = Operand(0);
+      if (up >= 0) along = Axes{Operand(1), up, 0, 0} * line_;
+    } else if (letter) {
       const Axes moved = moved_ * line_;
       along = Axes{moved.a + jumped_.a, moved.b + jumped_.b, 0, 0};
     }
-    if (const std::optional<int> turn = TurnOf(along * page_))
+    if (const std::optional<int> turn = TurnOf(along * page_)) {
       text_votes_[static_cast<std::size_t>(*turn)] += shown_;
+      if (*turn == 0 && !letter) upright_ += shown_;
+    }
     text_seen_ += shown_;
     shown_ = 0;
     moved_ = jumped_ = Axes{0, 0, 0, 0};
@@ -246,11 +321,15 @@ class HeadReader {
   bool page_ended_ = false;
   std::optional<int> comment_;
 
-  std::array<double, kOperands> operands_{};  // the last ones, the latest at the end
-  std::size_t count_ = 0;                     // of those that the next operator can take
-  std::size_t shown_ = 0;                     // bytes of strings since text was shown last,
-  std::size_t text_seen_ = 0;                 // and those before
+  std::array<std::string_view, kOperands> operands_{};  // the last ones, in turn
+  std::size_t written_ = 0;                             // of all
+  std::size_t count_ = 0;                               // of those that the next operator can take
+  std::size_t shown_ = 0;      // bytes of strings since text was shown last,
+  std::size_t text_seen_ = 0;  // and those before,
+  std::size_t upright_ = 0;    // those of them that are upright for sure
+  bool looked_on_ = false;     // whether the rest may turn
   Axes page_;
+  std::optional<int> page_turn_ = 0;
   Axes line_;                // of text, within the page
   Axes moved_{0, 0, 0, 0};   // since text was shown last: only its a and b; within the line,
   Axes jumped_{0, 0, 0, 0};  // and from line to line,

@@ -15,7 +15,7 @@ import tempfile
 import unittest
 from concurrent.futures import ThreadPoolExecutor
 
-from pictures import COLORS, draw, ghostscript, png, run
+from pictures import COLORS, EXIT, draw, ghostscript, pictures, png, run
 from zarvo import BIN, ZarvoTest
 
 PPD = BIN.parent / "ppd/zarvo.ppd"
@@ -171,6 +171,24 @@ class PageHooks(ZarvoTest):
 
     def test_mirror_and_negative(self):
         self.each(self.check_transforms, [(PLAIN,), (BOOKLET,)])
+
+    def check_next_job(self, source, *options):
+        ours = self.filtered(" ".join(options), job("mixed", source), ppd=PPD)
+        document = ours[ours.index(b"%!PS-Adobe") : ours.rindex(EXIT + b"@PJL EOJ")]
+        # The spooler has its jobs give up the byte that ends a job here.
+        document = document.replace(rb"userdict dup(\004)cvn{}put (\004\004)cvn{}put", b"")
+        later = b"%!PS\n100 500 200 40 rectfill 0.5 setgray 20 20 50 30 rectfill showpage\n\x04"
+        server = ("ppmraw", "-dJOBSERVER", "-r36")
+        alone = ghostscript(server[0], later, *server[1:])
+        count = 2 if BOOKLET[0] in options else len(DOCUMENTS["mixed"])
+        printed = ghostscript(server[0], document + b"\x04" + later, *server[1:])
+        self.assertEqual(len(pictures(printed)), count + 1)
+        self.assertTrue(printed.endswith(alone), "not as if it were alone")
+
+    def test_the_next_job(self):
+        """A job leaves the printer as it was, also for somebody else's next one."""
+        marked = ("Watermark=Custom.text", "WMPlace=Background", "NegativeImage=True", "MirrorImage=True")
+        self.each(self.check_next_job, [marked, (*marked, *BOOKLET)])
 
     def test_jobs_of_any_program(self):
         """Pages that nobody has made for taking apart: booklets in order, marks where they belong."""
