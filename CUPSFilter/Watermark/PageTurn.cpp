@@ -47,14 +47,16 @@ class HeadReader {
  public:
   explicit HeadReader(std::string_view text) : text_(text) {}
 
+  /// Whether the page has upright text and no other, which is only asked of one that nothing turns:
+  /// so all that comes ahead of its text can be left out.
+  bool IsUpright() {
+    at_ = FirstString();
+    while (at_ < text_.size() && !page_ended_ && upright_ < kClearText) Step();
+    return upright_ >= kClearText && text_votes_[1] + text_votes_[2] + text_votes_[3] == 0;
+  }
+
   PageLook Read() {
-    while (at_ < text_.size() && !page_ended_ && text_seen_ < kEnoughText) {
-      Step();
-      if (upright_ >= kClearText && !looked_on_ && OnlyUpright()) {
-        looked_on_ = true;
-        if (!MayTurn(text_.substr(at_))) break;
-      }
-    }
+    while (at_ < text_.size() && !page_ended_ && text_seen_ < kEnoughText) Step();
     return {Turn(), pictures_, painted_ && !text_ahead_ && text_seen_ == 0};
   }
 
@@ -64,13 +66,17 @@ class HeadReader {
   static constexpr std::size_t kShortestPictureLine = 40;
   /// Bytes. Programs that save and restore under names of their own are not understood for long.
   static constexpr std::size_t kEnoughText = 250;
-  /// Bytes of upright text after which only what turns the rest matters: most pages are upright
-  /// from end to end, and most jobs have hundreds of them.
-  static constexpr std::size_t kClearText = 16;
+  static constexpr std::size_t kClearText = 16;  // bytes; no mark that somebody added to a page
 
-  bool OnlyUpright() const {
-    const auto others = [](const Votes& votes) { return votes[1] + votes[2] + votes[3]; };
-    return others(text_votes_) + others(votes_) == 0;
+  /// The place of the first string, or the end where none begins before the page ends.
+  std::size_t FirstString() const {
+    std::string_view ahead = text_.substr(0, text_.find('('));
+    ahead = ahead.substr(0, ahead.find('<'));
+    const bool outside =
+        ahead.find("%%Page:") == ahead.npos && ahead.find("%%Trailer") == ahead.npos;
+    const std::size_t opened = ahead.rfind('{');
+    const bool defines = opened != ahead.npos && ahead.find('}', opened) == ahead.npos;
+    return outside && !defines ? ahead.size() : text_.size();
   }
 
   std::optional<int> Turn() const {
@@ -327,7 +333,6 @@ class HeadReader {
   std::size_t shown_ = 0;      // bytes of strings since text was shown last,
   std::size_t text_seen_ = 0;  // and those before,
   std::size_t upright_ = 0;    // those of them that are upright for sure
-  bool looked_on_ = false;     // whether the rest may turn
   Axes page_;
   std::optional<int> page_turn_ = 0;
   Axes line_;                // of text, within the page
@@ -347,7 +352,12 @@ class HeadReader {
 
 }  // namespace
 
-PageLook LookAtPage(std::string_view head) { return HeadReader(head.substr(0, kPageHead)).Read(); }
+PageLook LookAtPage(std::string_view head) {
+  head = head.substr(0, kPageHead);
+  // Most pages are upright from end to end, and most jobs have hundreds of them.
+  if (!MayTurn(head) && HeadReader(head).IsUpright()) return {0, 0, false};
+  return HeadReader(head).Read();
+}
 
 std::optional<int> TurnOfComment(std::string_view value) {
   if (value.find("Landscape") != value.npos) return kLandscape;
