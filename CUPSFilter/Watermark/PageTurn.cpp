@@ -354,8 +354,10 @@ class HeadReader {
 
 PageLook LookAtPage(std::string_view head) {
   head = head.substr(0, kPageHead);
-  // Most pages are upright from end to end, and most jobs have hundreds of them.
-  if (!MayTurn(head) && HeadReader(head).IsUpright()) return {0, 0, false};
+  // Most pages are upright from end to end, and most jobs have hundreds of them. Further on there
+  // is enough text for any page.
+  constexpr std::size_t kSearched = kPageHead / 2;
+  if (!MayTurn(head.substr(0, kSearched)) && HeadReader(head).IsUpright()) return {0, 0, false};
   return HeadReader(head).Read();
 }
 

@@ -13,7 +13,7 @@ namespace {
 TEST(PageTurn, FollowsMostOfTheText) {
   const std::string upright = "BT 1 0 0 1 72 720 Tm (The head of an upright page) Tj ET\n";
   const std::string body = "(" + std::string(200, 'x') + ") Tj\n";
-  const std::string filler(9000, ' ');
+  const std::string filler(7000, ' ');
   struct Row {
     std::string page;
     int turn;
