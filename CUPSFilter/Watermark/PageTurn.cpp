@@ -198,7 +198,8 @@ class HeadReader {
         if (count_ > 0) Rotate(std::remainder(Operand(0), 360));
         break;
       case Packed(kEditorTurn):
-        if (count_ > 0) Rotate(90);
+        // Drivers call the width of lines so, which is not negative.
+        if (count_ > 0 && Operand(0) < 0) Rotate(90);
         break;
       case Packed("scale"):
         if (count_ > 1) SetPage(Axes{Operand(1), 0, 0, Operand(0)} * page_);

@@ -32,7 +32,8 @@ TEST(PageTurn, FollowsMostOfTheText) {
       {upright + "90 rotate " + body, 1},
       {upright + "-90 rotate " + body, 3},
       {upright + "0 1 -1 0 0 0 cm" + body, 1},
-      {upright + "1 0 0 sl " + body, 1},
+      {upright + "-595 sl " + body, 1},
+      {upright + "47 sl " + body, 0},
       // Back to what was before: the head alone was turned.
       {"q 0 1 -1 0 0 0 cm (a note at the margin) Tj Q " + body, 0},
       // Letters that are pictures, each at a place of its own, upwards.
