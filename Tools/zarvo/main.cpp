@@ -99,6 +99,7 @@ std::span<const Command> Commands() {
        "zarvo ticket keys | grep -i staple\n"
        "sudo zarvo ticket save payslips settings.json --shared --title 'de=Lohnzettel'\n"
        "zarvo ticket save reports --own --from-job office-1\n"
+       "zarvo ticket save annual --own --from annual.prn\n"
        "zarvo ticket list\n"
        "zarvo ticket show payslips --settings\n"
        "zarvo ticket edit reports --own --title 'fr=Rapports'\n"

@@ -15,34 +15,23 @@
 #include "CUPSFilter/Options/HouseTicketOption.h"
 #include "Platform/AtomicFile.h"
 #include "Platform/Log.h"
+#include "Platform/UniqueFd.h"
 #include "Source/TicketNames.h"
 #include "Tools/zarvo/Command.h"
+#include "Tools/zarvo/commands/HouseTicketSources.h"
+#include "Tools/zarvo/system/Editor.h"
 #include "Tools/zarvo/system/PublishedChoices.h"
 #include "Tools/zarvo/system/PublishedTickets.h"
 #include "Tools/zarvo/system/Queues.h"
 #include "Tools/zarvo/system/Run.h"
-#include "Tools/zarvo/system/SpoolerJobs.h"
 #include "Tools/zarvo/ticket/HouseText.h"
-#include "Tools/zarvo/ticket/JobTicket.h"
 #include "Tools/zarvo/ticket/TicketCheck.h"
 #include "Tools/zarvo/ticket/TicketText.h"
 
 namespace zarvo::tool {
 namespace {
 
-struct Options {
-  std::string name, other;
-  std::string file = "-";
-  std::string fromJob, queue, basedOn;
-  std::vector<std::string> titles, mayOverride;
-  bool shared = false, own = false, json = false, secrets = false, settings = false, force = false;
-};
-
-constexpr const char* kListRemedy = "\"zarvo ticket list\" shows them";
-
-void Note(const std::string& place, const std::string& text) {
-  std::fprintf(stderr, "zarvo: %s\n", PrintableText(place + ": " + text).c_str());
-}
+using Options = HouseTicketOptions;
 
 /// Where a new ticket goes: where it is said, else root's to everybody and a user's to the user.
 HouseTicketStore TargetStore(const Options& options) {
@@ -68,63 +57,6 @@ int Changed(const std::string& place, const HouseTicketStore& store, const std::
               denied ? "Everybody's tickets are changed as root; --own keeps yours" : "");
 }
 
-std::string PinDropped(Dictionary* ticket) {
-  Dictionary* job = nullptr;
-  if (const auto entry = ticket->find("com.zarvo.print.JobType"); entry != ticket->end())
-    job = entry->second.AsDictionary();
-  return job != nullptr && HoldsPin(*ticket) && job->erase("SecurePrintPassword") != 0
-             ? "its PIN was left out; give one with each job"
-             : "";
-}
-
-/// The settings of a job that the spooler knows.
-bool ReadFrom(const Options& options, HouseTicket* house) {
-  std::string queue;
-  OptionList list;
-  const int number = JobNumber(options.fromJob);
-  const Failure failure = number == 0 ? "is no job; \"lpstat -W all\" lists them"
-                                      : OptionsOfSpoolerJob(number, &list, &queue);
-  if (!failure.empty()) return Fail(options.fromJob, failure), false;
-  QueuePpd ppd;
-  if (const Failure fetched = ppd.Fetch(queue); !fetched.empty())
-    return Fail(queue, fetched), false;
-  std::vector<std::string> others, kept;
-  house->ticket = TicketOfJob(list, ppd.path(), {}, &others, &kept);
-  for (const char* account :
-       {key::kAccount, key::kAccountUser, key::kXmlAccount, key::kXmlAccountUser})
-    house->ticket.erase(account);
-  if (const std::string dropped = PinDropped(&house->ticket); !dropped.empty())
-    Note(options.name, dropped);
-  return true;
-}
-
-/// Choices of a queue's PPD become the settings that they stand for.
-bool Translate(const Options& options, HouseTicket* house) {
-  std::vector<FlatOption> plain;
-  for (const auto& [name, value] : house->ticket)
-    if (!name.starts_with("com.") && value.AsString() != nullptr)
-      plain.push_back({name, *value.AsString()});
-  if (plain.empty()) return true;
-  if (options.queue.empty())
-    return Fail(options.name, plain[0].name + " is an option of a queue, not of a ticket",
-                "-q QUEUE takes what it stands for there"),
-           false;
-  QueuePpd ppd;
-  if (const Failure failure = ppd.Fetch(options.queue); !failure.empty())
-    return Fail(options.queue, failure), false;
-  const OptionList list = OptionList::Parse(OptionText(plain).c_str());
-  std::vector<std::string> others, kept;
-  Dictionary ticket = TicketOfJob(list, ppd.path(), {}, &others, &kept);
-  if (!others.empty())
-    return Fail(options.name, others[0] + " cannot be kept in a ticket",
-                "It works before the filter; give it with each job"),
-           false;
-  std::erase_if(house->ticket, [](const auto& entry) { return !entry.first.starts_with("com."); });
-  MergeSettings(std::move(house->ticket), &ticket);
-  house->ticket = std::move(ticket);
-  return true;
-}
-
 bool AddDetails(const Options& options, HouseTicket* house) {
   if (!options.basedOn.empty()) house->basedOn = options.basedOn;
   for (const std::string& title : options.titles) {
@@ -141,10 +73,16 @@ bool AddDetails(const Options& options, HouseTicket* house) {
   return true;
 }
 
-/// Keeps the ticket when it can be resolved with it.
-int Keep(const Options& options, HouseTicketStore store, const HouseTicket& house) {
+/// Keeps the ticket when it can be resolved with it, and, where one is to be replaced, when that is
+/// still the one that was read.
+int Keep(const Options& options, HouseTicketStore store, const HouseTicket& house,
+         const std::string* replaced = nullptr) {
   errno = 0;
   const std::string fault = store.Change([&](HouseTicketStore* open) {
+    HouseTicket now;
+    if (replaced != nullptr &&
+        (!open->Find(options.name, &now).empty() || HouseTicketText(now, true) != *replaced))
+      return std::string("somebody has changed or removed it meanwhile");
     if (std::string put = open->Put(options.name, house); !put.empty()) return put;
     HouseTicketStore shared = HouseTicketStore::Shared();
     if (std::string read = open->shared() ? "" : shared.Read(); !read.empty()) return read;
@@ -157,7 +95,9 @@ int Keep(const Options& options, HouseTicketStore store, const HouseTicket& hous
 int Save(const Options& options) {
   HouseTicket house;
   if (!options.fromJob.empty()) {
-    if (!ReadFrom(options, &house)) return kExitFailure;
+    if (!ReadSpoolerJob(options, &house)) return kExitFailure;
+  } else if (!options.from.empty()) {
+    if (!ReadWrittenJob(options, &house)) return kExitFailure;
   } else {
     std::string text;
     if (!ReadInput(options.file, &text)) return kExitFailure;
@@ -219,6 +159,16 @@ int Show(const Options& options) {
   return WriteOutput("-", HouseTicketText(house, options.secrets));
 }
 
+/// What somebody has written is not thrown away with the folder that it was written in.
+int KeepAside(const Options& options, const std::string& text, int status) {
+  std::string file = TemporaryFolder() + "/zarvo-ticket-XXXXXX";
+  const UniqueFd out(::mkstemp(file.data()));
+  if (!out || ::write(out.get(), text.data(), text.size()) != static_cast<ssize_t>(text.size()))
+    return Fail(file, std::strerror(errno));
+  Note(options.name, "the ticket is as it was; what you wrote is in " + file);
+  return status;
+}
+
 /// In the editor, unless the command line says all that is to change.
 int Edit(const Options& options) {
   const bool said =
@@ -229,26 +179,29 @@ int Edit(const Options& options) {
   if (store == nullptr) return kExitFailure;
   if (const std::string fault = store->Find(options.name, &house); !fault.empty())
     return Fail(options.name, fault);
+  const std::string before = HouseTicketText(house, true);
+  if (said) {
+    const bool right = Translate(options, &house) && AddDetails(options, &house);
+    return right ? Keep(options, *store, house, &before) : kExitFailure;
+  }
   const std::unique_ptr<ScratchFolder> scratch = MakeScratchFolder();
   if (!scratch) return kExitFailure;
   const std::string file = scratch->File("ticket.json");
-  const std::string before = HouseTicketText(house, true);
   if (!WriteFileAtomically(file, before, 0600)) return Fail(file, std::strerror(errno));
-  const char* editor = std::getenv("VISUAL");
-  if (editor == nullptr) editor = std::getenv("EDITOR");
-  // As every program does that starts one: the variable is a command line of the user's own.
-  const std::string command =
-      std::string(editor != nullptr && *editor != '\0' ? editor : "editor") + " " + file;
-  if (!said && std::system(command.c_str()) != 0)
-    return Fail(command, "failed; the ticket is as it was");
-  std::string after;
-  if (!ReadInput(file, &after)) return kExitFailure;
-  if (after == before && !said) return kExitOk;
-  HouseTicket edited;
-  if (const std::string fault = ReadHouseTicket(after, &edited); !fault.empty())
-    return Fail(options.name, fault, "The ticket is as it was");
-  if (!Translate(options, &edited) || !AddDetails(options, &edited)) return kExitFailure;
-  return Keep(options, *store, edited);
+  for (;;) {
+    std::string after;
+    const Failure failure = EditFile(file);
+    if (!ReadInput(file, &after)) return kExitFailure;
+    if (after == before)
+      return failure.empty() ? kExitOk : Fail(options.name, failure, "The ticket is as it was");
+    HouseTicket edited;
+    const Failure fault = failure.empty() ? ReadHouseTicket(after, &edited) : failure;
+    int status = fault.empty() ? kExitFailure : Fail(options.name, fault);
+    if (fault.empty() && Translate(options, &edited) && AddDetails(options, &edited))
+      status = Keep(options, *store, edited, &before);
+    if (status == kExitOk) return status;
+    if (!WantsToEditAgain()) return KeepAside(options, after, status);
+  }
 }
 
 /// The tickets of the store that build on this one.
@@ -351,7 +304,11 @@ void SetUpHouseTickets(CLI::App& app, Action* action) {
       save->add_option("file", options->file, "settings in the readable form, or what show writes");
   file->capture_default_str();
   CLI::Option* job = save->add_option("--from-job", options->fromJob, "take those of this job");
+  CLI::Option* from =
+      save->add_option("--from", options->from, "take those of this job that the filter wrote");
   file->excludes(job);
+  from->excludes(job);
+  from->excludes(file);
   CLI::App* list = add("list", "Lists the tickets that are kept under a name", &List);
   list->add_flag("--json", options->json, "for programs");
   CLI::App* show = add("show", "Writes a ticket as save and edit take it", &Show);

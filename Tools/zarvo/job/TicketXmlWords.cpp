@@ -447,7 +447,8 @@ class Explainer {
   int depth_ = 0;
 };
 
-/// The printers read the account's mismatched end tag as it is; a reader of XML does not.
+}  // namespace
+
 std::string WithMatchingAccountTags(std::string_view xml) {
   constexpr std::string_view kEnd = "</job-accounting-id>";
   std::string text(xml);
@@ -455,8 +456,6 @@ std::string WithMatchingAccountTags(std::string_view xml) {
     text.replace(at, kEnd.size(), "</job-account-id>");
   return text;
 }
-
-}  // namespace
 
 Explanation ExplainTicketXml(std::string_view xml) {
   Explainer explainer;

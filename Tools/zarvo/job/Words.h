@@ -34,6 +34,10 @@ Explanation ExplainPjl(const std::vector<std::string>& lines);
 /// Explains an XML ticket.
 Explanation ExplainTicketXml(std::string_view xml);
 
+/// The XML ticket as a reader of XML takes it; the printers read the account's mismatched end tag
+/// as it is.
+std::string WithMatchingAccountTags(std::string_view xml);
+
 /// "Letter (216 x 279 mm)" for a known size in hundredths of a millimetre, else the millimetres.
 std::string SizeWords(long width, long height);
 
