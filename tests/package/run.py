@@ -145,7 +145,7 @@ class Cupsd(PrivateCupsd):
         return self
 
     def __exit__(self, *exception):
-        self.process.terminate()
+        self.process.kill()  # takes the spooler along; what runs it inside ignores a gentler signal
         self.process.wait()
 
     def run(self, *command):
