@@ -114,9 +114,13 @@ std::optional<Job> ReadJob(char** arguments, std::optional<JobNotices>* notices)
   notices->emplace(policy.failClosed || policy.standardTicket);
   (*notices)->Begin();
   StandardJob standard;
-  if (policy.standardTicket) standard = ReadStandardJob(arguments[1], arguments[2], options, &ppd);
+  if (policy.standardTicket)
+    standard = ReadStandardJob(arguments[1], arguments[2], options, &ppd);
+  else if (policy.failClosed || policy.hidden != Ppd::Hidden::kNo)
+    standard = ReadLeftOutOptions(arguments[1], arguments[2], options, &ppd);
   if (!policy.standardTicket && ppd.HasOption(kHouseTicketOption))
     for (const cups_option_t& option : options.span()) standard.ownNames.insert(option.name);
+  options.AddMissing(standard.leftOut);
   std::vector<std::string> faults;
   PpdChoices chosen = PpdTicketOptions(ppd, standard.ownNames, &faults);
   for (const std::string& dictionary : standard.ticket.without)

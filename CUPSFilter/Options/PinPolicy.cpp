@@ -23,7 +23,8 @@ namespace {
 constexpr const char* kJobTypeKey = key::kJobType;
 constexpr const char* kTypeKey = key::job_type::kJobType;  // within the group above
 constexpr const char* kPinKey = key::job_type::kSecurePrintPassword;
-constexpr std::string_view kPinRule = "a PIN takes 4 to 10 digits";
+constexpr const char* kJobPassword = "job-password";
+constexpr const char* kFeaturePassword = "ZRVJobPassword";
 
 bool EqualsIgnoringCase(std::string_view left, std::string_view right) {
   return left.size() == right.size() && strncasecmp(left.data(), right.data(), left.size()) == 0;
@@ -66,8 +67,7 @@ bool IsLike(std::string_view text, std::string_view wanted, std::size_t distance
 
 /// The way that an option which nobody reads was meant to give a PIN; empty when it was not.
 std::string_view MisspeltWay(std::string_view name) {
-  for (const std::string_view way :
-       {std::string_view(kPinOption), std::string_view("job-password")})
+  for (const std::string_view way : {std::string_view(kPinOption), std::string_view(kJobPassword)})
     if (!EqualsIgnoringCase(name, way) && IsLike(name, way, 1)) return way;
   if (NamesJobTypeEntry(name, kPinKey)) return "";
   for (std::string_view part : SplitName(name)) {
@@ -113,7 +113,7 @@ PinWays FindPins(const JobRequest& request, const QueuePolicy& policy) {
       fail(std::string(kPinOption) + ": " + fault);
     ways.Add(chosen);
   }
-  const char* password = Find(request.own, "job-password");
+  const char* password = Find(request.own, kJobPassword);
   if (password != nullptr && *password != '\0') {
     if (std::string fault = TypedPinFault(password); !fault.empty()) fail("job-password: " + fault);
     ways.Add(password);
@@ -125,7 +125,7 @@ PinWays FindPins(const JobRequest& request, const QueuePolicy& policy) {
       fail("an option that nobody knows looks like a misspelt PIN; did you mean " +
            std::string(meant) + "?");
   }
-  if (IsGiven(Find(request.own, "ZRVJobPassword")) && !policy.featurePassword)
+  if (IsGiven(Find(request.own, kFeaturePassword)) && !policy.featurePassword)
     fail(
         "ZRVJobPassword: this queue's driver has no job type to go with it; give the PIN as "
         "JobPIN=Custom.DIGITS");
@@ -195,11 +195,12 @@ const char* FindAlike(std::span<const cups_option_t> options, std::string_view n
   return value;
 }
 
-/// Whether the job asks to be a secure one by the PPD's option, be it misspelt.
+/// Whether the job asks to be a secure one by the PPD's option, be it misspelt or in braces.
 bool WantsSecure(const JobRequest& request) {
   constexpr std::size_t kMostLetters = 2;
   const char* type = FindAlike(request.own, "JobType");
-  return type != nullptr && IsLike(type, "Secure", kMostLetters);
+  return type != nullptr &&
+         (IsLike(type, "Secure", kMostLetters) || strcasestr(type, "secure") != nullptr);
 }
 
 /// The job has no PIN.
@@ -215,7 +216,8 @@ Judgement JudgeWithoutPin(const JobRequest& request, const QueuePolicy& policy,
         "type");
   if (!secure) return {};
   if (!policy.allowEmptyPin)
-    return Refusal("a secure job needs a PIN; give one as JobPIN=Custom.DIGITS (4 to 10 digits)");
+    return Refusal(std::string("a secure job needs a PIN; give one as JobPIN=Custom.DIGITS (") +
+                   std::string(kPinDigits) + ")");
   // Without the key nothing would say that the job is secure.
   CFDictionaryGetDictionaryOrCreate(*ticket, kJobTypeKey).insert_or_assign(kPinKey, Value(""));
   return {};
@@ -262,12 +264,16 @@ void TellCut(const Dictionary& options, std::string_view key, std::size_t most,
 
 }  // namespace
 
+bool CarriesPin(std::string_view option) {
+  for (const std::string_view way : {kPinOption, kJobPassword, kFeaturePassword})
+    if (EqualsIgnoringCase(option, way)) return true;
+  return NamesJobTypeEntry(option, kPinKey) || !MisspeltWay(option).empty();
+}
+
 std::string TypedPinFault(std::string_view pin) {
-  constexpr std::size_t kShortest = 4;
-  constexpr std::size_t kLongest = 10;
   const bool digits =
       std::all_of(pin.begin(), pin.end(), [](char c) { return c >= '0' && c <= '9'; });
-  if (digits && pin.size() >= kShortest && pin.size() <= kLongest) return "";
+  if (digits && pin.size() >= kShortestPin && pin.size() <= kLongestPin) return "";
   return std::string(kPinRule) + " and nothing else; choose another one";
 }
 

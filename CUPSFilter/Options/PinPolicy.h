@@ -25,6 +25,13 @@ namespace zarvo {
 inline constexpr char kPinOption[] = "JobPIN";
 inline constexpr char kFaxNumberOption[] = "FaxNumber";
 
+/// What people type as a PIN; the PPD says the same of its option.
+inline constexpr std::size_t kShortestPin = 4;
+inline constexpr std::size_t kLongestPin = 10;
+inline constexpr std::string_view kPinRule = "a PIN takes 4 to 10 digits";
+inline constexpr std::string_view kPinDigits =
+    kPinRule.substr(std::string_view("a PIN takes ").size());
+
 /// What a job asks for, as it came.
 struct JobRequest {
   std::span<const cups_option_t> own;         ///< the job's options
@@ -49,7 +56,11 @@ Judgement JudgeFax(const JobRequest& request, const Dictionary& ticket);
 /// gives a PIN, or is to be secure or a fax. For queues whose PPD cannot be read.
 bool AsksForSecrecy(const JobRequest& request, const Dictionary& ticket);
 
-/// What is wrong with a PIN that people type (4 to 10 digits); empty when nothing is.
+/// Whether the value of an option of that name is a PIN, or was meant as one. Names of the
+/// spooler's and the PPD's options count in any letter case.
+bool CarriesPin(std::string_view option);
+
+/// What is wrong with a PIN that people type; empty when nothing is.
 std::string TypedPinFault(std::string_view pin);
 
 /// What becomes of a ticket's PIN on its way to the printer.

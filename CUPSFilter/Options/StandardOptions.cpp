@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "CUPSFilter/Options/HouseTicketOption.h"
+#include "CUPSFilter/Options/PinPolicy.h"
 #include "CUPSFilter/Options/SchedulerRequest.h"
 #include "Platform/Clock.h"
 #include "Source/TicketNames.h"
@@ -15,6 +16,23 @@
 
 namespace zarvo {
 namespace {
+
+/// Whether an attribute that is not among a filter's options was meant to be: the PPD or the ticket
+/// reads it, it is a PIN, or it is misspelt. Names of standard collections have a hyphen.
+bool IsForFilters(ipp_attribute_t* attribute, const Ppd& ppd) {
+  const std::string name = ippGetName(attribute);
+  return CarriesPin(name) || ppd.HasOption(name.c_str()) || name.starts_with("com.") ||
+         (ippGetValueTag(attribute) == IPP_TAG_BEGIN_COLLECTION && name.find('-') == name.npos &&
+          !IsStandardAttribute(name));
+}
+
+/// The value as an option's, collections in braces.
+std::string WholeText(ipp_attribute_t* attribute) {
+  if (const std::optional<std::string> text = Attribute(attribute).Text()) return *text;
+  std::string text(ippAttributeString(attribute, nullptr, 0), '\0');
+  ippAttributeString(attribute, text.data(), text.size() + 1);
+  return text;
+}
 
 /// Any one character may stand between a type letter and what it leads to; here it is always "_".
 std::string Canonical(std::string_view name) {
@@ -90,23 +108,50 @@ void TakeHouseChoices(ipp_t* message, const Ppd& ppd, std::vector<std::string>* 
   for (const auto& [name, keyword] : kHouseNames) take(message, name, keyword);
 }
 
-}  // namespace
-
-StandardJob ReadStandardJob(const char* job_id, const char* user, const OptionList& options,
-                            Ppd* ppd) {
-  StandardJob job;
+/// Reads what the scheduler tells of the job, and marks in the PPD what the job itself has chosen
+/// of it as far as `standard`, else only what it left out. Nothing when nobody tells anything.
+IppMessage AskScheduler(const char* job_id, const char* user, const OptionList& options,
+                        bool standard, Ppd* ppd, StandardJob* job) {
+  if (!UnderScheduler()) return nullptr;
   IppMessage message;
-  const Failure why = UnderScheduler() ? RequestJobAttributes(job_id, user, &message) : "";
-  const bool answered = message != nullptr;
-  if (!message) message.reset(ippNew());
+  const Failure why = RequestJobAttributes(job_id, user, &message);
   for (ipp_attribute_t* known = ippFirstAttribute(message.get()); known != nullptr;
        known = ippNextAttribute(message.get())) {
     const char* name = ippGetName(known);
     if (name == nullptr) continue;
-    job.ownNames.insert(name);
-    const std::optional<std::string> choice = Attribute(known).Text();
+    std::optional<std::string> choice = standard ? Attribute(known).Text() : std::nullopt;
+    if (cupsGetOption(name, options.size(), options.data()) == nullptr && Attribute(known) &&
+        IsForFilters(known, *ppd)) {
+      choice = WholeText(known);
+      job->leftOut.Add(name, choice->c_str());
+    }
+    if (standard || choice) job->ownNames.insert(name);
     if (choice && ppd->HasOption(name)) ppd->MarkChoice(name, choice->c_str());
   }
+  if (!why.empty()) {
+    job->ticket.not_honoured.push_back({"collections such as media-col, cover-front or overrides",
+                                        "if the job has any, they are missing, because the "
+                                        "scheduler did not tell its attributes (" +
+                                            why + "); print again or use the PPD's options"});
+  }
+  return message;
+}
+
+}  // namespace
+
+StandardJob ReadLeftOutOptions(const char* job_id, const char* user, const OptionList& options,
+                               Ppd* ppd) {
+  StandardJob job;
+  AskScheduler(job_id, user, options, /*standard=*/false, ppd, &job);
+  return job;
+}
+
+StandardJob ReadStandardJob(const char* job_id, const char* user, const OptionList& options,
+                            Ppd* ppd) {
+  StandardJob job;
+  IppMessage message = AskScheduler(job_id, user, options, /*standard=*/true, ppd, &job);
+  const bool answered = message != nullptr;
+  if (!message) message.reset(ippNew());
   OptionNames told = job.ownNames;
   for (int i = 0; i < options.size(); ++i) {
     const cups_option_t& option = options.data()[i];
@@ -118,12 +163,6 @@ StandardJob ReadStandardJob(const char* job_id, const char* user, const OptionLi
   TakeHouseChoices(message.get(), *ppd, &job.houseChoices);
   job.ticket = MapStandardAttributes(message.get(), SystemClock().LocalSeconds());
   KeepReversedOrder(options, &job.ticket);
-  if (!why.empty()) {
-    job.ticket.not_honoured.push_back({"collections such as media-col, cover-front or overrides",
-                                       "if the job has any, they are missing, because the "
-                                       "scheduler did not tell its attributes (" +
-                                           why + "); print again or use the PPD's options"});
-  }
   return job;
 }
 

@@ -24,6 +24,9 @@ struct StandardJob {
   /// Choices of the PPD's option HouseTicket that templates and presets of the job stand for; they
   /// are no finishing of their own.
   std::vector<std::string> houseChoices;
+  /// What the scheduler keeps of the job and does not put into a filter's options: collections, which
+  /// is what its clients make of a custom choice in braces (JobPIN={Value=0391}), octets, URIs.
+  OptionList leftOut;
 };
 
 /// Reads the job's standard attributes. `options` are the filter's. Asks the scheduler when there
@@ -31,6 +34,11 @@ struct StandardJob {
 /// that the job names itself are marked in the PPD, in place of those that the spooler derived.
 StandardJob ReadStandardJob(const char* job_id, const char* user, const OptionList& options,
                             Ppd* ppd);
+
+/// Of the same only what is left out of `options`, for queues that do not look at the attributes
+/// but must not lose a PIN.
+StandardJob ReadLeftOutOptions(const char* job_id, const char* user, const OptionList& options,
+                               Ppd* ppd);
 
 /// The attributes' settings as options, and in `not_honoured` those that the job's own choices
 /// outrank with another value. A text that a choice leaves empty (as "secure" does with the PIN)

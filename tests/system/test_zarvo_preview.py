@@ -147,10 +147,7 @@ class Spooler(ZarvoTest):
         with PrivateCupsd() as cupsd, Printer() as printer:
             cupsd.add_queue("office", PPD, printer.uri)
             self.environment["CUPS_SERVER"] = f"127.0.0.1:{cupsd.port}"
-            # Without another program, in whose arguments everybody could read the PIN.
-            path = self.environment.pop("PATH")
             self.run_zarvo("print", job, settings, "-d", "office", "-o", "sides=one-sided", "-n", "2")
-            self.environment["PATH"] = path
             told = self.run_zarvo("explain", stdin=printer.wait())
             self.assertIn("  copies: 2\n", told)
             self.run_zarvo("print", job, self.path("bad.json", '{"JobType": {"SecurePrintPassword": "qwerty"}}'),
@@ -184,6 +181,43 @@ class Spooler(ZarvoTest):
                 self.assertIn("does not belong to root", self.run_zarvo("doctor", status=1))
             self.privacy(cupsd.root / "cupsd.conf")
         self.run_zarvo("print", job, "-d", "office", status=2)  # nobody answers
+
+    def test_no_program_gets_a_pin(self):
+        """Everybody reads the arguments of all programs, and who is the same user their environment."""
+        self.path("in.pdf", ghostscript("pdfwrite", document().encode()))
+        office = pathlib.Path(self.path("soffice", '#!/bin/sh\nmkdir "$8"; cp in.pdf "$8/letter.pdf"\n'))
+        office.chmod(0o755)
+        letter = self.path("letter.odt", "PK\3\4mimetypeapplication/vnd.oasis.opendocument.text")
+        self.environment["PATH"] = f"{self.scratch}:" + self.environment["PATH"]
+        self.environment["ASAN_OPTIONS"] = "detect_leaks=0"  # which another tracer hinders
+        trace = self.scratch / "trace"
+        self.prefix = ["strace", "-f", "-qq", "-v", "-s", "99999", "-e", "trace=execve", "-o", trace]
+        with PrivateCupsd() as cupsd, Printer() as printer:
+            cupsd.add_queue("office", BIN.parent / "ppd/zarvo.ppd", printer.uri)
+            self.environment["CUPS_SERVER"] = f"127.0.0.1:{cupsd.port}"
+            for pin in (
+                {"JobType": {"JobType": "secure", "SecurePrintPassword": "8260391745"}},
+                {"jobpin": "Custom.8260391745"}, {"JobPIN": "{Value=8260391745}"},
+                {"Job-Password": "8260391745"},
+            ):
+                settings = self.path("s.json", pin)
+                for command, programs in (
+                    (("print", letter, settings, "-d", "office"), {"zarvo", "soffice"}),
+                    (("preview", letter, "-s", settings, "-q", "office", "--output", "x.pdf"),
+                     {"zarvo", "soffice", "cupsfilter", "pdftops", "zarvofilter", "gs"}),
+                ):
+                    with self.subTest(pin=pin, command=command[0]):
+                        self.run_zarvo(*command)
+                        started = trace.read_text()
+                        self.assertLessEqual(programs, set(re.findall(r'execve\(".*?([\w-]+)",', started)))
+                        self.assertNotIn("8260391745", started)
+                with self.subTest(pin=pin):
+                    job = printer.wait()
+                    self.assertIn(b"JOB_TYPE_SECURE_PRINT", job[: job.index(b"%!PS-Adobe")])
+            settings = self.path("s.json", {"JobPIN": "Custom.8260391745", "job-password": "8260391740"})
+            self.run_zarvo("preview", letter, "-s", settings, "-q", "office", status=2)
+            self.assertIn("two different PINs", self.errors)
+            self.assertNotIn("cupsfilter", trace.read_text())
 
     def test_examples_of_the_help(self):
         """Every command's own examples do what they say, in the order of the commands."""

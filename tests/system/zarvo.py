@@ -29,6 +29,7 @@ def document(pages=1, size=(612, 792)):
 
 class ZarvoTest(unittest.TestCase):
     maxDiff = None
+    prefix = ()  # a program that runs the tool
 
     def setUp(self):
         scratch = tempfile.TemporaryDirectory()
@@ -56,7 +57,7 @@ class ZarvoTest(unittest.TestCase):
     def run_zarvo(self, *arguments, stdin=b"", status=0):
         """Standard output of the tool as text; the log is kept in self.errors."""
         done = subprocess.run(
-            [BIN / "zarvo", *arguments],
+            [*self.prefix, BIN / "zarvo", *arguments],
             input=stdin if isinstance(stdin, bytes) else stdin.encode(),
             capture_output=True,
             env=self.environment,

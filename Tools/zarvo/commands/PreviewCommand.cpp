@@ -335,6 +335,7 @@ int RunPreview(Options options) {
   std::string option_text = *text;
   if (!renderer.empty() && option_text.find(kRendererOption) == std::string::npos)
     option_text += std::string(option_text.empty() ? "" : " ") + kRendererOption + "=" + renderer;
+  if (const Failure fault = HidePins(&option_text); !fault.empty()) return Fail("settings", fault);
   Preview preview(options, option_text, ppd);
   const int status = preview.Run();
   if (!options.open || preview.FirstFile().empty() || status == kExitFailure) return status;

@@ -35,7 +35,7 @@ bool AskPin(const OptionList& options, Dictionary* ticket) {
       HoldsPin(*ticket) || !isatty(STDIN_FILENO) ||
       cupsGetOption("job-password", options.size(), options.data()) != nullptr)
     return true;
-  const std::string pin = ReadSecret("PIN (4 to 10 digits): ");
+  const std::string pin = ReadSecret(("PIN (" + std::string(kPinDigits) + "): ").c_str());
   if (const std::string fault = TypedPinFault(pin); !fault.empty())
     return Fail("PIN", fault), false;
   CFDictionaryGetDictionaryOrCreate(*ticket, key::kJobType)
@@ -116,6 +116,24 @@ std::optional<std::string> OptionTextOf(const JobOptions& job, const std::string
   if (!job.house.empty() && !PutHouseBelow(job.house, ppd_file, &options, &ticket))
     return std::nullopt;
   return OptionTextOf(options, ticket, job.settings.empty() ? job.house : job.settings, told);
+}
+
+Failure HidePins(std::string* options) {
+  const OptionList list = OptionList::Parse(options->c_str());
+  std::vector<FlatOption> hidden;
+  bool any = false;
+  for (const cups_option_t& option : list.span()) {
+    FlatOption& shown = hidden.emplace_back(FlatOption{option.name, option.value});
+    if (!CarriesPin(shown.name)) continue;
+    any = true;
+    for (char& c : shown.value)
+      if (c >= '0' && c <= '9') c = '0';
+  }
+  if (!any) return "";
+  // What passes is of digits, and the same wherever it is given.
+  if (const Failure fault = SecretFault(TicketOfOptions(*options)); !fault.empty()) return fault;
+  *options = OptionText(hidden);
+  return "";
 }
 
 }  // namespace zarvo::tool

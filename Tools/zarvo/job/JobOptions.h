@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "Platform/Failure.h"
 #include "Platform/Value.h"
 
 namespace CLI {
@@ -37,5 +38,10 @@ std::optional<std::string> OptionTextOf(const JobOptions& job, const std::string
 std::optional<std::string> OptionTextOf(const std::vector<std::string>& options,
                                         const Dictionary& ticket, const std::string& place,
                                         std::vector<std::string>* told);
+
+/// Puts other digits in place of every PIN in the text of options, which becomes the argument of
+/// programs, for everybody to read, that do no more than draw the job. Fails where the job would not
+/// be printed because of its PIN; what it then holds of it is nobody's business either.
+Failure HidePins(std::string* options);
 
 }  // namespace zarvo::tool

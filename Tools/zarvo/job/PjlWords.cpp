@@ -202,7 +202,8 @@ class Explainer {
     pin_ = true;
     p_encrypt(pin.data());  // which undoes itself
     if (!pin.empty() && !TypedPinFault(pin).empty())
-      Wrong("PIN: not 4 to 10 digits; other characters may be cut on their way to the printer");
+      Wrong("PIN: not " + std::string(kPinDigits) +
+            "; other characters may be cut on their way to the printer");
   }
 
   std::string Account(const Attribute& attribute, std::string_view value) {

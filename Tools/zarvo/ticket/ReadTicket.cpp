@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
+#include <strings.h>
+
 #include <algorithm>
 #include <charconv>
 #include <chrono>
@@ -7,6 +9,7 @@
 #include <sstream>
 
 #include "CUPSFilter/Options/ParseOptions.h"
+#include "CUPSFilter/Options/PinPolicy.h"
 #include "Platform/Clock.h"
 #include "Platform/PropertyList.h"
 #include "Platform/Text.h"
@@ -31,10 +34,11 @@ struct Unreadable {
 };
 
 /// The options outside the ticket that carry a PIN or an account: the spooler's and the PPD's.
-bool IsSecretOption(std::string_view name) {
-  constexpr std::string_view kOptions[] = {"ZRVJobPassword", "job-password", "JobPIN",
-                                           "AccountUser",    "AccountID",    "FaxBilling"};
-  return std::find(std::begin(kOptions), std::end(kOptions), name) != std::end(kOptions);
+bool IsSecretOption(const std::string& name) {
+  constexpr const char* kAccounts[] = {"AccountUser", "AccountID", "FaxBilling"};
+  return CarriesPin(name) ||
+         std::any_of(std::begin(kAccounts), std::end(kAccounts),
+                     [&name](const char* option) { return strcasecmp(name.c_str(), option) == 0; });
 }
 
 std::optional<std::int64_t> CodeOf(const TicketKey& key, const std::string& word) {

@@ -1,9 +1,14 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Tools/zarvo/ticket/TicketCheck.h"
 
+#include <cups/cups.h>
+#include <strings.h>
+
+#include <optional>
 #include <string_view>
 
 #include "CUPSFilter/Options/OptionCheck.h"
+#include "CUPSFilter/Options/OptionList.h"
 #include "CUPSFilter/Options/PinPolicy.h"
 #include "CUPSFilter/Options/TicketGaps.h"
 #include "Source/CFAdditions.h"
@@ -13,7 +18,22 @@
 namespace zarvo::tool {
 namespace {
 
-constexpr std::string_view kCustom = "Custom.";
+/// What a person typed where a PPD's option takes a text of one's own: Custom.TEXT or {Value=TEXT}.
+std::optional<std::string> TypedText(const Value& value) {
+  constexpr std::string_view kCustom = "Custom.";
+  const std::string* text = value.AsString();
+  if (text == nullptr) return std::nullopt;
+  if (strncasecmp(text->c_str(), kCustom.data(), kCustom.size()) == 0)
+    return text->substr(kCustom.size());
+  if (!text->starts_with('{')) return std::nullopt;
+  const OptionList members = OptionList::Parse(text->c_str());
+  const char* typed = cupsGetOption("Value", members.size(), members.data());
+  return typed != nullptr ? std::optional<std::string>(typed) : std::nullopt;
+}
+
+bool Is(const std::string& name, const char* option) {
+  return strcasecmp(name.c_str(), option) == 0;
+}
 
 /// What a queue that fails closed has to say of a job with this ticket.
 Judgement Judge(Dictionary ticket) {
@@ -23,11 +43,11 @@ Judgement Judge(Dictionary ticket) {
   std::vector<FlatOption> meant;  // by a choice of the PPD, which only the queue has
   const auto add = [&](std::string name, const Value& value) {
     const std::string* text = value.AsString();
-    const bool custom = text != nullptr && text->starts_with(kCustom);
-    if (custom && name == kPinOption)
-      meant.push_back({std::string(key::kJobType) + "..d_" + key::job_type::kSecurePrintPassword,
-                       text->substr(kCustom.size())});
-    else if (name != "JobType" && !(custom && name == kFaxNumberOption))
+    const std::optional<std::string> typed = TypedText(value);
+    if (typed && Is(name, kPinOption))
+      meant.push_back(
+          {std::string(key::kJobType) + "..d_" + key::job_type::kSecurePrintPassword, *typed});
+    else if (!Is(name, "JobType") && !(typed && Is(name, kFaxNumberOption)))
       flat.push_back({std::move(name), text != nullptr ? *text : "?"});
   };
   for (const auto& [name, value] : ticket) {
