@@ -3,6 +3,8 @@
 #include "Source/TicketNames.h"
 
 #include <algorithm>
+#include <array>
+#include <iterator>
 #include <limits>
 
 namespace zarvo {
@@ -46,33 +48,31 @@ constexpr CodeWord kStockTypes[] = {{kStandardStock, "standard"},
                                     {kEnvelopeStock, "envelopes"},
                                     {kLabelStock, "labels"},
                                     {kRecycledStock, "recycled"},
-                                    {kFirstCustomStock, "custom1"},
-                                    {16, "custom2"},
-                                    {17, "custom3"},
-                                    {18, "custom4"},
-                                    {19, "custom5"},
-                                    {20, "custom6"},
-                                    {kLastCustomStock, "custom7"},
                                     {kTabStock, "tabs"}};
-constexpr CodeWord kStockColors[] = {{kWhite, "white"},
-                                     {kBlue, "blue"},
-                                     {kYellow, "yellow"},
-                                     {kGreen, "green"},
-                                     {kPink, "pink"},
-                                     {kClear, "clear"},
-                                     {kBuff, "buff"},
-                                     {kGoldenrod, "goldenrod"},
-                                     {kRed, "red"},
-                                     {kIvory, "ivory"},
-                                     {kGray, "gray"},
-                                     {kOrange, "orange"},
-                                     {kFirstCustomStock, "custom1"},
-                                     {16, "custom2"},
-                                     {17, "custom3"},
-                                     {18, "custom4"},
-                                     {19, "custom5"},
-                                     {20, "custom6"},
-                                     {kLastCustomStock, "custom7"}};
+constexpr CodeWord kStockColors[] = {
+    {kWhite, "white"}, {kBlue, "blue"},   {kYellow, "yellow"}, {kGreen, "green"},
+    {kPink, "pink"},   {kClear, "clear"}, {kBuff, "buff"},     {kGoldenrod, "goldenrod"},
+    {kRed, "red"},     {kIvory, "ivory"}, {kGray, "gray"},     {kOrange, "orange"},
+};
+/// What the customer set up, types and colours alike.
+constexpr CodeWord kCustomStocks[] = {
+    {kFirstCustomStock, "custom1"},
+    {16, "custom2"},
+    {17, "custom3"},
+    {18, "custom4"},
+    {19, "custom5"},
+    {20, "custom6"},
+    {kLastCustomStock, "custom7"},
+};
+template <std::size_t kCount>
+constexpr auto WithCustom(const CodeWord (&words)[kCount]) {
+  std::array<CodeWord, kCount + std::size(kCustomStocks)> all{};
+  std::copy(std::begin(kCustomStocks), std::end(kCustomStocks),
+            std::copy(std::begin(words), std::end(words), all.begin()));
+  return all;
+}
+constexpr auto kAllStockTypes = WithCustom(kStockTypes);
+constexpr auto kAllStockColors = WithCustom(kStockColors);
 constexpr CodeWord kCoatings[] = {
     {1, "glossy"}, {2, "high-gloss"}, {3, "semi-gloss"}, {4, "satin"}, {5, "matte"}};
 constexpr CodeWord kCoatedSides[] = {{1, "both"}, {2, "front"}, {3, "back"}};
@@ -83,7 +83,7 @@ constexpr CodeWord kRecycled[] = {{0, "none"}, {1, "standard"}};
 constexpr TicketKey kStock[] = {
     {key::stock::kCoatedSides, kNumber, "which sides are coated", 1, 3, kCoatedSides},
     {key::stock::kCoating, kNumber, "kind of coating", 1, 5, kCoatings},
-    {key::stock::kColor, kNumber, "colour", 1, 21, kStockColors},
+    {key::stock::kColor, kNumber, "colour", 1, 21, kAllStockColors},
     {key::stock::kDescription, kText, "free description"},
     {key::stock::kFinish, kNumber, "surface finish", 1, 3, kFinishes},
     {key::stock::kGrain, kNumber, "grain direction", 1, 2, kGrains},
@@ -95,7 +95,7 @@ constexpr TicketKey kStock[] = {
     {key::stock::kRecycled, kNumber, "recycled stock", 0, 1, kRecycled},
     {key::stock::kSize, kNumber, "stock size code", kLowest, 99, kStockSizes},
     {key::stock::kSource, kNumber, "tray; 0 is the inserter behind the fuser", 0, 9},
-    {key::stock::kType, kNumber, "kind of stock", 1, 24, kStockTypes},
+    {key::stock::kType, kNumber, "kind of stock", 1, 24, kAllStockTypes},
     {key::stock::kWeight, kNumber, "weight, g/m2", 1, kHighest},
     {key::stock::kWidth, kNumber, "width of a size without a code, 1/100 mm", 1, kHighest},
 };
@@ -379,7 +379,7 @@ constexpr TicketKey kTopLevel[] = {
     Group(key::kInvertImageOptions, "negative and mirror", kInvertImage),
     Group(key::kJobLevelStock, "the job's paper", kStock),
     Group(key::kJobType, "what becomes of the job", kJobType),
-    {key::kSeparatorColor, kNumber, "colour of transparency separators", 1, 21, kStockColors},
+    {key::kSeparatorColor, kNumber, "colour of transparency separators", 1, 21, kAllStockColors},
     {key::kSeparatorOption, kNumber, "transparency separators", 1, 3, kSeparators},
     Group(key::kBackCover, "back cover", kCover),
     InXml(ListOf(key::kExceptionList, "page exceptions", kException)),
