@@ -51,7 +51,8 @@ class NotInRelease(Exception):
 class Corpus:
     def __init__(self, arguments):
         self.build = arguments.build
-        self.cache = arguments.build / "corpus"
+        # One for all builds: what the sanitized filter writes alike need not be drawn again.
+        self.cache = HERE.parent.parent / "build/corpus"
         self.output = arguments.build / "test-output/corpus"
         self.output.mkdir(parents=True, exist_ok=True)
         self.support = self.cache / "support"
