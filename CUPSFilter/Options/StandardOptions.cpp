@@ -161,7 +161,10 @@ StandardJob ReadStandardJob(const char* job_id, const char* user, const OptionLi
       cupsEncodeOption(message.get(), IPP_TAG_JOB, option.name, option.value);
   }
   TakeHouseChoices(message.get(), *ppd, &job.houseChoices);
-  job.ticket = MapStandardAttributes(message.get(), SystemClock().LocalSeconds());
+  StandardTicket mapped = MapStandardAttributes(message.get(), SystemClock().LocalSeconds());
+  std::move(job.ticket.not_honoured.begin(), job.ticket.not_honoured.end(),
+            std::back_inserter(mapped.not_honoured));
+  job.ticket = std::move(mapped);
   KeepReversedOrder(options, &job.ticket);
   return job;
 }

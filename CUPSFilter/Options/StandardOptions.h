@@ -24,8 +24,9 @@ struct StandardJob {
   /// Choices of the PPD's option HouseTicket that templates and presets of the job stand for; they
   /// are no finishing of their own.
   std::vector<std::string> houseChoices;
-  /// What the scheduler keeps of the job and does not put into a filter's options: collections, which
-  /// is what its clients make of a custom choice in braces (JobPIN={Value=0391}), octets, URIs.
+  /// What the scheduler keeps of the job and does not put into a filter's options: collections,
+  /// which is what its clients make of a custom choice in braces (JobPIN={Value=0391}), octets,
+  /// URIs.
   OptionList leftOut;
 };
 

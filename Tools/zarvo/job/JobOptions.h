@@ -40,8 +40,8 @@ std::optional<std::string> OptionTextOf(const std::vector<std::string>& options,
                                         std::vector<std::string>* told);
 
 /// Puts other digits in place of every PIN in the text of options, which becomes the argument of
-/// programs, for everybody to read, that do no more than draw the job. Fails where the job would not
-/// be printed because of its PIN; what it then holds of it is nobody's business either.
+/// programs, for everybody to read, that do no more than draw the job. Fails where the job would
+/// not be printed because of its PIN; what it then holds of it is nobody's business either.
 Failure HidePins(std::string* options);
 
 }  // namespace zarvo::tool
