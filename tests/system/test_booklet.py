@@ -17,7 +17,9 @@ import sys
 import tempfile
 import unittest
 
-BIN, TESTS = pathlib.Path(os.environ["ZARVO_BIN"]), pathlib.Path(os.environ["ZARVO_SOURCE"], "tests")
+from zarvo import run_filter
+
+TESTS = pathlib.Path(os.environ["ZARVO_SOURCE"], "tests")
 EXPECTED = TESTS / "system/expected/booklet.txt"
 LETTER, A4, A5 = (612, 792), (595, 842), (420, 595)
 MIXED = [LETTER, A4, (792, 612), A5, (300, 900)]
@@ -93,7 +95,9 @@ def ghostscript(device, document, *arguments):
 def impose(document, options=""):
     given = f" EmitJTML..n=0 BookletLayout..b=true {options}".replace(" WMS", " com.zarvo.WMS")
     given = re.sub(r" (?=\w+\.\.)", " com.zarvo.print.", given)
-    return run(BIN / "zarvofilter", "1", "user", "title", "1", given, stdin=document)
+    done = run_filter(given, document, cwd=TESTS / "golden",
+                      ZARVO_APPLICATION_SUPPORT=str(TESTS / "golden/support/watermarks"))  # fmt: skip
+    return done.stdout
 
 
 @functools.lru_cache(1000)

@@ -4,7 +4,6 @@
 import ctypes
 import os
 import pathlib
-import plistlib
 import re
 import resource
 import select

@@ -20,16 +20,15 @@ import time
 import unittest
 import uuid
 
+from zarvo import paged
+
 BIN = pathlib.Path(os.environ["ZARVO_BIN"])
 GOLDEN = pathlib.Path(os.environ["ZARVO_SOURCE"]) / "tests/golden"
 SANITIZED = b"__asan_init" in (BIN / "zarvofilter").read_bytes()
-PAGE = b"%%%%Page: %d %d\n%%%%BeginPageSetup\n%%%%EndPageSetup\n%s\nshowpage\nep\n"
-HEAD = b"%!PS-Adobe-3.0\n%%BeginProlog\n%%EndProlog\n%%BeginSetup\n%%EndSetup\n"
-TAIL = b"%%Trailer\n%%EOF\n"
-SMALL = HEAD + PAGE % (1, 1, b"") + TAIL
+SMALL = paged(b"")
 # A booklet prints the third of four pages last.
-LONG_LAST = HEAD + b"".join(PAGE % (n, n, b"0 " * 2000000 * (n == 3)) for n in range(1, 5)) + TAIL
-LARGE = HEAD + b"".join(PAGE % (n, n, b"0 0 moveto " * 20000) for n in range(1, 21)) + TAIL
+LONG_LAST = paged(*(b"0 " * 2000000 * (n == 3) for n in range(1, 5)))
+LARGE = paged(*[b"0 0 moveto " * 20000] * 20)
 
 FEATURES = {
     "plain": "",

@@ -13,7 +13,7 @@ import time
 import unittest
 
 from cupsd import BIN, PrivateCupsd, Printer
-from zarvo import document
+from zarvo import document, run_filter
 
 SOURCE = pathlib.Path(os.environ["ZARVO_SOURCE"])
 PPD = BIN.parent / "ppd/zarvo.ppd"
@@ -173,10 +173,8 @@ class HouseTickets(unittest.TestCase):
                          [line for line in before.splitlines() if re.search(r"HouseTicket[ .]handout|[a-zA-Z] handout/", line)])  # fmt: skip
 
     def filtered(self, options):
-        return subprocess.run(
-            [BIN / "zarvofilter", "1", "user", "title", "1", options, str(self.document)], check=True,
-            env={"PPD": str(self.cupsd.root / "ppd/office.ppd"), "HOME": str(self.folder),
-                 "ZARVO_APPLICATION_SUPPORT": str(self.folder)}, capture_output=True).stdout.decode()  # fmt: skip
+        return run_filter(options, b"", self.document, ppd=self.cupsd.root / "ppd/office.ppd",
+                          HOME=str(self.folder), ZARVO_APPLICATION_SUPPORT=str(self.folder)).stdout.decode()  # fmt: skip
 
     def test_the_tool_keeps_what_jobs_had(self):
         """Saved from a job, a ticket writes the same again."""

@@ -9,12 +9,12 @@ import os
 import pathlib
 import plistlib
 import re
-import subprocess
 import tempfile
 import unittest
 import xml.etree.ElementTree
 
-BIN = pathlib.Path(os.environ["ZARVO_BIN"])
+from zarvo import run_filter
+
 GOLDEN = pathlib.Path(os.environ["ZARVO_SOURCE"]) / "tests/golden"
 JOB = (GOLDEN / "input/plain.ps").read_bytes()
 EXIT = b"\x1b%-12345X"
@@ -138,19 +138,8 @@ class Injection(unittest.TestCase):
 
     def run_filter(self, text, options, keys, statuses=(0,), ppd=GOLDEN / "ppd/test.ppd"):
         options = options + [key.encode() + b"=" + quoted(text) for key in keys]
-        done = subprocess.run(
-            [BIN / "zarvofilter", "1", text, text, "1", b" ".join(options)],
-            input=JOB,
-            capture_output=True,
-            timeout=30,
-            env={
-                "PATH": os.environ["PATH"],
-                "TMPDIR": str(self.scratch),
-                "ZARVO_APPLICATION_SUPPORT": str(self.scratch),
-                "PPD": str(ppd),
-                "ASAN_OPTIONS": os.environ.get("ASAN_OPTIONS", ""),
-            },
-        )
+        done = run_filter(b" ".join(options), JOB, about=("1", text, text), ppd=ppd, TMPDIR=str(self.scratch),
+                          ZARVO_APPLICATION_SUPPORT=str(self.scratch))  # fmt: skip
         self.assertIn(done.returncode, statuses)
         return done
 
@@ -256,11 +245,8 @@ class Injection(unittest.TestCase):
             options = b"com.zarvo.print." + name + b"..n=-1 com.zarvo.print.Gutter..n=-5"
             options += b" com.zarvo.print.BookletLayout..b=true"
             with self.subTest(text=what):
-                done = subprocess.run(
-                    [BIN / "zarvofilter", "1", text, text, "1", options, b"/none/" + text],
-                    capture_output=True,
-                    env={"PPD": b"/none/" + text, "TMPDIR": str(self.scratch)},
-                )
+                done = run_filter(options, b"", b"/none/" + text, about=("1", text, text),
+                                  ppd=b"/none/" + text, TMPDIR=str(self.scratch))  # fmt: skip
                 self.assertEqual(done.returncode, 1)
                 for line in done.stderr.splitlines():
                     self.assertRegex(line, b"^(ERROR|DEBUG): ")

@@ -9,27 +9,23 @@ import concurrent.futures
 import os
 import pathlib
 import re
-import subprocess
 import tempfile
 import time
 import unittest
 
-from cupsd import BIN, PrivateCupsd, Printer
+from cupsd import PrivateCupsd, Printer
+from zarvo import paged, run_filter
 
 FULL = os.environ.get("ZARVO_LOAD") == "full"
 PROCESSES, AT_ONCE = (2000, 64) if FULL else (100, 32)
 JOBS, QUEUES = (500, 16) if FULL else (24, 4)
 GOLDEN = pathlib.Path(os.environ["ZARVO_SOURCE"]) / "tests/golden"
 PPD = GOLDEN / "ppd/test.ppd"
-PAGE = b"%%%%Page: %d %d\n%%%%BeginPageSetup\n%%%%EndPageSetup\n%s\nshowpage\nep\n"
-HEAD = b"%!PS-Adobe-3.0\n%%BeginProlog\n%%EndProlog\n%%BeginSetup\n%%EndSetup\n"
-TAIL = b"%%Trailer\n%%EOF\n"
 P = "com.zarvo.print."
 
 
 def job(pages, bytes_each):
-    body = b"".join(PAGE % (n, n, b"0 0 moveto " * (bytes_each // 11)) for n in range(pages))
-    return HEAD + body + TAIL
+    return paged(*[b"0 0 moveto " * (bytes_each // 11)] * pages)
 
 
 JOBS_BY_NAME = {"small": job(2, 50), "pages": job(60, 1000), "large": job(3, 2 << 20)}
@@ -67,19 +63,10 @@ class Load(unittest.TestCase):
     def test_processes(self):
         spool = self.scratch / "spool"
         spool.mkdir()
-        environment = {
-            "PATH": os.environ["PATH"],
-            "TMPDIR": str(spool),
-            "PPD": str(PPD),
-            "ASAN_OPTIONS": os.environ.get("ASAN_OPTIONS", ""),
-        }
 
         def run(what):
             name, kind = what
-            command = [BIN / "zarvofilter", "1", "u", "t", "1", " ".join(OPTIONS[kind])]
-            done = subprocess.run(
-                [*command, self.files[name]], env=environment, capture_output=True, timeout=300
-            )
+            done = run_filter(" ".join(OPTIONS[kind]), b"", self.files[name], TMPDIR=str(spool))
             return done.returncode, without_time(done.stdout)
 
         alone = {what: run(what) for what in set(MIX)}

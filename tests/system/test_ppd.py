@@ -16,6 +16,8 @@ import subprocess
 import sys
 import unittest
 
+from zarvo import run_filter
+
 BIN = pathlib.Path(os.environ["ZARVO_BIN"])
 SOURCE = pathlib.Path(os.environ["ZARVO_SOURCE"])
 PPD = BIN.parent / "ppd/zarvo.ppd"
@@ -65,12 +67,7 @@ def choices():
 
 @functools.cache
 def run(options):
-    done = subprocess.run(
-        [BIN / "zarvofilter", "1", "user", "title", "1", options],
-        input=JOB, capture_output=True, timeout=60,
-        env={"PATH": os.environ["PATH"], "PPD": str(PPD), "TZ": "UTC",
-             "ZARVO_APPLICATION_SUPPORT": str(STORE_ROOT)},
-    )  # fmt: skip
+    done = run_filter(options, JOB, ppd=PPD, ZARVO_APPLICATION_SUPPORT=str(STORE_ROOT))
     if done.returncode == 1:  # by the queue's policy; the log has its reason
         return re.findall(r"(?<=not printed: )[^;]*", done.stderr.decode())
     assert b"ERROR" not in done.stderr, done.stderr

@@ -10,6 +10,7 @@ import tempfile
 import unittest
 
 from cupsd import BIN, PrivateCupsd, Printer
+from zarvo import run_filter
 
 GOLDEN = pathlib.Path(os.environ["ZARVO_SOURCE"]) / "tests/golden"
 PPD = BIN.parent / "ppd/zarvo.ppd"
@@ -112,12 +113,8 @@ class Secrets(unittest.TestCase):
         self.scratch = pathlib.Path(self.enterContext(tempfile.TemporaryDirectory()))
 
     def run_filter(self, options, ppd=PPD, **arguments):
-        done = subprocess.run(
-            [BIN / "zarvofilter", "1", "user", "title", "1", options],
-            input=JOB, capture_output=True, timeout=60, **arguments,
-            env={"PATH": os.environ["PATH"], "PPD": str(ppd), "TMPDIR": str(self.scratch),
-                 "ZARVO_APPLICATION_SUPPORT": str(GOLDEN / "support/watermarks")},
-        )  # fmt: skip
+        done = run_filter(options, JOB, ppd=ppd, TMPDIR=str(self.scratch), **arguments,
+                          ZARVO_APPLICATION_SUPPORT=str(GOLDEN / "support/watermarks"))  # fmt: skip
         log = done.stderr.decode("utf-8", "replace").splitlines()
         for line in log:
             for secret in SECRETS:

@@ -7,7 +7,7 @@ import re
 import subprocess
 import unittest
 
-from cupsd import BIN, PrivateCupsd, Printer
+from cupsd import PrivateCupsd, Printer
 
 SOURCE = pathlib.Path(os.environ["ZARVO_SOURCE"])
 OUTPUT = pathlib.Path(os.environ["ZARVO_TEST_OUTPUT"]) / "spooler"

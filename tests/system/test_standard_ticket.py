@@ -19,6 +19,7 @@ import tomllib
 import unittest
 
 from cupsd import BIN, PrivateCupsd, Printer
+from zarvo import run_filter
 
 SOURCE = pathlib.Path(os.environ["ZARVO_SOURCE"])
 PPD = BIN.parent / "ppd/zarvo.ppd"
@@ -277,10 +278,8 @@ def serve_once(server, answer):
 class Faults(unittest.TestCase):
     def print(self, options="finishings=28", **environment):
         with tempfile.TemporaryDirectory() as folder:
-            done = subprocess.run(
-                [BIN / "zarvofilter", "7", "user", "title", "1", options, JOB],
-                env={"PPD": str(PPD), "TMPDIR": folder, "CUPS_REQUESTROOT": folder, **environment},
-                capture_output=True, timeout=25)  # fmt: skip
+            done = run_filter(options, b"", JOB, about=("7", "user", "title"), ppd=PPD, TMPDIR=folder,
+                              timeout=25, CUPS_REQUESTROOT=folder, **environment)  # fmt: skip
         self.assertEqual(done.returncode, 0, done.stderr)
         self.assertTrue(done.stdout.endswith(b"EOJ\n\x1b%-12345X\n"))
         log = done.stderr.decode().splitlines()

@@ -5,9 +5,10 @@ import os
 import pathlib
 import random
 import re
-import subprocess
 import unittest
 from xml.etree import ElementTree
+
+from zarvo import run_filter
 
 SOURCE = pathlib.Path(os.environ["ZARVO_SOURCE"])
 PAGE = (SOURCE / "docs/ticket.md").read_text(encoding="utf-8")
@@ -20,11 +21,7 @@ VALUES += "0 1 2 3 4 5 8 13 15 22 30 49 52 645 2147483647 -2147483648 -1 false t
 
 def printed(options):
     """What the filter makes of a job with these options."""
-    filter_program = pathlib.Path(os.environ["ZARVO_BIN"], "zarvofilter")
-    environment = {name: value for name, value in os.environ.items() if name != "PPD"}
-    done = subprocess.run([filter_program, "1", "u", "t", "1", options],
-                          input=JOB, capture_output=True, env=environment, timeout=60)
-    return done.stdout.decode("utf-8", "replace")
+    return run_filter(options, JOB, ppd="").stdout.decode("utf-8", "replace")
 
 
 class TicketPage(unittest.TestCase):

@@ -27,6 +27,25 @@ def document(pages=1, size=(612, 792)):
     return text + "%%Trailer\n%%EOF\n"
 
 
+def run_filter(options, job=b"", *file, about=("1", "user", "title"), ppd=PPD, cwd=None, preexec_fn=None, timeout=300,
+               **environment):  # fmt: skip
+    """One job through the filter, by itself; what subprocess.run gives. Of the environment the job has
+    what is given here and little else."""
+    usual = {"PATH": os.environ["PATH"], "TZ": "UTC", "PPD": ppd,
+             "ASAN_OPTIONS": os.environ.get("ASAN_OPTIONS", "")}  # fmt: skip
+    return subprocess.run([BIN / "zarvofilter", *about, "1", options, *file], input=job,
+                          capture_output=True, timeout=timeout, cwd=cwd, preexec_fn=preexec_fn,
+                          env=usual | environment)  # fmt: skip
+
+
+def paged(*bodies):
+    """A PostScript job of pages with these contents, which are numbered from 1."""
+    head = b"%!PS-Adobe-3.0\n%%BeginProlog\n%%EndProlog\n%%BeginSetup\n%%EndSetup\n"
+    page = b"%%%%Page: %d %d\n%%%%BeginPageSetup\n%%%%EndPageSetup\n%s\nshowpage\nep\n"
+    pages = (page % (number, number, body) for number, body in enumerate(bodies, 1))
+    return head + b"".join(pages) + b"%%Trailer\n%%EOF\n"
+
+
 class ZarvoTest(unittest.TestCase):
     maxDiff = None
     prefix = ()  # a program that runs the tool
