@@ -43,7 +43,9 @@ class Confinement(ZarvoTest):
         self.spool.mkdir()
         self.spool.chmod(0o1777)
         self.environment["TMPDIR"] = str(self.spool)
-        # A place of its own, where another helper can stand beside the filter.
+        # A place of its own, where another helper can stand beside the filter, and which the spooler's
+        # user can enter even when the tree lies in a private home.
+        self.ppd = shutil.copy(PPD, self.scratch)
         self.program = shutil.copy(BIN / "zarvofilter", self.scratch)
         self.helper = pathlib.Path(shutil.copy(BIN / "zarvodraw", self.scratch))
         logo = {"filename": "logo", "filePath": self.path("logo.png", png(4, 4, (255, 0, 0))),
@@ -53,7 +55,7 @@ class Confinement(ZarvoTest):
         (self.scratch / "data/Zarvo").chmod(0o755)
 
     def start(self, options, **how):
-        environment = self.environment | {"PPD": str(PPD)} | how.pop("environment", {})
+        environment = self.environment | {"PPD": self.ppd} | how.pop("environment", {})
         return subprocess.Popen([self.program, "1", "ada", "title", "1", options], env=environment,
                                 stdin=subprocess.PIPE, stdout=subprocess.PIPE,
                                 stderr=subprocess.PIPE, **how)  # fmt: skip
@@ -163,7 +165,7 @@ ls /proc/$PPID/fd && echo REACHED
             f"{P}JobType..d_SavedJobName", f"{P}FaxOptions..d_SenderName", f"{P}FinishingCustom",
             f"{P}BackgroundFormsOptions..d_NewFormString"))  # fmt: skip
         job = self.path("job.ps", document(2).replace("%%EOF", f"({decoy}) run\n%%EOF"))
-        ours = [job, str(PPD), str(self.scratch / "data/Zarvo"), str(self.scratch / "logo.png"),
+        ours = [job, self.ppd, str(self.scratch / "data/Zarvo"), str(self.scratch / "logo.png"),
                 str(self.spool), self.program, str(self.helper), str(self.scratch / ".cache")]
         for options in (texts, f"{texts} {IMAGE}", f"{texts} {COVER}", f"{texts} {BOOKLET}"):
             with self.subTest(options=options[len(texts):][-40:]):
@@ -171,7 +173,7 @@ ls /proc/$PPID/fd && echo REACHED
                 subprocess.run(
                     ["strace", "-f", "-qq", "-e", "trace=open,openat,openat2,creat", "-o", trace,
                      self.program, "1", "ada", "title", "1", options, job],
-                    env=self.environment | {"PPD": str(PPD)}, check=True, capture_output=True,
+                    env=self.environment | {"PPD": self.ppd}, check=True, capture_output=True,
                     timeout=120)  # fmt: skip
                 opened = re.findall(r'open\w*\((?:AT_FDCWD, )?"([^"]+)".* = \d+', trace.read_text())
                 self.assertIn(job, opened)
