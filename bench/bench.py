@@ -52,6 +52,19 @@ def make_job(path, size, pages=1, end=b"\n", width=36, counted=False):
         job.write((b"%%Trailer\n%%EOF\n").replace(b"\n", end))
 
 
+def make_manual(path, size, pages):
+    """Pages of text under the operators of a converter of PDFs."""
+    start = b"595 842 pdfSetupPaper\npdfStartPage\n[] 0 d\n1 i\n0 j\n0 J\n10 M\n1 w\nq\n[0.93 0 0 0.93 12 51.5] cm\n"
+    word = b"-333 TJm\n(uplot)\n[5.53\n0\n5.5\n0\n2.7\n0\n4.9\n0\n3.87\n0] Tj\n"
+    line = b"[1 0 0 1 0 0] Tm\n0 0 Td\n72 700.7 Td\n/F7_0 9.9 Tf\n" + word * 8
+    lines = line * (size // pages // len(line))
+    with open(path, "wb") as job:
+        job.write(HEAD)
+        for page in range(1, pages + 1):
+            job.write(PAGE % (page, page) + start + lines + b"Q\nshowpage\n")
+        job.write(b"%%Trailer\n%%EOF\n")
+
+
 def make_png(path, width, height):
     def chunk(kind, data):
         return struct.pack(">I", len(data)) + kind + data + struct.pack(">I", zlib.crc32(kind + data))
@@ -274,6 +287,12 @@ def main():
         bench.row("CR line ends / plain", ours(file=job["cr"]), plain, [("cpu", 1.3)])
         bench.row("lines over 8191 bytes / plain", ours(file=job["long"]), plain, [("cpu", 1.3)])
         bench.row("watermark on 2000 pages / plain", ours(WATERMARK, job["pages"]), plain, [("cpu", 1.3)])
+        manual = folder / "manual.ps"
+        make_manual(manual, size, 5000)
+        hooks = ["env", f"PPD={BIN.parent / 'ppd/zarvo.ppd'}"]
+        mark = "Watermark=Custom.Bench WMPlace=Foreground"
+        bench.row("watermark that finds its direction, 5000 pages / told", hooks + ours(mark, manual),
+                  hooks + ours(mark + " WMTurn=0", manual), [("cpu", 1.3)])  # fmt: skip
         bench.row("job-type matching on / plain", ours("ZRVJobPassword=1", job["lines"]), plain,
                   [("cpu", 1.3)])  # fmt: skip
         twice = ["sh", "-c", 'cat "$1" > "$2"; cat "$2"', "sh", str(job["pages"]), str(folder / "copy")]

@@ -2,6 +2,7 @@
 #include "CUPSFilter/CopyPass/LineScan.h"
 
 #include <algorithm>
+#include <bit>
 #include <cstdint>
 #include <cstring>
 
@@ -79,10 +80,27 @@ struct TurningNames {
 
   static bool Is(const char* at) {
     const char second = at[1];
-    return ((at[0] == 'c' || at[0] == 'T') && second == 'm') || (at[0] == 'o' && second == 't') ||
-           (at[0] == 'n' && second == 'c') || (at[0] == 's' && second == 'l');
+    if ((at[0] == 'o' && second == 't') || (at[0] == 'n' && second == 'c')) return at[2] == 'a';
+    return ((at[0] == 'c' || at[0] == 'T') && second == 'm') || (at[0] == 's' && second == 'l');
   }
 };
+
+/// The first of a block's lanes that hold what is wanted, or null.
+template <class Wanted>
+const char* Among(const char* from, Mask mask) {
+  constexpr bool kLittle = std::endian::native == std::endian::little;
+  std::uint64_t halves[2];
+  std::memcpy(&halves, &mask, sizeof mask);
+  for (std::uint64_t& half : halves) {
+    while (half != 0) {
+      const int lane = (kLittle ? std::countr_zero(half) : std::countl_zero(half)) / 8;
+      if (Wanted::Is(from + lane)) return from + lane;
+      half &= ~(std::uint64_t{0xFF} << 8 * (kLittle ? lane : 7 - lane));
+    }
+    from += sizeof half;
+  }
+  return nullptr;
+}
 
 template <class Wanted>
 const char* Next(const char* from, const char* end) {
@@ -92,10 +110,8 @@ const char* Next(const char* from, const char* end) {
     const Mask first = Wanted::At(from);
     const Mask second = Wanted::At(from + kBlock);
     if (AnySet(first | second)) {
-      for (int i = 0; i < 2 * kBlock && from < end; ++i, ++from) {
-        if (Wanted::Is(from)) return from;
-      }
-      continue;
+      if (const char* found = Among<Wanted>(from, first)) return std::min(found, end);
+      if (const char* found = Among<Wanted>(from + kBlock, second)) return std::min(found, end);
     }
     from += 2 * kBlock;
   }
@@ -115,8 +131,8 @@ const char* NextTurningName(const char* from, const char* end) {
     from = Next<TurningNames>(from, near);
     if (from != near) return from;
   }
-  while (end - from > 1 && !TurningNames::Is(from)) ++from;
-  return end - from > 1 ? from : end;
+  while (end - from > 2 && !TurningNames::Is(from)) ++from;
+  return end - from > 2 ? from : end;
 }
 
 }  // namespace zarvo

@@ -13,6 +13,7 @@ namespace {
 /// Whether the matrix in front of an operator leaves what it holds for upright as it is. What is
 /// not seen at a glance does not.
 bool IsUprightMatrix(std::string_view before) {
+  if (before.ends_with("[1 0 0 1 0 0] ")) return true;  // as one converter begins each line
   while (!before.empty() && (IsSpace(before.back()) || before.back() == ']'))
     before.remove_suffix(1);
   constexpr std::size_t kLongest = 120;

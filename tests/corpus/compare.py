@@ -80,8 +80,9 @@ def marked(page, plain, mask, paper=None):
 
 
 def overlaid(page, plain, mask):
-    """As marked(), of a mark that lets the page shine through."""
-    around = grown(mask, page.width, 2)
+    """As marked(), of a mark that lets the page shine through: of thin lines, which fall on other
+    pixels when they are turned."""
+    around = grown(mask, page.width, 3)
     if (page.width, page.height) != (plain.width, plain.height):
         return f"{page.width}x{page.height} instead of {plain.width}x{plain.height}"
     if lost := different(page, plain) & ~around:
