@@ -14,6 +14,8 @@ namespace zarvo {
 /// "zarvo why", without any right but to ask.
 inline constexpr char kRefusedState[] = "com.zarvo.job-refused-warning";
 inline constexpr char kNotAsAskedState[] = "com.zarvo.not-as-asked-report";
+/// What stands before the reason of a job of which nothing is printed.
+inline constexpr char kRefusal[] = "the job was not printed: ";
 /// What stands before several notices in one line, each after its number: "(1) ... (2) ...".
 inline constexpr char kSummaryStart[] = "Not as asked: ";
 

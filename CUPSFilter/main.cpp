@@ -144,7 +144,7 @@ std::optional<Job> ReadJob(char** arguments, std::optional<JobNotices>* notices)
   for (const std::string& text : verdict.notices) (*notices)->Add(text);
   // The spooler shows people the first of all errors.
   if (!refusal.empty()) {
-    (*notices)->TellFailure("the job was not printed: " + refusal);
+    (*notices)->TellFailure(kRefusal + refusal);
     (*notices)->MarkRefused();
   }
   for (const std::string& fault : faults) LogLine("ERROR: %s", fault.c_str());

@@ -60,6 +60,7 @@ CopyPlan ReadCopyPlan(const Ppd& ppd, const Dictionary& ticket,
   const bool sets =
       collate != nullptr ? std::string_view(collate) == "collated" : MakesSets(ticket);
   plan.sets = plan.copies > 1 && !said && sets;
+  plan.chosen = Find(options, "page-ranges") != nullptr || Find(options, "page-set") != nullptr;
   plan.booklet = DictionaryGetBoolean(ticket, key::kBookletLayout) == true;
   plan.pagesPerSheet = Duplex != 0 && !IsFax(ticket) ? 2 : 1;
   const char* sides = Find(options, "sides");

@@ -28,6 +28,7 @@ struct CopyPlan {
   int copies = 1;         ///< that the printer will make
   bool once = false;      ///< a fax: whatever the set-up says, one copy
   bool sets = false;      ///< sets are to be collated although the job does not say so
+  bool chosen = false;    ///< the job asks for some of the document's pages
   bool booklet = false;   ///< its sheets are known only when it has been imposed
   int pagesPerSheet = 1;  ///< 2 for two-sided jobs
   int logged = 1;         ///< what the spooler has to be given for one sheet
@@ -52,6 +53,8 @@ class Copies {
   /// Ahead of each of the document's own structure comments.
   void BeforeLine(std::string_view line);
   void Finish();
+  /// The document has none of the pages that the job asks for.
+  bool ChoseNone() const { return plan_.counted && plan_.chosen && Sheets() == 0; }
 
  private:
   long Sheets() const;

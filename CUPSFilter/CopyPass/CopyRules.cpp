@@ -252,6 +252,8 @@ void CopyRules::Finish() {
   if (!page_hooks_) return;
   frame_.End();
   copies_.Finish();
+  if (copies_.ChoseNone() && notices_ != nullptr)
+    notices_->Add("page-ranges, page-set: the document has none of these pages, nothing comes out");
   page_hooks_->Finish();
 }
 
@@ -280,8 +282,10 @@ void CopyRules::Refuse() {
                  ? "the job was cut short: the document goes on behind its end or an exit from its "
                    "language, where its PIN or fax number does not hold any more; print it by "
                    "another program"
-                 : "the job was not printed: the document does not begin with %!PS-Adobe, so its "
-                   "PIN or fax number would not hold; print it by another program";
+                 : kRefusal + std::string(
+                                  "the document does not begin with %!PS-Adobe, so its PIN "
+                                  "or fax number would not hold; print it by another "
+                                  "program");
   output_.Fail(ECANCELED);
 }
 

@@ -230,6 +230,7 @@ class Person(unittest.TestCase):
         ("-o JobPIN=Custom.391 -o Staple=TopLft", 1, ["  - the job was not printed: JobPIN: a PIN takes "
                                                       "4 to 10 digits", "\n  - option Staple: no choice"]),
         ("-o FaxNumber=Custom", 1, ["would come out on paper"]),
+        ("-o page-ranges=90-91", 1, ["was printed; not as asked:", "none of these pages"]),
         ("", 0, ["was printed."]),  # nothing is left of those before
     ]  # fmt: skip
 

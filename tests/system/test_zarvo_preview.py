@@ -120,13 +120,15 @@ class Preview(ZarvoTest):
         self.assertEqual([*self.scratch.glob("zarvo-*"), *self.scratch.glob("gs_*")], [])
 
     def test_what_cannot_be_drawn(self):
-        good = document()
+        good, pdf = document(), ghostscript("pdfwrite", document(3).encode())
         for content, options, cause in (
             ("", [], "neither PostScript nor PDF"),
             ("%PDF-1.4 nonsense", [], "cannot"),
             ("%!PS-Adobe-3.0\n%%Page: 1 1\nundefinedname\n%%EOF\n", [], "/undefined in undefinedname"),
             (good, ["-p", self.path("bad.ppd", "no PPD")], "bad.ppd"),
             (good, ["-s", self.path("bad.json", '{"a b": {"c": 1}}')], "a b"),
+            (good, ["-p", str(BIN.parent / "ppd/zarvo.ppd"), "-o", "JobType=Secure"], "a secure job needs a PIN"),
+            (pdf, ["-p", str(BIN.parent / "ppd/zarvo.ppd"), "-o", "page-ranges=9"], "none of these pages"),
             (good, ["--output", "/missing/x.pdf"], "/missing"),
             (good, ["--output", "x.jpg"], "neither in .pdf nor in .png"),
             ("PK\3\4mimetypeapplication/vnd.oasis.opendocument.text", [], "libreoffice-writer-nogui"),

@@ -107,7 +107,12 @@ class Preview {
     }
     const Failure failure = DrawAll();
     if (status_ == kExitFailure) return status_;  // told already
-    if (!failure.empty()) return Fail(Title(), failure);
+    if (!failure.empty()) {
+      for (const Complaint& complaint : complaints_)
+        if (failure.find(complaint.text) == std::string::npos)
+          Tell("the filter says: " + complaint.text);
+      return Fail(Title(), failure);
+    }
     const std::vector<std::string> findings = Findings(report_);
     if (options_.output != "-") PrintPlan();
     bool fault = !findings.empty();
@@ -164,7 +169,7 @@ class Preview {
         [&progress](std::uint64_t done, std::uint64_t total) { progress.Count(done, total); },
         &split, &complaints_);
     if (!failure.empty()) return failure;
-    if (split.files.empty()) return "the job holds no PostScript";
+    if (split.files.empty()) return NoPage();
     report_ = ReportOn(split.facts);
     special_ = FindSpecialSheets(report_.ticket);
     if (FindProgram("gs").empty())

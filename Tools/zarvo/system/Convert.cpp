@@ -11,6 +11,7 @@
 #include <fstream>
 #include <optional>
 
+#include "CUPSFilter/JobNotices.h"
 #include "Platform/Process.h"
 #include "Platform/UniqueFd.h"
 #include "Tools/zarvo/system/Office.h"
@@ -91,8 +92,12 @@ class Chain {
     if (converter) {
       const int converted = converter->Wait();
       converter_log_ = ReadLog(errors.get());
-      if (!WIFEXITED(converted) || WEXITSTATUS(converted) != 0 || split->files.empty())
-        return false;
+      // A filter that refuses a job ends before the converter does.
+      if (filter_log_.find(kRefusal) != std::string::npos) return Failed(ErrorLines(filter_log_));
+      // A document may have none of the pages that are asked for, which the filter tells.
+      const bool nothing = split->files.empty() && !filter_log_.starts_with("WARNING: ") &&
+                           filter_log_.find("\nWARNING: ") == std::string::npos;
+      if (!WIFEXITED(converted) || WEXITSTATUS(converted) != 0 || nothing) return false;
     }
     if (failure_.empty() && (!WIFEXITED(status) || WEXITSTATUS(status) != 0))
       failure_ = FilterPath() + ": " + ErrorLines(filter_log_);

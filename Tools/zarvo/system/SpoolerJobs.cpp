@@ -66,6 +66,15 @@ SpoolerJob Newest(ipp_t* answer) {
   }
 }
 
+/// What a converter finds strange in a PDF file that it prints all the same:
+/// "/var/spool/cups/d00024-001 (object 120 0, offset 57435): dictionary has duplicated key".
+bool IsOnFile(const std::string& message) {
+  const std::size_t place = message.find(" (");
+  const std::size_t text = message.find("): ");
+  return message.starts_with('/') && place < text && text != std::string::npos &&
+         message.find("offset ", place) < text;
+}
+
 }  // namespace
 
 Failure FindSpoolerJob(int number, SpoolerJob* job) {
@@ -95,7 +104,15 @@ int JobNumber(const std::string& name) {
 std::vector<std::string> NoticesOf(const std::string& message) {
   if (message.empty()) return {};
   const std::size_t summary = message.find(kSummaryStart + std::string("(1) "));
-  if (summary == std::string::npos) return {message};
+  if (summary == std::string::npos) {
+    if (IsOnFile(message)) return {};
+    // Two converters have written into one line.
+    if (message.starts_with("STATE: "))
+      return {
+          "the spooler has lost the reason among lines of its converters; it stands in the "
+          "error log"};
+    return {message};
+  }
   std::vector<std::string> notices;
   constexpr std::string_view kBefore = ". ";
   if (summary > kBefore.size()) notices.push_back(message.substr(0, summary - kBefore.size()));

@@ -35,7 +35,8 @@ Failure FindSpoolerJob(int number, SpoolerJob* job);
 /// The number in a job's name as lp tells it ("office-12") or in plain digits; 0 for other texts.
 int JobNumber(const std::string& name);
 
-/// The single notices of a job's message, which may hold several.
+/// The single notices of a job's message, which may hold several; not what converters say of a
+/// file.
 std::vector<std::string> NoticesOf(const std::string& message);
 
 }  // namespace zarvo::tool
