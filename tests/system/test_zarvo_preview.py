@@ -329,11 +329,15 @@ class Manners(ZarvoTest):
         self.assertEqual(len(pages), 11)
         told = subprocess.run(["groff", "-man", "-Tutf8", "-ww", *pages], capture_output=True)
         self.assertEqual(told.stderr, b"")
+        self.run_zarvo("recipient", "add", "--first", "Ada", "--last", "King", "--fax", "0911")
         script = self.path("try.bash", self.run_zarvo("manual", "--completion", "bash") + f"""
             zarvo() {{ {BIN}/zarvo "$@"; }}
             try() {{ COMP_LINE=$1 COMP_POINT=${{#1}}; _zarvo; echo ${{COMPREPLY[@]}}; }}
-            try 'zarvo watermark add-te'; try 'zarvo ticket decode --s'; try 'zarvo fax '""")
-        self.assertEqual(run(["bash", script]).split()[:3], [b"add-text", b"--secrets", b"send"])
+            try 'zarvo watermark add-te'; try 'zarvo ticket decode --s'; try 'zarvo fax '
+            try 'zarvo fax send report.pdf --to Ada\\ K'""")
+        told = subprocess.run(["bash", script], env=self.environment, capture_output=True, check=True).stdout
+        self.assertEqual(told.split()[:3], [b"add-text", b"--secrets", b"send"])
+        self.assertTrue(told.endswith(b"\nAda\\ King\n"), told)
 
     def test_colour_only_on_a_terminal(self):
         job = self.path("job.prn", b"@PJL JOB\n")

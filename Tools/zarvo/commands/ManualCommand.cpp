@@ -8,6 +8,7 @@
 
 #include "Tools/zarvo/Command.h"
 #include "Tools/zarvo/CommandTable.h"
+#include "Tools/zarvo/job/Recipients.h"
 #include "Tools/zarvo/system/Queues.h"
 #include "Tools/zarvo/ticket/HouseText.h"
 
@@ -151,6 +152,9 @@ std::vector<std::string> Completions(const std::vector<std::string>& words) {
     if (stores.Read().empty())
       for (const HouseTicketStore* store : stores.All())
         for (std::string& name : store->Names()) found.push_back(std::move(name));
+  } else if (previous == "--to") {
+    for (const AddressBookRecord& record : AddressBookRecords())
+      found.push_back(RecipientName(record));
   } else if (IsQueueOption(previous)) {
     ListQueues(&found);
   } else if (previous == "-o") {
@@ -172,17 +176,19 @@ struct Shell {
   const char* name;
   const char* completion;
 };
-// Bash takes what stands after "=" for a word of its own, and wants only that completed.
+// Bash takes what stands after "=" for a word of its own, and wants only that completed; of names
+// it wants blanks and the like escaped.
 constexpr Shell kShells[] = {
     {"bash", R"sh(# bash completion for zarvo
 _zarvo() {
-  local line=${COMP_LINE:0:COMP_POINT} word
+  local line=${COMP_LINE:0:COMP_POINT} word i
   local -a words
-  read -ra words <<< "$line"
+  read -a words <<< "$line"
   [[ $line == *[[:space:]] ]] && words+=("")
   word=${words[-1]}
   mapfile -t COMPREPLY < <(zarvo manual --complete -- "${words[@]:1}" 2>/dev/null)
   [[ ${COMPREPLY[0]-} == *= ]] && compopt -o nospace
+  for i in "${!COMPREPLY[@]}"; do printf -v "COMPREPLY[i]" %q "${COMPREPLY[i]}"; done
   [[ $word == *=* ]] && COMPREPLY=("${COMPREPLY[@]#"${word%"${word##*=}"}"}")
 }
 complete -o default -F _zarvo zarvo
