@@ -64,7 +64,7 @@ CopyPlan ReadCopyPlan(const Ppd& ppd, const Dictionary& ticket,
   plan.booklet = DictionaryGetBoolean(ticket, key::kBookletLayout) == true;
   plan.pagesPerSheet = Duplex != 0 && !IsFax(ticket) ? 2 : 1;
   const char* sides = Find(options, "sides");
-  plan.logged = sides != nullptr && std::string_view(sides).starts_with("two-sided") ? 2 : 1;
+  plan.logged = sides != nullptr && std::string_view(sides) != "one-sided" ? 2 : 1;
   return plan;
 }
 

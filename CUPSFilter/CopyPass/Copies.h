@@ -8,7 +8,7 @@
 //
 // The spooler's page log, its quotas and what it tells of a finished job all come from "PAGE:"
 // lines. The last filter of a job owes them, and this is it; the spooler halves the figure for jobs
-// whose option "sides" asks for two-sided sheets, so it gets twice their number then. Sheets that
+// whose option "sides" is anything but "one-sided", so it gets twice their number then. Sheets that
 // the printer adds by itself (banners, covers, inserts) are its own to count.
 #pragma once
 

@@ -52,6 +52,7 @@ COPIES = [
     ("-n 3 -o FrontCover=Blank -o Duplex=DuplexNoTumble", True, 3, 4, True, 6, "<cover-front "),
     ("-n 3 -o JobOffset=Subsets -o SubsetPages=Custom.2 -o Collate=True", True, 3, 4, False, 12, ""),
     ("-n 3", False, 3, 4, False, 12, ""),
+    ("-n 3 -o sides=twosided", False, 3, 4, False, 12, ""),
     ("-n 3 -o Collate=False -o Staple=TopLeft", False, 3, 4, False, 12, STAPLE),
     ("-n 2 -o JobType=Secure -o JobPIN=Custom.0391 -o Bind=Left -o number-up=2", True, 2, 2, False, 4, ""),
     ("-n 2 -o JobType=Secure -o JobPIN=Custom.0391 -o Collate=False", False, 2, 4, False, 8, ""),
