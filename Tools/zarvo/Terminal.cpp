@@ -4,11 +4,38 @@
 #include <termios.h>
 
 #include <algorithm>
+#include <array>
 #include <chrono>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 
 namespace zarvo::tool {
+
+namespace {
+
+volatile std::sig_atomic_t noted_signal = 0;  // a handler has no other place
+
+/// Signals that ask to end only interrupt what is being read.
+class SignalsNoted {
+ public:
+  SignalsNoted() {
+    struct sigaction note {};
+    note.sa_handler = [](int signal) { noted_signal = signal; };
+    for (std::size_t i = 0; i < kSignals.size(); ++i) sigaction(kSignals[i], &note, &before_[i]);
+  }
+  SignalsNoted(const SignalsNoted&) = delete;
+  SignalsNoted& operator=(const SignalsNoted&) = delete;
+  ~SignalsNoted() {
+    for (std::size_t i = 0; i < kSignals.size(); ++i) sigaction(kSignals[i], &before_[i], nullptr);
+  }
+
+ private:
+  static constexpr std::array kSignals = {SIGINT, SIGQUIT, SIGTERM, SIGHUP};
+  std::array<struct sigaction, kSignals.size()> before_{};
+};
+
+}  // namespace
 
 bool ColorWanted(int fd) {
   const char* no_color = std::getenv("NO_COLOR");
@@ -21,12 +48,20 @@ std::string ReadSecret(const char* prompt) {
   const bool is_terminal = tcgetattr(STDIN_FILENO, &shown) == 0;
   termios hidden = shown;
   hidden.c_lflag &= ~static_cast<tcflag_t>(ECHO);
-  if (is_terminal) tcsetattr(STDIN_FILENO, TCSAFLUSH, &hidden);
   std::string line;
-  for (int c = std::getchar(); c != EOF && c != '\n'; c = std::getchar())
-    line += static_cast<char>(c);
-  if (is_terminal) tcsetattr(STDIN_FILENO, TCSAFLUSH, &shown);
-  std::fputc('\n', stderr);
+  {
+    // Whoever gives up by a key is to find a terminal that shows again what is typed.
+    const SignalsNoted noted;
+    if (is_terminal) tcsetattr(STDIN_FILENO, TCSAFLUSH, &hidden);
+    for (int c = std::getchar(); c != EOF && c != '\n'; c = std::getchar())
+      line += static_cast<char>(c);
+    if (is_terminal) tcsetattr(STDIN_FILENO, TCSAFLUSH, &shown);
+    std::fputc('\n', stderr);
+  }
+  if (const int signal = noted_signal; signal != 0) {
+    noted_signal = 0;
+    std::raise(signal);
+  }
   return line;
 }
 

@@ -188,6 +188,12 @@ class HouseTickets(unittest.TestCase):
         self.assertEqual(self.errors, "")
         self.zarvo("print", str(self.document), "-d", "office", "--ticket", "from job", **own)
         self.assertEqual(self.head(), wanted)
+        (self.folder / "job.prn").write_bytes(job)
+        self.zarvo("ticket", "save", "--own", "from file", "--from", str(self.folder / "job.prn"), **own)
+        self.assertEqual(self.errors, "")
+        self.zarvo("print", str(self.document), "-d", "office", "--ticket", "from file", **own)
+        self.assertEqual(self.head(), wanted)
+        self.zarvo("ticket", "remove", "--own", "from file", **own)
         (self.folder / "top.json").write_text(json.dumps({"Staple": "TopLeft"}))
         save = ["ticket", "save", "--own", "top", str(self.folder / "top.json"), "--based-on", "from job"]
         self.zarvo(*save, status=2, **own)
