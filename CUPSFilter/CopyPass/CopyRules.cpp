@@ -95,8 +95,8 @@ CopyRules::~CopyRules() { DiscardHashTables(); }
 
 Landmark CopyRules::Classify(std::string_view line) const {
   if (!page_hooks_) return ClassifyLine(line);
-  const bool wanted =
-      shape_.WatchesEveryLine() || DocumentShape::Concerns(line) || page_hooks_->WatchesEveryLine();
+  const bool wanted = shape_.WatchesEveryLine() || DocumentShape::Concerns(line) ||
+                      page_hooks_->WatchesEveryLine() || page_hooks_->TellsOrientation(line);
   return wanted ? Landmark::kStructure : ClassifyLine(line);
 }
 

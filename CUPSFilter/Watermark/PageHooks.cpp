@@ -93,6 +93,10 @@ void PageHooks::Finish() {
     notices_->Add(kTurnUnknown);
 }
 
+bool PageHooks::TellsOrientation(std::string_view line) const {
+  return settings_.watermark && line.starts_with(kOrientation);
+}
+
 void PageHooks::TakeOrientation(std::string_view line) {
   if (turned_ || told_ || !line.starts_with(kOrientation)) return;
   document_turn_ = TurnOfComment(line.substr(kOrientation.size())).value_or(document_turn_);

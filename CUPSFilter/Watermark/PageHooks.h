@@ -48,7 +48,8 @@ class PageHooks {
   /// program's beginning, up to kPageHead bytes.
   bool LooksAhead(std::string_view line) const;
   void ShowAhead(std::string_view head);
-  /// A header comment may tell how the pages lie that do not.
+  /// A comment may tell how the pages lie that do not; some programs write it into their prolog.
+  bool TellsOrientation(std::string_view line) const;
   void TakeOrientation(std::string_view line);
   /// Write what goes before and after a line. `own` says that it is the document's own, not
   /// something embedded's.
