@@ -93,7 +93,7 @@ void Progress::Stage(std::string what) {
 void Progress::Count(std::uint64_t done, std::uint64_t total) {
   const std::lock_guard lock(mutex_);
   done_ = done;
-  total_ = std::max(done, total);
+  total_ = total > 0 ? std::max(done, total) : 0;
 }
 
 void Progress::Show(const std::stop_token& stop) {
@@ -104,7 +104,8 @@ void Progress::Show(const std::stop_token& stop) {
     const auto seconds =
         std::chrono::duration_cast<std::chrono::seconds>(std::chrono::steady_clock::now() - start);
     std::string line = what_;
-    if (done_ > 0) line += ", page " + std::to_string(done_) + " of " + std::to_string(total_);
+    if (done_ > 0) line += ", page " + std::to_string(done_);
+    if (done_ > 0 && total_ > 0) line += " of " + std::to_string(total_);
     std::fprintf(stderr, "\r\033[K%s ... %ld s", line.c_str(), static_cast<long>(seconds.count()));
     shown_ = true;
   }

@@ -4,6 +4,7 @@
 #include <fcntl.h>
 #include <sys/wait.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
@@ -15,6 +16,7 @@
 #include "Platform/Process.h"
 #include "Platform/UniqueFd.h"
 #include "Tools/zarvo/system/Office.h"
+#include "Tools/zarvo/system/SheetPdf.h"
 
 namespace zarvo::tool {
 namespace {
@@ -158,6 +160,14 @@ Failure LookAtSource(const ScratchFolder& scratch, JobSource* source,
              : "";
 }
 
+/// How many pages will come, as far as the file tells; 0 where it does not.
+std::uint64_t ExpectedPages(const JobSource& source, JobKind kind) {
+  if (kind != JobKind::kPdf) return 0;
+  for (const char* other : {"page-ranges=", "page-set=", "number-up=", "Booklet"})
+    if (source.options.find(other) != std::string::npos) return 0;
+  return CountPdfPages(source.file);
+}
+
 Failure Unconverted(JobKind kind, const std::string& log) {
   return kind == JobKind::kOther ? "is nothing that the spooler can print: " + log
                                  : "cannot be converted: " + log;
@@ -172,11 +182,15 @@ Failure MakeJob(const JobSource& given, const ScratchFolder& scratch, const Page
   std::vector<std::vector<std::string>> converters;
   if (const Failure failure = LookAtSource(scratch, &source, &converters, &kind); !failure.empty())
     return failure;
+  const std::uint64_t expected = ExpectedPages(source, kind);
+  const auto page_of_all = [&](std::uint64_t done, std::uint64_t announced) {
+    page(done, std::max(announced, expected));
+  };
   std::string log;
   for (const std::vector<std::string>& converter : converters) {
     *split = {};
     Chain chain(source, converter);
-    if (chain.Run(scratch, page, split)) {
+    if (chain.Run(scratch, page_of_all, split)) {
       *complaints = Complaints(chain.filter_log());
       return chain.failure();
     }
