@@ -233,7 +233,8 @@ class Spooler(ZarvoTest):
         self.path("printer.ppd", ours.read_text())
         self.path("report.pdf", ghostscript("pdfwrite", document(3).encode()))
         self.path("report.ps", document(2))
-        self.path("job.prn", self.filtered(ALL_SECTIONS, document()))
+        for name in ("job.prn", "annual.prn"):
+            self.path(name, self.filtered(ALL_SECTIONS, document()))
         with PrivateCupsd() as cupsd, Printer() as printer:
             cupsd.add_queue("office", ours, printer.uri)
             self.environment |= {"CUPS_SERVER": f"127.0.0.1:{cupsd.port}", "DISPLAY": ":0",
