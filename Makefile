@@ -58,6 +58,7 @@ pictures: build
 	  docs/printing-booklet.png
 	@ZARVO_BIN=build/bin python3 Tools/sample-preview.py build/ppd/zarvo.ppd docs/preview-booklet.png
 	@ZARVO_BIN=build/bin python3 Tools/sample-house-tickets.py build/ppd/zarvo.ppd docs
+	@ZARVO_BIN=build/bin python3 Tools/sample-desk.py build/ppd/zarvo.ppd docs
 	@ZARVO_BIN=build/bin ZARVO_SOURCE=. python3 Tools/demo.py demo-output >/dev/null
 	@cp demo-output/page-1.png docs/demo.png
 

@@ -174,7 +174,8 @@ class Maker {
     plan.findings = tool::Findings(report_);
     plan.marks = tool::MarkWords(report_.job.postscript);
     for (const tool::PageNote& note : tool::NotesOn(report_)) {
-      if (note.page == 1) plan.notes.push_back(note.text);
+      // Numbers to be dialled are masked here, so they would tell wrong ones.
+      if (note.page == 1 && !note.text.starts_with("fax to")) plan.notes.push_back(note.text);
     }
     for (const tool::Complaint& complaint : complaints) {
       if (complaint.fault) plan.complaints.push_back(complaint.text);

@@ -37,6 +37,7 @@ void SetUpTicket(CLI::App& app, Action* action);
 /// The subcommands of "ticket" for those that are kept under a name.
 void SetUpHouseTickets(CLI::App& app, Action* action);
 void SetUpPrint(CLI::App& app, Action* action);
+void SetUpCompose(CLI::App& app, Action* action);
 void SetUpWatermark(CLI::App& app, Action* action);
 void SetUpRecipient(CLI::App& app, Action* action);
 void SetUpFax(CLI::App& app, Action* action);

@@ -114,6 +114,8 @@ std::span<const Command> Commands() {
        "zarvo print report.pdf -d office --ticket payslips\n"
        "zarvo print report.pdf -d office secure.json -o copies=2",
        &SetUpPrint},
+      {"compose", "Open a document in the desktop program, its sheets beside its settings",
+       "zarvo compose report.pdf -d office", &SetUpCompose},
       {"watermark", "Look after the watermarks of this machine",
        "zarvo watermark list\n"
        "sudo zarvo watermark add-text DRAFT --angle 45 --color '#cc0000'\n"

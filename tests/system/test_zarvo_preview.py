@@ -243,8 +243,8 @@ class Spooler(ZarvoTest):
             shell = f"""set -e; sudo() {{ "$@"; }}; zarvo() {{ {BIN}/zarvo "$@"; }}; jq() {{ cat; }}
                 cupsfilter() {{ command cupsfilter -c "$CONFIGURATION" "$@"; }}; man() {{ cat report.ps; }}
                 """
-            opener = pathlib.Path(self.path("xdg-open", "#!/bin/sh\n"))
-            opener.chmod(0o755)
+            for opener in ("xdg-open", "zarvo-desk"):
+                pathlib.Path(self.path(opener, "#!/bin/sh\n")).chmod(0o755)
             self.environment["PATH"] = f"{self.scratch}:" + self.environment["PATH"]
             for command in re.findall(r"^  (\w+)  ", self.run_zarvo("--help").split("Subcommands:")[1], re.M):
                 told = self.run_zarvo(command, "--help")

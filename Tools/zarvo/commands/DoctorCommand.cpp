@@ -19,6 +19,7 @@
 
 #include "CUPSFilter/FaxCover/PdfToPostScript.h"
 #include "HouseTicket/HouseTicketStore.h"
+#include "Platform/AtomicFile.h"
 #include "Platform/Log.h"
 #include "Platform/SpoolerUser.h"
 #include "Source/CFAdditions.h"
@@ -57,6 +58,7 @@ class Examination {
     CheckConverters();
     CheckOffice();
     CheckQueues();
+    CheckPreviewButton();
     CheckPrivacy();
     CheckStores();
   }
@@ -252,6 +254,23 @@ class Examination {
          "is not installed; \"zarvo print letter.odt\" and \"zarvo preview\" need it",
          "apt install --no-install-recommends libreoffice-writer-nogui libreoffice-calc-nogui "
          "libreoffice-impress-nogui");
+  }
+
+  /// GTK's dialogs have a button "Preview", which can open the desktop program.
+  void CheckPreviewButton() {
+    if (FindProgram("zarvo-desk").empty()) return;
+    const char* home = std::getenv("HOME");
+    const char* configuration = std::getenv("XDG_CONFIG_HOME");
+    if (home == nullptr && configuration == nullptr) return;
+    const std::string file =
+        (configuration != nullptr ? configuration : home + std::string("/.config")) +
+        std::string("/gtk-3.0/settings.ini");
+    const std::optional<std::string> settings = ReadWholeFile(file.c_str(), 1 << 20);
+    if (settings && settings->find("zarvo-desk") != std::string::npos)
+      return Good("button \"Preview\"", file);
+    Note("button \"Preview\"", file, "print dialogs open another program with it",
+         "put into it, below [Settings]: gtk-print-preview-command=zarvo-desk --unlink "
+         "--gtk-settings %s %f");
   }
 
   void CheckStores() {

@@ -1,0 +1,539 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Desk/view/MainWindow.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QCloseEvent>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QFormLayout>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QProcess>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QSettings>
+#include <QSplitter>
+#include <QStatusBar>
+#include <QStyle>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+#include "Desk/model/GtkSettings.h"
+#include "Desk/view/PrintDialog.h"
+
+namespace zarvo::desk {
+
+using nlohmann::json;
+
+namespace {
+
+constexpr int kMostRecent = 10;
+constexpr int kWidths[] = {60, 80, 110, 140, 170, 210, 260, 320, 400, 520, 680};
+constexpr int kUsualWidth = 4;       // of them
+constexpr int kQueuesEvery = 15000;  // milliseconds
+
+}  // namespace
+
+MainWindow::MainWindow(const ScratchFolder& scratch, QWidget* parent)
+    : QMainWindow(parent), scratch_(scratch) {
+  setObjectName("main-window");
+  setAcceptDrops(true);
+  renderer_ = new Renderer(scratch, this);
+  model_ = new SheetModel(renderer_, this);
+  auto* const splitter = new QSplitter(this);
+  splitter->setObjectName("splitter");
+  splitter->addWidget(MakeSheets());
+  splitter->addWidget(MakeSettings());
+  splitter->setStretchFactor(0, 1);
+  splitter->setChildrenCollapsible(false);
+  setCentralWidget(splitter);
+  MakeActions();
+  summary_ = new QLabel(this);
+  summary_->setObjectName("summary");
+  progress_ = new QProgressBar(this);
+  progress_->setMaximumWidth(220);
+  progress_->setAccessibleName(tr("Progress of drawing"));
+  progress_->hide();
+  zoom_ = new QSlider(Qt::Horizontal, this);
+  zoom_->setRange(0, static_cast<int>(std::size(kWidths)) - 1);
+  zoom_->setValue(kUsualWidth);
+  zoom_->setMaximumWidth(140);
+  zoom_->setAccessibleName(tr("Size of the sheets"));
+  zoom_->setToolTip(tr("Size of the sheets"));
+  connect(zoom_, &QSlider::valueChanged, this, [this](int value) {
+    grid_->SetSheetWidth(kWidths[value]);
+    constexpr double kBig[] = {0.25, 0.33, 0.5, 0.67, 0, 0.8, 1, 1.25, 1.5, 2, 3};
+    big_->SetZoom(kBig[value]);
+  });
+  statusBar()->addWidget(summary_, 1);
+  statusBar()->addPermanentWidget(progress_);
+  statusBar()->addPermanentWidget(zoom_);
+
+  connect(renderer_, &Renderer::PlanChanged, this, &MainWindow::PlanChanged);
+  connect(renderer_, &Renderer::Progress, this, [this](const QString& stage, int done, int total) {
+    progress_->setRange(0, total);
+    progress_->setValue(done);
+    progress_->setFormat(stage == "convert" ? tr("Converting") : tr("Drawing %v of %m"));
+    progress_->show();
+  });
+  connect(renderer_, &Renderer::Idle, progress_, &QWidget::hide);
+  connect(renderer_, &Renderer::Failed, this, [this](const QString& text) {
+    progress_->hide();
+    Tell(QFileInfo(renderer_->file()).fileName() + ": " + text);
+  });
+  document_.Listen([this] { Changed(); });
+  connect(grid_->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+    for (const PanelEntry& entry : panels_)
+      if (qstrcmp(entry.name, "pages") == 0) entry.panel->Refresh();
+  });
+  connect(grid_, &SheetGrid::ZoomAsked, this, &MainWindow::Zoom);
+  connect(grid_, &QAbstractItemView::activated, this, [this](const QModelIndex& index) {
+    big_->SetRow(index.row());
+    ShowView(1);
+  });
+  QSettings settings;
+  restoreGeometry(settings.value("window/geometry").toByteArray());
+  restoreState(settings.value("window/state").toByteArray());
+  splitter->restoreState(settings.value("window/splitter").toByteArray());
+  zoom_->setValue(settings.value("window/zoom", kUsualWidth).toInt());
+  if (!settings.contains("window/geometry")) resize(1280, 720);
+  wanted_queue_ = settings.value("queue").toString();
+  FillRecent();
+  Changed();
+  AskQueues();
+  auto* const poll = new QTimer(this);
+  connect(poll, &QTimer::timeout, this, &MainWindow::AskQueues);
+  poll->start(kQueuesEvery);
+}
+
+QWidget* MainWindow::MakeSheets() {
+  auto* const area = new QWidget(this);
+  auto* const layout = new QVBoxLayout(area);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(0);
+  message_ = new QFrame(area);
+  message_->setObjectName("message");
+  static_cast<QFrame*>(message_)->setFrameShape(QFrame::StyledPanel);
+  auto* const row = new QHBoxLayout(message_);
+  auto* const icon = new QLabel(message_);
+  const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
+  icon->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(size));
+  message_text_ = new QLabel(message_);
+  message_text_->setObjectName("message-text");
+  message_text_->setWordWrap(true);
+  message_text_->setTextFormat(Qt::PlainText);
+  message_text_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  auto* const close = new QPushButton(tr("Close"), message_);
+  close->setObjectName("message-close");
+  connect(close, &QPushButton::clicked, message_, &QWidget::hide);
+  row->addWidget(icon);
+  row->addWidget(message_text_, 1);
+  row->addWidget(close);
+  message_->hide();
+  grid_ = new SheetGrid(model_, area);
+  big_ = new BigView(model_, area);
+  views_ = new QStackedWidget(area);
+  views_->addWidget(grid_);
+  views_->addWidget(big_);
+  layout->addWidget(message_);
+  layout->addWidget(views_, 1);
+  return area;
+}
+
+int MainWindow::WidestTitle() const {
+  int widest = 0;
+  for (const PanelEntry& entry : panels_)
+    widest = std::max(widest, fontMetrics().horizontalAdvance(entry.title));
+  return widest;
+}
+
+QWidget* MainWindow::MakeSettings() {
+  auto* const area = new QWidget(this);
+  auto* const layout = new QHBoxLayout(area);
+  layout->setContentsMargins(0, 0, 0, 0);
+  groups_ = new QListWidget(area);
+  groups_->setObjectName("groups");
+  groups_->setAccessibleName(tr("Groups of settings"));
+  groups_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  pages_ = new QStackedWidget(area);
+  panels_ = MakePanels({&document_, [this] { return grid_->SelectedPages(); },
+                        [this](const QString& text) { Tell(text); }});
+  for (const PanelEntry& entry : panels_) {
+    entry.panel->setObjectName(QString("panel-") + entry.name);
+    auto* const scroll = new QScrollArea(pages_);
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroll->setWidget(entry.panel);
+    pages_->addWidget(scroll);
+    groups_->addItem(entry.title);
+    groups_->item(groups_->count() - 1)->setSizeHint({0, 2 * fontMetrics().height()});
+  }
+  groups_->setFixedWidth(WidestTitle() + 2 * groups_->frameWidth() + 24);
+  connect(groups_, &QListWidget::currentRowChanged, pages_, &QStackedWidget::setCurrentIndex);
+  groups_->setCurrentRow(0);
+  pages_->setMinimumWidth(330);
+  layout->addWidget(groups_);
+  layout->addWidget(pages_, 1);
+  return area;
+}
+
+void MainWindow::MakeActions() {
+  auto* const bar = addToolBar(tr("Tools"));
+  bar->setObjectName("tools");
+  bar->setMovable(false);
+  bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  QMenu* const file = menuBar()->addMenu(tr("&File"));
+  QMenu* const edit = menuBar()->addMenu(tr("&Edit"));
+  QMenu* const view = menuBar()->addMenu(tr("&View"));
+  const auto add = [this](QMenu* menu, const QString& text, const char* name,
+                          const QKeySequence& keys, auto act) {
+    QAction* const action = menu->addAction(text, this, act);
+    action->setObjectName(name);
+    action->setShortcut(keys);
+    return action;
+  };
+  QAction* const open = add(file, tr("&Open\u2026"), "open", QKeySequence::Open, [this] {
+    const QString name = QFileDialog::getOpenFileName(
+        this, tr("Open"), {},
+        tr("Documents and pictures") +
+            " (*.pdf *.ps *.eps *.png *.jpg *.jpeg *.gif *.tif *.tiff *.txt *.odt *.docx);;" +
+            tr("All files") + " (*)");
+    if (!name.isEmpty()) OpenDocument(name);
+  });
+  open->setIcon(
+      QIcon::fromTheme("document-open", style()->standardIcon(QStyle::SP_DialogOpenButton)));
+  recent_ = file->addMenu(tr("&Recent documents"));
+  file->addSeparator();
+  add(file, tr("&New settings"), "new-ticket", QKeySequence::New, [this] {
+    if (!MayClose()) return;
+    ticket_file_.clear();
+    document_.Reset({});
+  });
+  add(file, tr("Open &settings\u2026"), "open-ticket", QKeySequence("Ctrl+Shift+O"), [this] {
+    const QString name = QFileDialog::getOpenFileName(this, tr("Open settings"), {},
+                                                      tr("Settings") + " (*.json *.plist)");
+    if (!name.isEmpty() && MayClose()) OpenTicket(name);
+  });
+  add(file, tr("Save s&ettings"), "save-ticket", QKeySequence::Save, [this] { SaveTicket(false); });
+  add(file, tr("Save settings &as\u2026"), "save-ticket-as", QKeySequence("Ctrl+Shift+S"),
+      [this] { SaveTicket(true); });
+  file->addSeparator();
+  print_ = add(file, tr("&Print"), "print", QKeySequence::Print, [this] { Print(); });
+  print_->setIcon(
+      QIcon::fromTheme("document-print", style()->standardIcon(QStyle::SP_DialogApplyButton)));
+  file->addSeparator();
+  add(file, tr("&Quit"), "quit", QKeySequence::Quit, [this] { close(); });
+  undo_ = add(edit, tr("&Undo"), "undo", QKeySequence::Undo, [this] { document_.Undo(); });
+  undo_->setIcon(QIcon::fromTheme("edit-undo", style()->standardIcon(QStyle::SP_ArrowBack)));
+  redo_ = add(edit, tr("&Redo"), "redo", QKeySequence::Redo, [this] { document_.Redo(); });
+  redo_->setIcon(QIcon::fromTheme("edit-redo", style()->standardIcon(QStyle::SP_ArrowForward)));
+  auto* const group = new QActionGroup(this);
+  const std::pair<QString, const char*> kinds[] = {
+      {tr("&All sheets"), "Ctrl+1"}, {tr("&One side"), "Ctrl+2"}, {tr("As a &reader"), "Ctrl+3"}};
+  for (const auto& [text, keys] : kinds) {
+    const int index = static_cast<int>(view_actions_.size());
+    QAction* const action =
+        add(view, text, "view", QKeySequence(keys), [this, index] { ShowView(index); });
+    action->setCheckable(true);
+    group->addAction(action);
+    view_actions_.push_back(action);
+  }
+  view_actions_[0]->setChecked(true);
+  view->addSeparator();
+  add(view, tr("&Larger"), "larger", QKeySequence::ZoomIn, [this] { Zoom(1); });
+  add(view, tr("&Smaller"), "smaller", QKeySequence::ZoomOut, [this] { Zoom(-1); });
+  QAction* const marks = view->addAction(tr("&Show staples, holes and folds"));
+  marks->setObjectName("marks");
+  marks->setCheckable(true);
+  marks->setChecked(true);
+  connect(marks, &QAction::toggled, this, [this](bool shown) {
+    grid_->SetMarks(shown);
+    big_->SetMarks(shown);
+  });
+  bar->addAction(open);
+  bar->addSeparator();
+  bar->addAction(undo_);
+  bar->addAction(redo_);
+  bar->addSeparator();
+  for (QAction* action : view_actions_) bar->addAction(action);
+  auto* const space = new QWidget(bar);
+  space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+  bar->addWidget(space);
+  queues_ = new QComboBox(bar);
+  queues_->setObjectName("queues");
+  queues_->setAccessibleName(tr("Printer"));
+  queues_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+  connect(queues_, &QComboBox::activated, this, [this] {
+    wanted_queue_ = queues_->currentData().toString();
+    QSettings().setValue("queue", wanted_queue_);
+    FetchPpd();
+  });
+  bar->addWidget(queues_);
+  bar->addAction(print_);
+}
+
+void MainWindow::ShowView(int view) {
+  view_actions_[static_cast<std::size_t>(view)]->setChecked(true);
+  if (view > 0 && grid_->isVisible() && grid_->currentIndex().isValid())
+    big_->SetRow(grid_->currentIndex().row());
+  big_->SetSpread(view == 2);
+  views_->setCurrentIndex(view == 0 ? 0 : 1);
+  views_->currentWidget()->setFocus();
+}
+
+void MainWindow::Zoom(int steps) { zoom_->setValue(zoom_->value() + steps); }
+
+void MainWindow::ShowPanel(const QString& name) {
+  for (std::size_t i = 0; i < panels_.size(); ++i)
+    if (name == panels_[i].name) groups_->setCurrentRow(static_cast<int>(i));
+}
+
+void MainWindow::Tell(const QString& text) {
+  if (text.isEmpty() || message_ == nullptr) return;
+  message_text_->setText(text);
+  message_->show();
+}
+
+void MainWindow::OpenDocument(const QString& file) {
+  const QFileInfo info(file);
+  if (!info.isFile() || !info.isReadable()) {
+    Tell(tr("%1 cannot be read.").arg(file));
+    return;
+  }
+  message_->hide();
+  passing_ = false;
+  title_ = info.fileName();
+  renderer_->SetFile(info.absoluteFilePath());
+  QSettings settings;
+  QStringList recent = settings.value("recent").toStringList();
+  recent.removeAll(info.absoluteFilePath());
+  recent.prepend(info.absoluteFilePath());
+  settings.setValue("recent", recent.mid(0, kMostRecent));
+  FillRecent();
+  Changed();
+}
+
+void MainWindow::SetPassing(const QString& title) {
+  passing_ = true;
+  if (!title.isEmpty()) title_ = title;
+  QSettings settings;
+  QStringList recent = settings.value("recent").toStringList();
+  recent.removeAll(renderer_->file());
+  settings.setValue("recent", recent);
+  FillRecent();
+  Changed();
+}
+
+void MainWindow::FillRecent() {
+  recent_->clear();
+  for (const QString& name : QSettings().value("recent").toStringList())
+    recent_->addAction(QFileInfo(name).fileName(), this, [this, name] { OpenDocument(name); })
+        ->setToolTip(name);
+  recent_->setEnabled(!recent_->isEmpty());
+}
+
+void MainWindow::OpenTicket(const QString& file) {
+  if (const Failure failure = document_.Open(file.toStdString()); !failure.empty()) {
+    Tell(file + ": " + QString::fromStdString(failure));
+    return;
+  }
+  ticket_file_ = file;
+  Changed();
+}
+
+void MainWindow::OpenGtkSettings(const QString& file, bool remove) {
+  QFile settings(file);
+  if (!settings.open(QIODevice::ReadOnly)) {
+    Tell(tr("%1 cannot be read.").arg(file));
+    return;
+  }
+  constexpr qint64 kMost = 1 << 20;
+  GtkSettings read = ReadGtkSettings(settings.read(kMost).toStdString());
+  if (remove) settings.remove();
+  if (!read.queue.empty()) wanted_queue_ = QString::fromStdString(read.queue);
+  document_.Reset(std::move(read.ticket));
+}
+
+bool MainWindow::SaveTicket(bool as) {
+  QString name = ticket_file_;
+  if (as || name.isEmpty())
+    name = QFileDialog::getSaveFileName(this, tr("Save settings"), "settings.json",
+                                        tr("Settings") + " (*.json)");
+  if (name.isEmpty()) return false;
+  if (const Failure failure = document_.Save(name.toStdString()); !failure.empty()) {
+    Tell(name + ": " + QString::fromStdString(failure));
+    return false;
+  }
+  ticket_file_ = name;
+  Changed();
+  return true;
+}
+
+bool MainWindow::MayClose() {
+  if (!document_.IsChanged() || ticket_file_.isEmpty()) return true;
+  const auto answer = QMessageBox::question(
+      this, tr("Settings"), tr("Save the changed settings to %1?").arg(ticket_file_),
+      QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
+  return answer == QMessageBox::Discard || (answer == QMessageBox::Save && SaveTicket(false));
+}
+
+void MainWindow::Changed() {
+  for (const PanelEntry& entry : panels_) entry.panel->Refresh();
+  undo_->setEnabled(document_.CanUndo());
+  redo_->setEnabled(document_.CanRedo());
+  undo_->setToolTip(tr("Undo: %1").arg(QString::fromStdString(document_.UndoName())));
+  redo_->setToolTip(tr("Redo: %1").arg(QString::fromStdString(document_.RedoName())));
+  print_->setEnabled(!renderer_->file().isEmpty() && !wanted_queue_.isEmpty());
+  const QString settings =
+      ticket_file_.isEmpty() ? QString() : " \u2013 " + QFileInfo(ticket_file_).fileName();
+  setWindowTitle((title_.isEmpty() ? QString() : title_ + settings + "[*] \u2013 ") + "Zarvo Desk");
+  setWindowModified(document_.IsChanged());
+  RenderSettings render;
+  const Failure failure = MakeRenderSettings(document_.ticket(), renderer_option_, &render);
+  if (!failure.empty()) return Tell(QString::fromStdString(failure));
+  renderer_->SetSettings(render, ppd_);
+}
+
+void MainWindow::PlanChanged() {
+  const PlanReport& report = renderer_->plan();
+  const tool::SheetPlan& plan = report.plan;
+  QStringList words;
+  if (!plan.sides.empty()) {
+    words << (plan.booklet ? tr("%n sheet side(s)", nullptr, static_cast<int>(plan.pages))
+                           : tr("%n page(s)", nullptr, static_cast<int>(plan.pages)));
+    words << tr("%n sheet(s)", nullptr, static_cast<int>(plan.sheets));
+    if (plan.copies > 1) words << tr("%n copies", nullptr, plan.copies);
+    for (const std::string& mark : report.marks) words << QString::fromStdString(mark);
+    for (const std::string& note : report.notes) words << QString::fromStdString(note);
+  }
+  summary_->setText(words.join(", "));
+  summary_->setToolTip(words.join('\n'));
+  QStringList faults;
+  for (const std::string& text : report.complaints) faults << QString::fromStdString(text);
+  for (const std::string& text : report.findings) faults << QString::fromStdString(text);
+  if (!faults.isEmpty()) {
+    Tell(faults.mid(0, 6).join('\n'));
+  } else if (!plan.sides.empty()) {
+    message_->hide();
+  }
+}
+
+void MainWindow::Ask(const json& question, std::function<void(const json&)> hear) {
+  auto* const process = new ChildProgram(this);
+  process->setStandardErrorFile(QProcess::nullDevice());
+  connect(process, &QProcess::finished, this, [=] {
+    json answer = json::parse(process->readAllStandardOutput().toStdString(), nullptr, false);
+    process->deleteLater();
+    if (!answer.is_object())
+      answer = {{"failure", tr("The spooler cannot be asked.").toStdString()}};
+    hear(answer);
+  });
+  connect(process, &QProcess::errorOccurred, this, [=](QProcess::ProcessError error) {
+    if (error != QProcess::FailedToStart) return;
+    process->deleteLater();
+    hear({{"failure", tr("The program zarvosheets is missing.").toStdString()}});
+  });
+  process->start(ProgramPath("zarvosheets"), {});
+  process->write(QByteArray::fromStdString(question.dump() + "\n"));
+}
+
+void MainWindow::AskQueues() {
+  Ask({{"queues", true}}, [this](const json& answer) {
+    const QString before = queues_->currentData().toString();
+    queues_->clear();
+    if (answer.contains("failure")) {
+      queues_->addItem(tr("No printers"));
+      queues_->setToolTip(QString::fromStdString(answer.at("failure")));
+      queues_->setEnabled(false);
+      print_->setEnabled(false);
+      return;
+    }
+    queues_->setEnabled(true);
+    queues_->setToolTip({});
+    int chosen = -1;
+    int usual = 0;
+    for (const json& queue : answer.at("queues")) {
+      const QString name = QString::fromStdString(queue.at("name"));
+      QString text = name;
+      if (queue.at("state") == 5) text += tr(" (stopped)");
+      if (!queue.at("accepting").get<bool>()) text += tr(" (takes no jobs)");
+      queues_->addItem(text, name);
+      const int index = queues_->count() - 1;
+      queues_->setItemData(index, QString::fromStdString(queue.at("info")), Qt::ToolTipRole);
+      if (name == wanted_queue_) chosen = index;
+      if (queue.at("default").get<bool>()) usual = index;
+    }
+    if (queues_->count() == 0) {
+      queues_->addItem(tr("No printers"));
+      queues_->setEnabled(false);
+      wanted_queue_.clear();
+    } else if (chosen < 0 && !wanted_queue_.isEmpty() && before == wanted_queue_) {
+      Tell(tr("The printer %1 is gone.").arg(wanted_queue_));
+    }
+    queues_->setCurrentIndex(chosen < 0 ? usual : chosen);
+    const QString now = queues_->currentData().toString();
+    if (now != before || now != wanted_queue_) {
+      wanted_queue_ = now;
+      FetchPpd();
+    }
+    print_->setEnabled(!renderer_->file().isEmpty() && !wanted_queue_.isEmpty());
+  });
+}
+
+void MainWindow::SetPpd(const QString& ppd) {
+  ppd_ = ppd;
+  Changed();
+}
+
+void MainWindow::FetchPpd() {
+  if (wanted_queue_.isEmpty()) return;
+  const std::string file = scratch_.File("queue-" + std::to_string(qHash(wanted_queue_)) + ".ppd");
+  Ask({{"queue", wanted_queue_.toStdString()}, {"ppd", file}}, [this](const json& answer) {
+    if (answer.contains("failure")) {
+      Tell(wanted_queue_ + ": " + QString::fromStdString(answer.at("failure")));
+      return;
+    }
+    if (!answer.at("ours").get<bool>())
+      Tell(tr("Jobs of %1 do not pass through the filter of these settings; most of them will have "
+              "no effect.")
+               .arg(wanted_queue_));
+    ppd_ = QString::fromStdString(answer.at("ppd"));
+    renderer_option_ = answer.at("renderer");
+    Changed();
+  });
+}
+
+void MainWindow::Print() {
+  if (wanted_queue_.isEmpty() || renderer_->file().isEmpty()) return;
+  auto* const dialog = new PrintDialog(document_, renderer_->file(), wanted_queue_, this);
+  dialog->setAttribute(Qt::WA_DeleteOnClose);
+  connect(dialog, &PrintDialog::Finished, this, &MainWindow::PrintFinished);
+  dialog->open();
+  dialog->Print(false);
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  if (!MayClose()) return event->ignore();
+  QSettings settings;
+  settings.setValue("window/geometry", saveGeometry());
+  settings.setValue("window/state", saveState());
+  settings.setValue("window/splitter", findChild<QSplitter*>("splitter")->saveState());
+  settings.setValue("window/zoom", zoom_->value());
+  event->accept();
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+  if (event->mimeData()->hasUrls() && event->mimeData()->urls().first().isLocalFile())
+    event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+  OpenDocument(event->mimeData()->urls().first().toLocalFile());
+}
+
+}  // namespace zarvo::desk

@@ -1,0 +1,448 @@
+// SPDX-License-Identifier: Apache-2.0
+// Drives the window as a person does, without a screen.
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDir>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QProcess>
+#include <QPushButton>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QToolButton>
+#include <QTreeWidget>
+
+#include "Desk/model/Finishing.h"
+#include "Desk/model/GtkSettings.h"
+#include "Desk/model/PageRanges.h"
+#include "Desk/view/MainWindow.h"
+#include "HouseTicket/HouseTicketStore.h"
+#include "Source/CFAdditions.h"
+#include "Tools/zarvo/ticket/HouseText.h"
+#include "Tools/zarvo/ticket/TicketText.h"
+#include "tests/desk/tickets.h"
+
+namespace zarvo::desk {
+namespace {
+
+constexpr int kLongest = 120000;  // milliseconds, on a machine that does much else
+
+Dictionary Read(const char* text) {
+  Dictionary ticket;
+  const Failure failure = tool::ReadTicket(text, &ticket);
+  if (!failure.empty()) qFatal("%s", failure.c_str());
+  return ticket;
+}
+
+/// The program's folders are the test's own.
+class Home {
+ public:
+  Home() {
+    qputenv("HOME", folder.path().toUtf8());
+    qputenv("XDG_CONFIG_HOME", folder.filePath("config").toUtf8());
+    qputenv("XDG_DATA_HOME", folder.filePath("data").toUtf8());
+    qputenv("ZARVO_APPLICATION_SUPPORT", folder.path().toUtf8());
+    qputenv("ZARVO_ADDRESS_BOOK", folder.filePath("contacts").toUtf8());
+    if (qEnvironmentVariableIsEmpty("CUPS_SERVER")) qputenv("CUPS_SERVER", "127.0.0.1:1");
+  }
+  QString Put(const QString& name, const QByteArray& content) const {
+    QDir(folder.path()).mkpath(QFileInfo(name).path());
+    QFile file(folder.filePath(name));
+    if (!file.open(QIODevice::WriteOnly)) qFatal("cannot write");
+    file.write(content);
+    return file.fileName();
+  }
+  QTemporaryDir folder;
+};
+
+QByteArray Card(const char* uid, const char* name, const char* names, const char* fax) {
+  return QString(
+             "BEGIN:VCARD\r\nVERSION:3.0\r\nUID:%1\r\nFN:%2\r\nN:%3;;;\r\n"
+             "TEL;TYPE=WORK,FAX:%4\r\nEND:VCARD\r\n")
+      .arg(uid, name, names, fax)
+      .toUtf8();
+}
+
+QByteArray Document(int pages) {
+  QByteArray text =
+      "%!PS-Adobe-3.0\n%%BeginProlog\n%%EndProlog\n%%BeginSetup\n"
+      "<< /PageSize [595 842] >> setpagedevice\n%%EndSetup\n";
+  for (int page = 1; page <= pages; ++page)
+    text += QString("%%Page: %1 %1\n/Helvetica 96 selectfont 90 600 moveto (%1) show\nshowpage\n")
+                .arg(page)
+                .toUtf8();
+  return text + "%%Trailer\n%%EOF\n";
+}
+
+}  // namespace
+
+class DeskTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void init() {
+    QSettings().clear();
+    window_ = std::make_unique<MainWindow>(*scratch);
+    window_->resize(1280, 720);
+  }
+  void cleanup() { window_.reset(); }
+
+  void finishing_survives_the_ticket();
+  void page_ranges();
+  void history();
+  void print_dialog_of_others();
+  void every_key_can_be_reached();
+  void what_excludes_what_is_shown();
+  void secrets_stay_inside();
+  void tasks_data();
+  void tasks();
+  void house_ticket_under_a_new_name();
+  void sheets_are_the_previews();
+  void hostile_data();
+  void hostile();
+  void printed();
+
+ public:
+  static std::unique_ptr<ScratchFolder> scratch;
+  static Home* home;
+
+ private:
+  template <class T>
+  T* Find(const QString& name) {
+    T* found = window_->findChild<T*>(name);
+    if (found == nullptr) qFatal("no %s", qPrintable(name));
+    return found;
+  }
+  void Choose(const QString& name, const QString& text) {
+    auto* const box = Find<QComboBox>(name);
+    const int index = box->findText(text, Qt::MatchStartsWith);
+    QVERIFY2(index >= 0, qPrintable(name + ": " + text));
+    box->setCurrentIndex(index);
+    emit box->activated(index);
+  }
+  void Type(const QString& name, const QString& text) {
+    auto* const line = Find<QLineEdit>(name);
+    line->clear();
+    QTest::keyClicks(line, text);
+  }
+  void Press(const QString& name) {
+    QVERIFY(Find<QAbstractButton>(name)->isEnabled());
+    Find<QAbstractButton>(name)->click();
+  }
+  void Do(const QString& task);
+  bool Settle() {
+    return QTest::qWaitFor([this] { return !window_->renderer().IsBusy(); }, kLongest);
+  }
+
+  std::unique_ptr<MainWindow> window_;
+};
+
+std::unique_ptr<ScratchFolder> DeskTest::scratch;
+Home* DeskTest::home = nullptr;
+
+/// What a person does for each of the tasks.
+void DeskTest::Do(const QString& task) {
+  if (task == "thesis") {
+    Choose("sides", "Both sides, turned like a book");
+    Choose("bind", "At the left");
+    for (const QString cover : {"SpecialPages.FrontCover", "SpecialPages.BackCover"}) {
+      Choose(cover, "Not printed");
+      Choose(cover + "/Stock/Color", "Blue");
+    }
+    Type("pages", "5-8");
+    Find<QSpinBox>("page-weight")->setValue(160);
+    Choose("page-sides", "One side of each sheet");
+    Press("make-exception");
+    Type("pages", "60");
+    Find<QSpinBox>("page-weight")->setValue(0);
+    Choose("page-color", "Yellow");
+    Press("make-insert");
+  } else if (task == "booklet") {
+    Choose("BookletLayout", "Booklet, read from left to right");
+    Choose("BookletFoldStaple", "Fold and staple in the fold");
+    Choose("Watermark", "DRAFT");
+    Find<QCheckBox>("com.zarvo.print.watermark.FirstPageOnly")->click();
+  } else if (task == "handout") {
+    Choose("JobType/JobType", "Secure: wait for a PIN");
+    Type("JobType/SecurePrintPassword", "0391");
+    Choose("accounting", "By user and general account");
+    Type("com.zarvo.Act.UID", "ada");
+    Type("com.zarvo.Act.AID", "4711");
+    Press("staple-5");
+  } else {
+    Choose("address-book", "Branches (group)");
+    Press("add-from-book");
+    Type("typed-number", "030 1234");
+    QCOMPARE(Find<QLabel>("dialed")->text(), "The printer dials 0301234");
+    Press("add-typed");
+    Choose("CoverSheet", "On A4");
+  }
+}
+
+void DeskTest::finishing_survives_the_ticket() {
+  int possible = 0;
+  for (const int staple : {0, 5, 10, 26})
+    for (const int punch : {0, 32})
+      for (const int fold : {0, 19, 38, 43})
+        for (const int bind : {0, 15}) {
+          const Finishing wanted = {staple, punch, punch != 0 ? 4 : 0, fold, bind, 0};
+          Dictionary ticket;
+          PutFinishing(wanted, &ticket);
+          if (CanFinish(wanted)) QVERIFY(FinishingOf(ticket) == wanted);
+          if (CanFinish(wanted)) ++possible;
+        }
+  // Nothing; staples, holes, both; the Z fold with each of these; two other folds; glue.
+  QCOMPARE(possible, 8 + 8 + 2 + 1);
+}
+
+void DeskTest::page_ranges() {
+  QCOMPARE(WritePageRanges({8, 5, 6, 7, 12, 5}), "5-8, 12");
+  QVERIFY((*ReadPageRanges("5-8,12") == std::vector<PageRange>{{5, 8}, {12, 12}}));
+  for (const char* wrong : {"", "0", "8-5", "5-", "5,,6", "5,", "a", "99999999999"})
+    QVERIFY2(!ReadPageRanges(wrong), wrong);
+}
+
+void DeskTest::history() {
+  TicketDocument document;
+  for (const char* text : {"0", "03", "039"})
+    document.Set("JobType/SecurePrintPassword", Value(text), "PIN", true);
+  document.Set("FinishingDuplex", Value(Number(std::int32_t{2})), "sides");
+  QVERIFY(document.ticket().contains("com.zarvo.print.JTMLOptions"));  // else it does nothing
+  document.Undo();
+  QCOMPARE(document.TextAt("JobType/SecurePrintPassword"), "039");
+  document.Undo();
+  QVERIFY(document.ticket().empty() && !document.CanUndo());
+  document.Redo();
+  document.Redo();
+  QCOMPARE(document.NumberAt("FinishingDuplex").value_or(0), 2);
+  QVERIFY(PutAt(&const_cast<Dictionary&>(document.ticket()), "SpecialPages.InsertList/0/StartPage",
+                Value(Number(std::int32_t{3}))));
+  document.Clear("SpecialPages.InsertList/0", "insert");
+  QVERIFY(document.Find("SpecialPages.InsertList") == nullptr);
+}
+
+void DeskTest::print_dialog_of_others() {
+  const GtkSettings read = ReadGtkSettings(
+      "[Print Settings]\nprinter=office\nn-copies=3\nduplex=horizontal\ncups-Staple=TopLeft\n"
+      "[Print Job]\ntitle=My\\sletter\n");
+  QCOMPARE(read.queue, "office");
+  QCOMPARE(read.title, "My letter");
+  QVERIFY(read.ticket == (Dictionary{{"copies", Value("3")},
+                                     {"sides", Value("two-sided-long-edge")},
+                                     {"Staple", Value("TopLeft")}}));
+}
+
+void DeskTest::every_key_can_be_reached() {
+  auto* const tree = Find<QTreeWidget>("all-keys");
+  const std::function<void(std::span<const TicketKey>, const std::string&)> look =
+      [&](std::span<const TicketKey> keys, const std::string& above) {
+        for (const TicketKey& key : keys) {
+          const std::string path = above + key.name;
+          if (key.type == KeyType::kDictionary) {
+            look(key.members, path + "/");
+            continue;
+          }
+          if (key.type == KeyType::kList) {
+            look(key.members, path + "/0/");
+            continue;
+          }
+          const std::function<QTreeWidgetItem*(QTreeWidgetItem*)> find =
+              [&](QTreeWidgetItem* item) -> QTreeWidgetItem* {
+            if (item->data(1, Qt::UserRole).toString().toStdString() == path) return item;
+            for (int i = 0; i < item->childCount(); ++i)
+              if (QTreeWidgetItem* found = find(item->child(i))) return found;
+            return nullptr;
+          };
+          QTreeWidgetItem* const item = find(tree->invisibleRootItem());
+          QVERIFY2(item != nullptr, path.c_str());
+          item->setText(1, key.type == KeyType::kBoolean || key.type == KeyType::kAny ? "true"
+                           : key.type == KeyType::kDate ? "2030-01-02T03:04"
+                           : key.type == KeyType::kText
+                               ? "text"
+                               : QString::number(std::max<qint64>(key.low, 1)));
+          QCoreApplication::processEvents();
+          QVERIFY2(window_->document().Find(path) != nullptr, path.c_str());
+          window_->document().Reset({});
+        }
+      };
+  look(TopLevelKeys(), "");
+}
+
+void DeskTest::what_excludes_what_is_shown() {
+  Press("staple-5");
+  auto* const fold = Find<QComboBox>("fold");
+  const int index = fold->findText("C fold", Qt::MatchStartsWith);
+  QVERIFY(!fold->itemData(index, Qt::ToolTipRole).toString().isEmpty());
+  QVERIFY(!(fold->model()->flags(fold->model()->index(index, 0)) & Qt::ItemIsEnabled));
+  // The very words of the ticket's check.
+  auto* const job = Find<QComboBox>("JobType/JobType");
+  const int later = job->findText("Print it later", Qt::MatchStartsWith);
+  QCOMPARE(job->itemData(later, Qt::ToolTipRole).toString(),
+           "a delayed job needs a DelayedPrintTime");
+}
+
+void DeskTest::secrets_stay_inside() {
+  Do("handout");
+  RenderSettings settings;
+  QVERIFY(MakeRenderSettings(window_->document().ticket(), "", &settings).empty());
+  for (const char* secret : {"0391", "ada", "4711"})
+    QVERIFY2(settings.options.find(secret) == std::string::npos, secret);
+  auto* const pin = Find<QLineEdit>("JobType/SecurePrintPassword");
+  QCOMPARE(pin->echoMode(), QLineEdit::Password);
+  QVERIFY(!Find<QLabel>("changes")->text().contains("0391"));
+  const QString file = home->folder.filePath("secret.json");
+  QVERIFY(window_->document().Save(file.toStdString()).empty());
+  QCOMPARE(QFile::permissions(file) & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
+}
+
+void DeskTest::tasks_data() {
+  QTest::addColumn<QString>("ticket");
+  for (const Task& task : kTasks) QTest::newRow(task.name) << task.ticket;
+}
+
+void DeskTest::tasks() {
+  QFETCH(QString, ticket);
+  Do(QTest::currentDataTag());
+  const Dictionary wanted = Read(ticket.toUtf8().constData());
+  for (const std::string& line : tool::TicketDifferences(window_->document().ticket(), wanted))
+    QFAIL(line.c_str());
+}
+
+void DeskTest::house_ticket_under_a_new_name() {
+  auto* const gallery = Find<QListWidget>("gallery");
+  const auto thesis = gallery->findItems("handout", Qt::MatchExactly);
+  QCOMPARE(thesis.size(), 1);
+  gallery->setCurrentItem(thesis[0]);
+  Press("use-house");
+  Press("staple-7");
+  Type("house-name", "None");
+  QVERIFY(!Find<QPushButton>("save-house")->isEnabled());
+  Type("house-name", "right handout");
+  Press("save-house");
+  HouseTicketStore store = HouseTicketStore::Own();
+  HouseTicket kept;
+  QVERIFY(store.Read().empty() && store.Find("right handout", &kept).empty());
+  QVERIFY(kept.ticket == Read(R"({"FinishingDuplex": 2, "FinishingOptions": 4,
+      "FinishingStaple1Value": 7, "JTMLOptions": {"JTMLOptionAll": true}})"));
+}
+
+void DeskTest::sheets_are_the_previews() {
+  const QString file = home->Put("eight.ps", Document(8));
+  window_->document().Replace(Read(kTasks[1].ticket), "booklet");
+  window_->SetPpd(qEnvironmentVariable("ZARVO_PPD"));
+  window_->OpenDocument(file);
+  window_->show();
+  window_->grid().SetMarks(false);
+  QVERIFY(Settle());
+  const tool::SheetPlan& plan = window_->renderer().plan().plan;
+  QCOMPARE(plan.sides.size(), 4U);
+  QTRY_VERIFY_WITH_TIMEOUT(window_->renderer().IsFresh(3), kLongest);
+  const QImage* const picture = window_->renderer().Picture(3);
+  const int dots = qRound(picture->width() * 72 / UprightSize(plan.sides[2]).width());
+  const QString settings = home->Put("settings.json", kTasks[1].ticket);
+  const QString output = home->folder.filePath("page.png");
+  QProcess preview;
+  preview.start(ProgramPath("zarvo"),
+                {"preview", file, "-p", qEnvironmentVariable("ZARVO_PPD"), "-s", settings,
+                 "--output", output, "--resolution", QString::number(dots)});
+  QVERIFY(preview.waitForFinished(kLongest));
+  QImage page;
+  QVERIFY2(page.load(home->folder.filePath("page-3.png")), preview.readAllStandardError());
+  QCOMPARE(picture->convertToFormat(QImage::Format_RGB32),
+           page.convertToFormat(QImage::Format_RGB32));
+  // What only the finisher reads leaves every page as it is.
+  QSignalSpy pictures(&window_->renderer(), &Renderer::PictureChanged);
+  Choose("FinishingSlipSheet", "On");
+  QVERIFY(Settle());
+  QCOMPARE(pictures.count(), 0);
+}
+
+void DeskTest::hostile_data() {
+  QTest::addColumn<QByteArray>("content");
+  QTest::addColumn<QString>("converter");
+  QTest::newRow("broken") << QByteArray("%PDF-1.7\nnothing of the kind") << "";
+  QTest::newRow("empty") << QByteArray() << "";
+  QTest::newRow("hangs") << QByteArray("%PDF-1.7\n") << "#!/bin/sh\nsleep 1000\n";
+}
+
+void DeskTest::hostile() {
+  QFETCH(QByteArray, content);
+  QFETCH(QString, converter);
+  const QByteArray path = qgetenv("PATH");
+  if (!converter.isEmpty()) {
+    for (const QString program : {"bin/cupsfilter", "bin/pdftops"}) {
+      const QString file = home->Put(program, converter.toUtf8());
+      QFile::setPermissions(file, QFile::ReadOwner | QFile::ExeOwner | QFile::WriteOwner);
+    }
+    qputenv("PATH", home->folder.filePath("bin").toUtf8() + ":" + path);
+    window_->renderer().SetPatience(2500);
+  }
+  window_->show();
+  window_->OpenDocument(home->Put("hostile.pdf", content));
+  int beats = 0;  // the window goes on meanwhile
+  QTimer beat;
+  connect(&beat, &QTimer::timeout, this, [&beats] { ++beats; });
+  beat.start(50);
+  QTRY_VERIFY_WITH_TIMEOUT(window_->told().startsWith("hostile.pdf: "), kLongest);
+  if (!converter.isEmpty()) QVERIFY(beats > 10);
+  qputenv("PATH", path);
+  Choose("sides", "One side of each sheet");  // it still works
+  QVERIFY(window_->document().CanUndo());
+}
+
+/// Prints one task on a queue that a test has made; does nothing without one.
+void DeskTest::printed() {
+  const QString file = qEnvironmentVariable("ZARVO_DESK_PRINTS");
+  if (file.isEmpty()) return;
+  window_->SelectQueue("office");
+  window_->show();
+  Do("handout");
+  QVERIFY(window_->document().Save(qEnvironmentVariable("ZARVO_DESK_SAVES").toStdString()).empty());
+  window_->OpenDocument(file);
+  auto* const print = Find<QAction>("print");
+  QTRY_VERIFY_WITH_TIMEOUT(print->isEnabled(), kLongest);
+  QSignalSpy finished(window_.get(), &MainWindow::PrintFinished);
+  print->trigger();
+  QVERIFY(finished.wait(kLongest));
+  QVERIFY2(finished[0][0].toBool(), qPrintable(Find<QLabel>("print-details")->text()));
+  QVERIFY(Find<QLabel>("at-printer")->text().contains("PIN"));
+}
+
+}  // namespace zarvo::desk
+
+int main(int argc, char** argv) {
+  using zarvo::desk::DeskTest;
+  using zarvo::desk::Home;
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  qputenv("LC_ALL", "C.UTF-8");
+  Home home;
+  DeskTest::home = &home;
+  DeskTest::scratch = zarvo::ScratchFolder::Create();
+  using zarvo::desk::Card;
+  home.Put("contacts/ada.vcf", Card("ada", "Ada Byron", "Byron;Ada", "+44 20 7946 0018"));
+  home.Put("contacts/mill.vcf", Card("mill", "Mill", "Mill;", "0911-4711"));
+  home.Put("contacts/team.vcf",
+           "BEGIN:VCARD\r\nVERSION:3.0\r\nUID:team\r\nFN:Branches\r\nN:Branches;;;;\r\n"
+           "X-ADDRESSBOOKSERVER-KIND:group\r\nX-ADDRESSBOOKSERVER-MEMBER:urn:uuid:ada\r\n"
+           "X-ADDRESSBOOKSERVER-MEMBER:urn:uuid:mill\r\nEND:VCARD\r\n");
+  QApplication app(argc, argv);
+  QApplication::setApplicationName("zarvo-desk-test");
+  for (const QStringList& arguments :
+       {QStringList{"watermark", "add-text", "DRAFT"},
+        QStringList{
+            "ticket", "save", "handout",
+            home.Put("handout.json",
+                     R"({"FinishingDuplex": 2, "FinishingOptions": 4, "FinishingStaple1Value": 5,
+                 "JTMLOptions": {"JTMLOptionAll": true}})")}})
+    QProcess::execute(zarvo::desk::ProgramPath("zarvo"), arguments);
+  DeskTest test;
+  const int status = QTest::qExec(&test, argc, argv);
+  DeskTest::scratch.reset();
+  return status;
+}
+
+#include "desk_test.moc"
