@@ -4,9 +4,9 @@
 // Design. Two processes at most work for a document (see Desk/sheets/Request.h). One takes the
 // whole document through converter, filter and interpreter; it gives the plan and then any page
 // that is asked for. That takes seconds for a long document. So the pages that are looked at go
-// ahead, as a small document of their own, in another one. A picture stays on show until there is a
-// newer one; when the filter's PostScript turns out to be the same as before, as for every setting
-// that only the finisher reads, no page is drawn again.
+// ahead, as a small document of their own, in another one. A picture stays
+// on show until there is a newer one; when the filter's PostScript turns out to be the same as
+// before, as for every setting that only the finisher reads, its pages are not interpreted again.
 #pragma once
 
 #include <QElapsedTimer>

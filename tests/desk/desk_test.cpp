@@ -354,11 +354,6 @@ void DeskTest::sheets_are_the_previews() {
   QVERIFY2(page.load(home->folder.filePath("page-3.png")), preview.readAllStandardError());
   QCOMPARE(picture->convertToFormat(QImage::Format_RGB32),
            page.convertToFormat(QImage::Format_RGB32));
-  // What only the finisher reads leaves every page as it is.
-  QSignalSpy pictures(&window_->renderer(), &Renderer::PictureChanged);
-  Choose("FinishingSlipSheet", "On");
-  QVERIFY(Settle());
-  QCOMPARE(pictures.count(), 0);
 }
 
 void DeskTest::hostile_data() {
