@@ -84,7 +84,7 @@ void PageHooks::ShowAhead(std::string_view head) {
   if (!turn_known_) {
     turn_known_ = look.turn || page_turn_ != 0;
     guess_failed_ = guessed_ && page_turn_ != 0;
-    guessed_ = guessed_ || look.drawing || look.pictures > PageWidth * PageLength / 2;
+    guessed_ = guessed_ || look.drawing || look.pictures > PageWidth * PageLength / 4;
   }
 }
 
