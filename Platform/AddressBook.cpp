@@ -8,6 +8,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <set>
 #include <system_error>
 
 #include "Platform/AtomicFile.h"
@@ -55,18 +56,57 @@ bool CanNameFile(std::string_view uid) {
          uid.find_first_of(std::string_view("/\0", 2)) == std::string_view::npos;
 }
 
-std::optional<AddressBookRecord> ReadRecord(const fs::path& path) {
+std::optional<AddressBookRecord> ReadRecord(const fs::path& path, const std::string& shared_book) {
   const std::optional<std::string> text = ReadWholeFile(path.string(), kMaxCardBytes);
   if (!text) return std::nullopt;
   std::optional<VCard> card = ParseVCard(*text);
   if (!card) return std::nullopt;
-  return AddressBookRecord{path.filename().string(), std::move(*card)};
+  return AddressBookRecord{path.filename().string(), std::move(*card), shared_book};
 }
 
-std::optional<AddressBookRecord> ReadRecord(const fs::path& path, std::string_view uid) {
-  std::optional<AddressBookRecord> record = ReadRecord(path);
-  if (record && record->uid() != uid) record.reset();
-  return record;
+/// A folder of cards; the name is empty for the user's own.
+struct Book {
+  fs::path folder;
+  std::string name;
+};
+
+/// The user's own, then the shared ones by their names.
+std::vector<Book> Books() {
+  std::vector<Book> books{{AddressBookFolder(), ""}};
+  std::error_code error;
+  for (fs::directory_iterator entry(SharedAddressBooksFolder(), error), end; !error && entry != end;
+       entry.increment(error)) {
+    std::error_code no_folder;
+    const std::string name = entry->path().filename().string();
+    if (name.front() != '.' && entry->is_directory(no_folder))
+      books.push_back({entry->path(), name});
+  }
+  std::sort(books.begin() + 1, books.end(),
+            [](const Book& left, const Book& right) { return left.name < right.name; });
+  return books;
+}
+
+std::vector<AddressBookRecord> Records(const Book& book) {
+  std::vector<AddressBookRecord> records;
+  std::error_code error;
+  for (fs::directory_iterator entry(book.folder, error), end; !error && entry != end;
+       entry.increment(error)) {
+    if (entry->path().extension() != kCardSuffix) continue;
+    if (auto record = ReadRecord(entry->path(), book.name)) records.push_back(*std::move(record));
+  }
+  std::sort(records.begin(), records.end(),
+            [](const auto& left, const auto& right) { return left.file < right.file; });
+  return records;
+}
+
+std::optional<AddressBookRecord> FindIn(const Book& book, std::string_view uid) {
+  if (CanNameFile(uid)) {
+    auto record = ReadRecord(book.folder / (std::string(uid) += kCardSuffix), book.name);
+    if (record && record->uid() == uid) return record;
+  }
+  for (AddressBookRecord& record : Records(book))
+    if (record.uid() == uid) return std::move(record);
+  return std::nullopt;
 }
 
 constexpr const char* kGroupProperty = "X-ADDRESSBOOKSERVER-KIND";
@@ -92,6 +132,11 @@ std::string AddressBookFolder() {
   return "";
 }
 
+std::string SharedAddressBooksFolder() {
+  const std::string root = Environment("ZARVO_APPLICATION_SUPPORT");
+  return (root.substr(0, 1) == "/" ? root : ZARVO_DATA_ROOT) + "/Zarvo/contacts";
+}
+
 std::optional<AddressBookRecord> AddressBookAdd(VCard card) {
   const std::string folder = AddressBookFolder();
   const std::string uid = RandomUid();
@@ -103,39 +148,34 @@ std::optional<AddressBookRecord> AddressBookAdd(VCard card) {
 }
 
 bool AddressBookSave(const AddressBookRecord& record) {
+  if (!record.shared_book.empty()) return false;
   const fs::path path = fs::path(AddressBookFolder()) / record.file;
   return WriteFileAtomically(path.string(), FormatVCard(record.card), 0600);
 }
 
 std::optional<AddressBookRecord> AddressBookFind(std::string_view uid) {
   if (uid.empty()) return std::nullopt;
-  const fs::path folder = AddressBookFolder();
-  if (CanNameFile(uid)) {
-    if (auto record = ReadRecord(folder / (std::string(uid) += kCardSuffix), uid)) return record;
-  }
-  std::error_code error;
-  for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
-       entry.increment(error)) {
-    if (entry->path().extension() != kCardSuffix) continue;
-    if (auto record = ReadRecord(entry->path(), uid)) return record;
-  }
+  for (const Book& book : Books())
+    if (auto record = FindIn(book, uid)) return record;
   return std::nullopt;
 }
 
 std::vector<AddressBookRecord> AddressBookRecords() {
   std::vector<AddressBookRecord> records;
-  std::error_code error;
-  for (fs::directory_iterator entry(AddressBookFolder(), error), end; !error && entry != end;
-       entry.increment(error)) {
-    if (entry->path().extension() != kCardSuffix) continue;
-    if (auto record = ReadRecord(entry->path())) records.push_back(*std::move(record));
+  std::set<std::string> uids;
+  for (const Book& book : Books()) {
+    for (AddressBookRecord& record : Records(book)) {
+      const std::string uid = record.uid();
+      if (book.name.empty() || uid.empty() || !uids.contains(uid))
+        records.push_back(std::move(record));
+      uids.insert(uid);
+    }
   }
-  std::sort(records.begin(), records.end(),
-            [](const auto& left, const auto& right) { return left.file < right.file; });
   return records;
 }
 
 bool AddressBookRemove(const AddressBookRecord& record) {
+  if (!record.shared_book.empty()) return false;
   std::error_code error;
   return fs::remove(fs::path(AddressBookFolder()) / record.file, error);
 }

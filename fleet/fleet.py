@@ -33,7 +33,7 @@ from spoolers import Fleet  # noqa: E402
 CLIENTS = 4
 BEAT, MINUTE = 0.2, 15  # seconds: looking, and enabling members
 ON_THE_WAY = 400  # so many jobs at most, that faults find the fleet at work from the first to the last
-LARGE = 64 << 20
+LARGE = 32 << 20
 FAULT = re.compile(r"(server\d+|front|printer-\w+|transfer|disk \d+) at (\d+) for (\d+)$")
 
 
@@ -101,6 +101,7 @@ class Sender:
     def __init__(self, fleet, kinds, queues, folder):
         self.fleet, self.kinds, self.queues, self.folder = fleet, kinds, queues, pathlib.Path(folder)
         self.sent, self.refused, self._lock = {}, collections.Counter(), threading.Lock()
+        self.given_up = threading.Event()
 
     def send(self, number, kind=None, padding=0):
         kind = kind or self.kinds[number % len(self.kinds)]
@@ -108,7 +109,7 @@ class Sender:
         document = document.replace(b"%%Trailer\n", b"%%Trailer\n" + (b"%" + b"x" * 62 + b"\n") * (padding // 64))
         file = self.folder / mark
         file.write_bytes(document)
-        while True:
+        while not self.given_up.is_set():
             try:
                 # Jobs go to the queues in turn, whatever their kind.
                 queue = self.queues[number // len(self.kinds) % len(self.queues)]
@@ -174,9 +175,11 @@ def run(fleet, sender, jobs, faults, expected, table=2):
                 if now > shown + table:
                     shown, height = now, show(fleet, records, jobs + len(expected), height)
                 time.sleep(BEAT)
-        finally:
+        except BaseException:
+            sender.given_up.set()
             for future in waiting:
                 future.cancel()
+            raise
         for future in waiting:
             future.result()
     time.sleep(3)  # one that comes twice comes now

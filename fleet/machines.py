@@ -125,14 +125,15 @@ class Machine:
 
     def processor_seconds(self):
         """What its programs have used since power came, those that have ended among them."""
-        fields = pathlib.Path(f"/proc/{self._first()}/stat").read_text().rpartition(")")[2].split()
+        fields = pathlib.Path(f"/proc/{self.first_process()}/stat").read_text().rpartition(")")[2].split()
         return sum(map(int, fields[11:15])) / os.sysconf("SC_CLK_TCK")
 
     def file(self, path):
         """One of its files, as it sees it."""
-        return pathlib.Path(f"/proc/{self._first()}/root{path}")
+        return pathlib.Path(f"/proc/{self.first_process()}/root{path}")
 
-    def _first(self):
+    def first_process(self):
+        """From which all others on it come, by its number outside."""
         children = pathlib.Path(f"/proc/{self._power.pid}/task/{self._power.pid}/children").read_text()
         return children.split()[0]
 

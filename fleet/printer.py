@@ -12,10 +12,10 @@ import re
 import socket
 import sys
 
-MARK = re.compile(rb"\bJ\d{7}\b")
+MARK = re.compile(rb"J\d{7}\b")
 END = re.compile(rb"@PJL EOJ\n\x1b%-12345X\s*\x04?\Z")
 # When the spooler or the cover was at work is in some jobs.
-TIME = re.compile(rb"\d{14}[Z+-]\d\d'\d\d'?|(?<=%%CreationDate: ).*")
+TIME = re.compile(rb"D:\d{14}[Z+-]\d\d'\d\d'?|%%CreationDate: .*")
 
 
 def describe(data, address):

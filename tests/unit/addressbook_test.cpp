@@ -179,6 +179,28 @@ TEST_F(AddressBook, AnUnwritableFolderChangesNothing) {
   EXPECT_EQ(list.recipientAtIndex(0)->uid(), nullptr);
 }
 
+TEST_F(AddressBook, SharedBooksAreReadOnly) {
+  const fs::path shared = folder_.parent_path() / "data/Zarvo/contacts";
+  ::setenv("ZARVO_APPLICATION_SUPPORT", (folder_.parent_path() / "data").c_str(), 1);
+  for (const char* place : {"faxes/a.vcf", "faxes/own.vcf", "branches/b.vcf", ".status/x.vcf"}) {
+    fs::create_directories((shared / place).parent_path());
+    std::ofstream{shared / place} << Card({"FN:s", "UID:" + fs::path(place).stem().string()});
+  }
+  fs::create_directories(folder_);
+  std::ofstream{folder_ / "z.vcf"} << Card({"FN:mine", "UID:own"});
+  std::string found;
+  for (const AddressBookRecord& record : AddressBookRecords())
+    found += record.uid() + "/" + record.shared_book + " ";
+  EXPECT_EQ(found, "own/ b/branches a/faxes ");
+  EXPECT_EQ(AddressBookFind("own")->shared_book, "");
+  const auto record = AddressBookFind("a");
+  ASSERT_TRUE(record);
+  EXPECT_FALSE(AddressBookSave(*record) || AddressBookRemove(*record));
+  EXPECT_TRUE(fs::exists(shared / "faxes/a.vcf"));
+  EXPECT_EQ(Files(), 1);
+  ::unsetenv("ZARVO_APPLICATION_SUPPORT");
+}
+
 TEST_F(AddressBook, LivesWhereTheEnvironmentSays) {
   ::setenv("HOME", "/h", 1);
   ::setenv("XDG_DATA_HOME", "/x", 1);

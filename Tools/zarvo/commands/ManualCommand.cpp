@@ -108,7 +108,8 @@ std::string OverviewPage() {
   return page + kStatusSection +
          ".SH ENVIRONMENT\n.TP\n.B ZARVO_APPLICATION_SUPPORT\nthe folder that holds the folder "
          "Zarvo "
-         "of watermarks and their fonts\n.TP\n.B ZARVO_ADDRESS_BOOK\nthe folder of fax recipients\n"
+         "of watermarks, their fonts, house tickets and shared fax recipients\n.TP\n.B "
+         "ZARVO_ADDRESS_BOOK\nthe folder of fax recipients\n"
          ".TP\n.B NO_COLOR\nif set, no colour\n.SH SEE ALSO\n" +
          pages + "\n.BR lp (1)\n";
 }

@@ -32,6 +32,16 @@ int CannotWrite() {
               "Check the folder's owner and the room on its disk");
 }
 
+int IsShared(const AddressBookRecord& record) {
+  return Fail(RecipientName(record), "is in the shared address book " + record.shared_book,
+              "Change it where that book is kept, or add a recipient of your own");
+}
+
+/// What of a shared book is read and never written.
+std::string WhereOf(const AddressBookRecord& record) {
+  return record.shared_book.empty() ? "" : "  shared in " + record.shared_book;
+}
+
 /// One card in another encoding makes other programs give up on the whole folder.
 bool AreUtf8(std::initializer_list<std::string> texts) {
   for (const std::string& text : texts) {
@@ -45,10 +55,10 @@ bool AreUtf8(std::initializer_list<std::string> texts) {
 void PrintPerson(const AddressBookRecord& record) {
   const FaxRecipient person = FaxRecipientFromCard(record.card);
   const auto text = [](const std::string* value) { return value != nullptr ? *value : "-"; };
-  std::printf("%s\n",
-              PrintableText(record.uid() + "  " + RecipientName(record) + "  fax " +
-                            text(person.faxNumber()) + "  mailbox " + text(person.mailbox()))
-                  .c_str());
+  std::printf("%s\n", PrintableText(record.uid() + "  " + RecipientName(record) + "  fax " +
+                                    text(person.faxNumber()) + "  mailbox " +
+                                    text(person.mailbox()) + WhereOf(record))
+                          .c_str());
 }
 
 int List(const Options& options) {
@@ -81,7 +91,7 @@ int List(const Options& options) {
     if (!IsGroupCard(record.card)) continue;
     const std::string members = std::to_string(GroupMembers(record.card).size());
     std::printf("%s\n", PrintableText(record.uid() + "  group " + RecipientName(record) +
-                                      "  members " + members)
+                                      "  members " + members + WhereOf(record))
                             .c_str());
   }
   return kExitOk;
@@ -138,6 +148,7 @@ int Edit(const Options& options) {
   if (found == nullptr) return kExitFailure;
   if (IsGroupCard(found->card))
     return Fail(options.who[0], "is a group", "Remove it and make it anew");
+  if (!found->shared_book.empty()) return IsShared(*found);
   AddressBookRecord record = *found;
   const FaxRecipient changes = RecipientOf(options);
   UpdateCard(changes, &record.card);
@@ -156,11 +167,12 @@ int Remove(const Options& options) {
   for (const std::string& who : options.who) {
     const AddressBookRecord* record = FindRecipient(records, who);
     if (record == nullptr) return kExitFailure;
+    if (!record->shared_book.empty()) return IsShared(*record);
     if (!AddressBookRemove(*record)) return CannotWrite();
     const std::string uid = record->uid();
     for (AddressBookRecord& group : records) {
-      if (IsGroupCard(group.card) && group.uid() != uid && RemoveGroupMember(&group.card, uid) &&
-          !AddressBookSave(group))
+      if (group.shared_book.empty() && IsGroupCard(group.card) && group.uid() != uid &&
+          RemoveGroupMember(&group.card, uid) && !AddressBookSave(group))
         return CannotWrite();
     }
     std::erase_if(records, [&uid](const AddressBookRecord& gone) { return gone.uid() == uid; });
