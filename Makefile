@@ -1,5 +1,5 @@
 # The front door; everything else is CMake (see CMakePresets.json).
-.PHONY: corpus build setup demo test bench pictures screenshots install clean format check-format lint asan fuzz load fleet deb test-packages test-debian
+.PHONY: corpus build setup demo test bench pictures screenshots install clean format check-format lint asan fuzz load fleet test-fleet deb test-packages test-debian
 JOBS ?= $(shell nproc)
 SOURCES = $(shell git ls-files '*.cpp' '*.h')
 
@@ -104,6 +104,10 @@ lint:
 fleet: setup
 	@$(MAKE) --no-print-directory build
 	@ZARVO_BIN=build/bin python3 fleet/fleet.py $(FLEET)
+
+# A bare Debian, made a print server by Ansible; fetches some hundred megabytes of packages for it alone.
+test-fleet: deb
+	@python3 tests/package/role.py build/deb
 
 clean:
 	@# What test-debian leaves belongs to root.

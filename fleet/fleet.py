@@ -187,7 +187,8 @@ def run(fleet, sender, jobs, faults, expected, table=2):
     show(fleet, records, len(sender.sent), height)
     lost, doubled, wrong, cut = judge(sender.sent, expected, records)
     return {"jobs": len(sender.sent), "seconds": round(changed - begun), "lost": lost, "doubled": doubled,
-            "wrong": wrong, "cut": cut, "refused": dict(sender.refused), "faults": [fault.text for fault in faults],
+            "wrong": wrong, "cut": cut, "refused": dict(sender.refused),
+            "restarted": sum(server.restarted for server in fleet.servers), "faults": [fault.text for fault in faults],
             "pages": sum(record["pages"] for record in records if record["whole"])}
 
 
@@ -237,7 +238,7 @@ def main():
         pathlib.Path(options.json).write_text(json.dumps(result, indent=1) + "\n")
     print(f"{result['jobs']} jobs in {result['seconds']} s: {len(result['lost'])} lost, {len(result['wrong'])} wrong, "
           f"{len(result['doubled'])} doubled, {result['cut']} cut off and printed once more")
-    for name in ("lost", "wrong", "doubled", "refused"):
+    for name in ("lost", "wrong", "doubled", "refused", "restarted"):
         if result[name]:
             print(f"{name}: {result[name]}")
     return int(bool(result["lost"] or result["wrong"]))

@@ -34,7 +34,7 @@ class Spooler(PrivateCupsd):
     def __init__(self, kind, machine, folder, environment=None, log_level="warn", disk=None):
         super().__init__(environment)
         self.kind, self.machine, self._log_level, self._disk = kind, machine, log_level, disk
-        self.root = folder / machine.name
+        self.root, self.restarted = folder / machine.name, 0
 
     def __enter__(self):
         self.root.mkdir()
@@ -90,7 +90,14 @@ class Spooler(PrivateCupsd):
                 filler.flush()
 
     def free_disk(self):
+        """And what an administrator does then: prints again what could not be converted for want of room."""
         self.machine.file(self.root / "spool/filler").unlink()
+        for line in self.run("lpstat", "-o").splitlines():
+            job, _, size, *_ = line.split()
+            if size != "0":  # nothing is in what the front was refused
+                with contextlib.suppress(RuntimeError):  # one that waits for its turn
+                    self.run("lp", "-i", job, "-H", "restart")
+                    self.restarted += 1
 
     def run(self, *command, **variables):
         return super().run(*map(str, command), **{"CUPS_SERVER": str(self.socket), "LC_ALL": "C.UTF-8",

@@ -1,0 +1,126 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: Apache-2.0
+"""Makes a bare Debian a print server by the Ansible role, and changes nothing the second time.
+
+    role.py FOLDER_OF_PACKAGES
+
+It takes root, debootstrap and a package mirror. Ansible is installed in the bare system alone, and works
+there on itself. Then a job is printed, and recipients come from a CardDAV server.
+"""
+
+import os
+import pathlib
+import re
+import shutil
+import subprocess
+import sys
+import tempfile
+
+SOURCE = pathlib.Path(__file__).resolve().parents[2]
+sys.path.insert(0, str(SOURCE / "Tools"))
+from bare_debian import BareDebian, own_release  # noqa: E402
+
+PLAY = "cd /root/fleet/ansible && ansible-playbook -i /root/inventory -c local -e ansible_become=false site.yml --limit {0} {1}"
+NO_QUEUES = """-e '{"zarvo_queues": {}}'"""  # as long as no spooler runs
+INVENTORY = """[servers]
+localhost
+[fronts]
+[all:vars]
+ansible_python_interpreter=/usr/bin/python3
+zarvo_packages={packages}
+zarvo_queues={{"office": "socket://localhost:9100/?snmp=false&waiteof=false"}}
+"""
+LOOPBACK = """set -e
+python3 -c 'import fcntl, socket, struct
+fcntl.ioctl(socket.socket(), 0x8914, struct.pack("16sh14x", b"lo", 0x41))'
+"""
+# In a network of its own, with the spooler started by hand as there is no init: queues are made, then nothing
+# is to be done any more. The system is bare: what listens is Python.
+USE = LOOPBACK + """python3 -c 'import socket
+s=socket.create_server(("",9100))
+while True:
+    c,_=s.accept(); data=b""
+    while piece:=c.recv(65536): data+=piece
+    if data: open("/root/received","wb").write(data)' &
+/usr/sbin/cupsd; sleep 2
+{play}
+{play}
+printf '%%!PS-Adobe-3.0\\n%%%%Page: 1 1\\nshowpage\\n' | lp -d office -o JobType=Secure -o JobPIN=Custom.0391
+for i in $(seq 100); do [ ! -s /root/received ] || break; sleep 0.2; done
+cat /root/received"""
+
+# A CardDAV server with one recipient; then he moves, and somebody here tries to change him.
+CONTACTS = LOOPBACK + """mkdir -p /etc/zarvo && cp /root/fleet/contacts/vdirsyncer.conf /etc/zarvo && echo x >/etc/zarvo/carddav-password
+radicale --storage-filesystem-folder /root/dav --auth-type none --server-hosts localhost:5232 2>/root/radicale &
+put() { python3 - "$1" <<'END'
+import base64, sys, urllib.request
+def send(method, path, body, kind):
+    request = urllib.request.Request("http://localhost:5232/house/faxes/" + path, body.encode(), method=method)
+    request.add_header("Authorization", "Basic " + base64.b64encode(b"house:x").decode())
+    request.add_header("Content-Type", kind)
+    try: urllib.request.urlopen(request)
+    except urllib.error.HTTPError as error:
+        if error.code not in (405, 409): raise
+send("MKCOL", "", '<mkcol xmlns="DAV:" xmlns:C="urn:ietf:params:xml:ns:carddav"><set><prop><resourcetype><collection/>'
+     '<C:addressbook/></resourcetype></prop></set></mkcol>', "text/xml")
+send("PUT", "ada.vcf", "BEGIN:VCARD\\r\\nVERSION:3.0\\r\\nUID:ada\\r\\nFN:Ada\\r\\nN:;Ada;;;\\r\\n"
+     f"TEL;TYPE=WORK,FAX:{sys.argv[1]}\\r\\nEND:VCARD\\r\\n", "text/vcard")
+END
+}
+sync() { umask 022; vdirsyncer -c /etc/zarvo/vdirsyncer.conf "$@"; }
+sleep 3; put 5550100
+yes | sync discover >/dev/null; sync sync
+zarvo recipient list
+zarvo recipient edit ada --fax 1 || echo "refused: $?"
+put 5550199; sync sync; zarvo recipient list
+"""
+
+
+def changes(text):
+    """The numbers of changed and failed tasks of each run of the playbook."""
+    return [(int(changed), int(failed)) for changed, failed in
+            re.findall(r"changed=(\d+)\s+unreachable=\d+\s+failed=(\d+)", text)]
+
+
+def run(system, command, own_network=False):
+    words = system.command("sh", "-c", command)
+    done = subprocess.run([*(["unshare", "--net"] if own_network else []), *words],
+                          capture_output=True, text=True, errors="replace", timeout=900)
+    if done.returncode:
+        sys.exit(f"{command}\n{done.stdout[-4000:]}{done.stderr[-2000:]}")
+    return done.stdout
+
+
+def main():
+    if os.geteuid() != 0 or not shutil.which("debootstrap"):
+        sys.exit("a bare system is made by root, with debootstrap")
+    packages = sorted(pathlib.Path(sys.argv[1]).resolve().glob("*.deb"))
+    packages = [package for package in packages if not package.name.count("dbgsym")]
+    with tempfile.TemporaryDirectory(prefix="zarvo-debian-") as scratch:
+        system = BareDebian(scratch, own_release())
+        system.make()
+        run(system, "apt-get update -qq && apt-get install -y -qq --no-install-recommends "
+            "ansible-core python3-apt radicale vdirsyncer")
+        shutil.copytree(SOURCE / "fleet", system.root / "root/fleet")
+        for package in packages:
+            shutil.copy(package, system.root / "root")
+        names = str([f"/root/{package.name}" for package in packages]).replace("'", '"')
+        system.write("root/inventory", INVENTORY.format(packages=names))
+        first = run(system, PLAY.format("servers", NO_QUEUES))
+        again = run(system, PLAY.format("servers", NO_QUEUES))
+        told = run(system, USE.format(play=PLAY.format("servers", "")), own_network=True)
+        contacts = run(system, CONTACTS, own_network=True)
+    made, unchanged, (queues, unchanged_queues) = changes(first), changes(again), changes(told)
+    print(f"bare system: {made[0][0]} changes, again {unchanged[0][0]}; queues: {queues[0]}, again "
+          f"{unchanged_queues[0]}")
+    assert made[0][0] > 5 and unchanged == [(0, 0)] and queues == (1, 0) and unchanged_queues == (0, 0), told
+    assert "OID_VAL_JOB_TYPE_SECURE_PRINT" in told, "the printer got no job"
+    print("a job was printed through it")
+    lines = [line for line in contacts.splitlines() if line.startswith(("ada ", "refused"))]
+    assert lines == ["ada  Ada  fax 5550100  mailbox -  shared in faxes", "refused: 2",
+                     "ada  Ada  fax 5550199  mailbox -  shared in faxes"], contacts
+    print("recipients came from a CardDAV server, and stayed as they are there")
+
+
+if __name__ == "__main__":
+    main()
