@@ -9,7 +9,9 @@ CODENAMES = {"12": "bookworm", "13": "trixie"}
 # Mounts are made for one command alone: they are gone with it, and nothing that clears the folder
 # away can ever reach through them. So are its processes, whatever they have started.
 PRIVATE = ["unshare", "--mount", "--propagation", "private", "--pid", "--fork", "--kill-child"]
+# Its root is a mount, as on a machine: without that programs inside could have no mounts of their own.
 INSIDE = """
+mount --bind "$0" "$0"
 mount -t proc proc "$0/proc"
 mount -t devpts -o newinstance,ptmxmode=0666,mode=620,gid=5 devpts "$0/dev/pts"
 mkdir -p "$0/dev/shm"; mount -t tmpfs -o mode=1777 shm "$0/dev/shm"

@@ -20,6 +20,9 @@
 namespace zarvo {
 namespace {
 
+/// Its values name what is in the store of watermarks.
+constexpr char kWatermarkOption[] = "Watermark";
+
 /// Options of the spooler and its converters that people type. Names that differ from one of them,
 /// or from one of the PPD, in a letter or two are taken for misspelt.
 constexpr const char* kTypedNames[] = {"collate",
@@ -135,7 +138,10 @@ void CheckChoice(const cups_option_t& option, const Ppd& ppd, std::vector<std::s
   const std::string nearest = NearestName(value, ppd.Choices(option.name));
   if (own_text && !paper) {  // the value may be a secret
     text += "no such choice, it was left out";
-    text += nearest.empty() ? "; give a text of your own as Custom.TEXT" : DidYouMean(nearest);
+    const char* own = Equals(option.name, kWatermarkOption)
+                          ? "; give a stored watermark's name as Custom.NAME"
+                          : "; give a text of your own as Custom.TEXT";
+    text += nearest.empty() ? own : DidYouMean(nearest);
   } else {
     text += "no choice " + value + ", the job is printed with " + MarkedChoice(ppd, option.name) +
             DidYouMean(nearest);
