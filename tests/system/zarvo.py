@@ -5,6 +5,7 @@ import json
 import os
 import pathlib
 import plistlib
+import shutil
 import subprocess
 import tempfile
 import unittest
@@ -13,6 +14,12 @@ BIN = pathlib.Path(os.environ["ZARVO_BIN"])
 SOURCE = pathlib.Path(os.environ["ZARVO_SOURCE"])
 EXPECTED = pathlib.Path(__file__).resolve().parent / "expected"
 PPD = SOURCE / "tests/golden/ppd/test.ppd"
+
+# The drawing helper becomes the spooler's user, which must be able to read it: the tree may lie in a
+# private home.
+_FONTS = tempfile.TemporaryDirectory()
+os.chmod(_FONTS.name, 0o755)
+os.environ["FONTCONFIG_FILE"] = shutil.copy(SOURCE / "tests/system/fonts.conf", _FONTS.name)
 
 ALL_SECTIONS = "com.zarvo.print.JTMLOptions..d_JTMLOptionAll..b=true"
 
