@@ -105,7 +105,8 @@ PinWays FindPins(const JobRequest& request, const QueuePolicy& policy) {
   for (const cups_option_t& option : request.chosen)
     if (NamesJobTypeEntry(option.name, kPinKey)) chosen = option.value;
   const bool has_chosen = chosen != nullptr && *chosen != '\0';
-  if (IsGiven(typed) && !has_chosen) {
+  // An empty text is what the scheduler makes of values of a kind that has none.
+  if (typed != nullptr && (IsGiven(typed) || *typed == '\0') && !has_chosen) {
     fail(std::string(kPinOption) + ": the PIN cannot be read; " + std::string(kPinRule) +
          ", given as JobPIN=Custom.DIGITS");
   } else if (has_chosen) {

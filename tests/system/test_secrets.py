@@ -51,6 +51,7 @@ REFUSED = {
     f"JobType=Secure {TYPE}=1": "would not be",
     "JobPIN=0391": "4 to 10 digits",
     "JobPIN=Custom": "4 to 10 digits",
+    "JobPIN=": "4 to 10 digits",
     "job-password=secret": "4 to 10 digits",
     "job-password=0391 job-password-encryption=sha-256": "encrypted",
     "JobPIN=Custom.0391 job-password=0392": "two different PINs",
