@@ -327,7 +327,7 @@ class Manners(ZarvoTest):
     def test_manual_pages_and_completion(self):
         self.run_zarvo("manual", "--man", "man")
         pages = sorted(pathlib.Path(self.scratch, "man").iterdir())
-        self.assertEqual(len(pages), 11)
+        self.assertEqual(len(pages), 12)
         told = subprocess.run(["groff", "-man", "-Tutf8", "-ww", *pages], capture_output=True)
         self.assertEqual(told.stderr, b"")
         self.run_zarvo("recipient", "add", "--first", "Ada", "--last", "King", "--fax", "0911")
