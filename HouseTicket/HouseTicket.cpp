@@ -184,6 +184,7 @@ void MergeSettings(Dictionary over, Dictionary* under) {
 
 Failure ResolveHouseTicket(const std::string& name, const FindHouseTicket& find,
                            ResolvedHouseTicket* resolved) {
+  if (name.empty()) return "no house ticket is named";
   std::vector<HouseTicket> tickets;
   ResolvedHouseTicket whole;
   whole.name = name;

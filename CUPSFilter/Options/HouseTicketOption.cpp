@@ -19,6 +19,7 @@ namespace {
 
 constexpr char kNone[] = "None";
 constexpr std::string_view kCustom = "Custom.";
+constexpr char kNoName[] = "the option HouseTicket gives no name";
 
 /// Whether the shared store has a record of that name, whatever is in it.
 bool IsStored(const std::string& name) {
@@ -31,6 +32,7 @@ struct Names {
   NamedHouseTicket named;
 
   void Add(const std::string& name) {
+    if (name.empty() && named.fault.empty()) named.fault = kNoName;
     if (named.name.empty()) named.name = name;
     if (named.name != name && named.fault.empty())
       named.fault =
@@ -105,7 +107,7 @@ NamedHouseTicket FindHouseTicketName(const OptionList& options, const PpdChoices
   for (const std::string& choice : standard.houseChoices) names.AddChoice(ppd, choice);
   if (names.named.name.empty() && names.named.fault.empty() && !none &&
       cupsGetOption(kHouseTicketOption, options.size(), options.data()) != nullptr)
-    names.named.fault = "the option HouseTicket gives no name";
+    names.named.fault = kNoName;
   return names.named;
 }
 
