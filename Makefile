@@ -105,8 +105,11 @@ fleet: setup
 	@$(MAKE) --no-print-directory build
 	@ZARVO_BIN=build/bin python3 fleet/fleet.py $(FLEET)
 
-# A bare Debian, made a print server by Ansible; fetches some hundred megabytes of packages for it alone.
+# The same with 300 jobs, none of which may be lost. Then a bare Debian, made a print server by Ansible;
+# it fetches some hundred megabytes of packages for that alone.
 test-fleet: deb
+	@$(MAKE) --no-print-directory build
+	@ZARVO_BIN=build/bin ZARVO_SOURCE=. python3 tests/system/test_fleet.py
 	@python3 tests/package/role.py build/deb
 
 clean:
