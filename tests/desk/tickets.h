@@ -30,4 +30,7 @@ constexpr Task kTasks[] = {
         {"FirstName": "Ada", "LastName": "Byron", "FaxNumber": "+44 20 7946 0018", "UID": "ada"},
         {"LastName": "Mill", "FaxNumber": "0911-4711", "UID": "mill"},
         {"FaxNumber": "030 1234"}]})"},
+    // The house ticket "handout" with its staple at another corner, kept as "right handout".
+    {"house", R"({"FinishingDuplex": 2, "FinishingOptions": 4, "FinishingStaple1Value": 7,
+      "JTMLOptions": {"JTMLOptionAll": true}})"},
 };

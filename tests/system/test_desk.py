@@ -11,25 +11,38 @@ from cupsd import PrivateCupsd, Printer
 from zarvo import BIN, SOURCE, ZarvoTest, document
 
 WINDOW = BIN.parent / "tests/desk_test"
+# What differs between any two jobs.
+NUMBER = re.compile(rb"(%RBI\w*|%%CreationDate|%%For|.*job-uuid|.*time-at).*")
 
 
 @unittest.skipUnless(WINDOW.exists(), "Qt 6 is not installed, so there is no desktop program")
 class Desk(ZarvoTest):
-    def test_printed_job_is_that_of_the_saved_settings(self):
-        job = self.path("handout.ps", document(3))
-        saved = self.scratch / "saved.json"
-        with PrivateCupsd() as cupsd, Printer() as printer:
+    def test_printed_jobs_are_those_of_written_settings(self):
+        """Whoever does a task in the window gets the job that settings written by hand give."""
+        pages = {"thesis": 120, "booklet": 24, "handout": 3, "fax": 2, "house": 3}
+        marks = {"thesis": rb"cover-front(?s:.*)insert-sheet(?s:.*)page-overrides", "booklet": rb"\(DRAFT\)",
+                 "handout": b"JOB_PASSWORD", "fax": b"FAX", "house": b"enum\">22<"}
+        self.scratch.chmod(0o755)  # the spooler's filter is another user
+        self.run_zarvo("watermark", "add-text", "DRAFT")
+        folder = self.scratch / "tasks"
+        folder.mkdir()
+        for task, count in pages.items():
+            (folder / f"{task}.ps").write_text(document(count))
+        store = {"ZARVO_APPLICATION_SUPPORT": self.environment["ZARVO_APPLICATION_SUPPORT"]}
+        with PrivateCupsd(store) as cupsd, Printer() as printer:
             cupsd.add_queue("office", BIN.parent / "ppd/zarvo.ppd", printer.uri)
             self.environment["CUPS_SERVER"] = f"127.0.0.1:{cupsd.port}"
-            done = subprocess.run([WINDOW, "printed"], capture_output=True, text=True, timeout=300, env=self.environment | {
-                "ZARVO_DESK_PRINTS": job, "ZARVO_DESK_SAVES": str(saved), "QT_QPA_PLATFORM": "offscreen"})
+            done = subprocess.run([WINDOW, "printed"], capture_output=True, text=True, timeout=500,
+                                  env=self.environment | {"ZARVO_DESK_PRINTS": str(folder),
+                                                          "QT_QPA_PLATFORM": "offscreen"})
             self.assertEqual(done.returncode, 0, done.stdout + done.stderr)
-            ours = printer.wait()
-            self.run_zarvo("print", job, str(saved), "-d", "office")
-            theirs = printer.wait()
-        number = re.compile(rb"(%RBI\w*|%%CreationDate|%%For|.*job-uuid|.*time-at).*")
-        self.assertIn(b"JOB_PASSWORD", ours)
-        self.assertEqual(number.sub(b"", ours), number.sub(b"", theirs))
+            ours = dict(zip(pages, printer.wait(len(pages))))
+            for task in pages:
+                self.run_zarvo("print", str(folder / f"{task}.ps"), str(folder / f"{task}.json"), "-d", "office")
+                theirs = printer.wait()
+                with self.subTest(task):
+                    self.assertRegex(theirs, marks[task])
+                    self.assertEqual(NUMBER.sub(b"", ours[task]), NUMBER.sub(b"", theirs))
 
     def test_every_text_is_translated(self):
         done = subprocess.run([SOURCE / "Tools/desk-texts", "--check"], capture_output=True, text=True)

@@ -2,6 +2,7 @@
 #include "Tools/zarvo/system/SheetPdf.h"
 
 #include <algorithm>
+#include <cmath>
 #include <exception>
 #include <map>
 #include <memory>
@@ -100,7 +101,9 @@ class Sheets {
     const double shown_height = side.turn != 0 ? width : height;
     const double size = std::clamp(shown_width / 60, 6.0, 24.0);
     const std::vector<std::string> lines = Folded(side.notes, size, shown_width - 2 * size);
-    const double margin = lines.empty() ? 0 : size * (1.3 * static_cast<double>(lines.size()) + 1);
+    // Whole points, so that a picture of so many dots an inch shows the page itself unchanged.
+    const double margin =
+        lines.empty() ? 0 : std::ceil(size * (1.3 * static_cast<double>(lines.size()) + 1));
     std::string matrix = "1 0 0 1 " + Number(-box.llx) + " " + Number(margin - box.lly);
     if (side.turn == 270)
       matrix = "0 1 -1 0 " + Number(height + box.lly) + " " + Number(margin - box.llx);
