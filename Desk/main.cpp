@@ -4,25 +4,12 @@
 #include <QCommandLineParser>
 #include <QFile>
 #include <QIcon>
-#include <QLibraryInfo>
 #include <QLocale>
 #include <QTimer>
-#include <QTranslator>
 #include <cstdio>
 
 #include "Desk/view/MainWindow.h"
-
-namespace {
-
-/// A text means the same wherever it stands, so all have one context.
-class Translator : public QTranslator {
- public:
-  QString translate(const char*, const char* text, const char*, int count) const override {
-    return QTranslator::translate("desk", text, nullptr, count);
-  }
-};
-
-}  // namespace
+#include "Desk/view/Translations.h"
 
 int main(int argc, char** argv) {
   using zarvo::ScratchFolder;
@@ -45,11 +32,7 @@ int main(int argc, char** argv) {
   QApplication::setApplicationVersion(ZARVO_VERSION);
   QApplication::setDesktopFileName("zarvo-desk");
   QApplication::setWindowIcon(QIcon(":/zarvo-desk.svg"));
-  Translator own;
-  QTranslator toolkit;
-  if (own.load(QLocale(), "zarvo-desk", "_", ":/i18n")) QApplication::installTranslator(&own);
-  if (toolkit.load(QLocale(), "qtbase", "_", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-    QApplication::installTranslator(&toolkit);
+  const zarvo::desk::Translations translations(QLocale(), &app);
 
   const auto tr = [](const char* text) { return QCoreApplication::translate("main", text); };
   QCommandLineParser parser;

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "Platform/Log.h"
+#include "Platform/Phrase.h"
 #include "Platform/Text.h"
 #include "Source/CFAdditions.h"
 #include "Source/TicketNames.h"
@@ -95,14 +96,14 @@ void DropSettings(const std::string& above, const Dictionary& others, Dictionary
 std::string HouseTicketNameFault(std::string_view name) {
   const std::string text(name);
   constexpr std::string_view kCustom = "Custom.";
-  if (name.empty()) return "a name has at least one character";
+  if (name.empty()) return Phrase("a name has at least one character");
   if (name.size() > kLongestHouseTicketName)
-    return "a name has at most " + std::to_string(kLongestHouseTicketName) + " bytes";
-  if (MakeString(name) != text) return "a name is UTF-8 with composed characters";
-  if (PrintableText(name) != text) return "a name has no control characters";
+    return Phrase("a name has at most %1 bytes", {std::to_string(kLongestHouseTicketName)});
+  if (MakeString(name) != text) return Phrase("a name is UTF-8 with composed characters");
+  if (PrintableText(name) != text) return Phrase("a name has no control characters");
   if (strcasecmp(text.c_str(), "None") == 0 ||
       strncasecmp(text.c_str(), kCustom.data(), kCustom.size()) == 0)
-    return "\"None\" and what begins with \"Custom.\" mean something else to dialogs";
+    return Phrase("\"None\" and what begins with \"Custom.\" mean something else to dialogs");
   return "";
 }
 

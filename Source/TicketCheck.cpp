@@ -5,6 +5,7 @@
 #include <cctype>
 #include <cstring>
 
+#include "Platform/Phrase.h"
 #include "Source/CFAdditions.h"
 #include "Source/Mappings.h"
 #include "Source/NearestName.h"
@@ -25,24 +26,24 @@ std::string Lower(std::string_view text) {
   return lower;
 }
 
-const char* TypeName(KeyType type) {
+std::string TypeName(KeyType type) {
   switch (type) {
     case KeyType::kText:
-      return "a text";
+      return Phrase("a text");
     case KeyType::kNumber:
-      return "a whole number";
+      return Phrase("a whole number");
     case KeyType::kBoolean:
-      return "true or false";
+      return Phrase("true or false");
     case KeyType::kDate:
-      return "a date such as \"2026-12-31T18:30\"";
+      return Phrase("a date such as \"2026-12-31T18:30\"");
     case KeyType::kDictionary:
-      return "a group of keys";
+      return Phrase("a group of keys");
     case KeyType::kList:
-      return "a list of groups";
+      return Phrase("a list of groups");
     case KeyType::kAny:
       break;
   }
-  return "anything";
+  return Phrase("anything");
 }
 
 bool HasType(const Value& value, KeyType type) {
@@ -127,7 +128,8 @@ class Checker {
       if (compared_ <= kMostCompared) SpoolerOption(place, name);
       return;
     }
-    Add(place, nearest.empty() ? "unknown key" : "unknown key; did you mean " + nearest + "?");
+    Add(place, nearest.empty() ? Phrase("unknown key")
+                               : Phrase("unknown key; did you mean %1?", {nearest}));
   }
 
   /// One of the spooler's own options, which it reads as text.
@@ -135,7 +137,7 @@ class Checker {
     constexpr std::size_t kShortest = 4;  // shorter ones are all alike
     const std::string nearest = NearestName(name, spooler_options_);
     if (name.size() >= kShortest && IsMisspelt(name, nearest))
-      Add(place, "unknown option; did you mean " + nearest + "?");
+      Add(place, Phrase("unknown option; did you mean %1?", {nearest}));
   }
 
   void Known(const std::string& place, const Value& value, const TicketKey& key) {
@@ -149,19 +151,21 @@ class Checker {
       if (const Dictionary* group = element.AsDictionary()) {
         Group(inner, *group, key.members);
       } else {
-        Add(inner, "takes a group of keys");
+        Add(inner, Phrase("takes %1", {TypeName(KeyType::kDictionary)}));
       }
     }
   }
 
   void WrongType(const std::string& place, const Value& value, const TicketKey& key) {
-    std::string text = std::string("takes ") + TypeName(key.type);
+    const std::string type = TypeName(key.type);
+    std::string text = Phrase("takes %1", {type});
     const std::string* word = value.AsString();
     if (word != nullptr && !key.words.empty()) {
       std::vector<std::string> words;
       for (const CodeWord& row : key.words) words.emplace_back(row.word);
       const std::string nearest = NearestName(*word, words);
-      text += nearest.empty() ? ": " + WordList(key) : "; did you mean \"" + nearest + "\"?";
+      text = nearest.empty() ? Phrase("takes %1: %2", {type, WordList(key)})
+                             : Phrase("takes %1; did you mean \"%2\"?", {type, nearest});
     }
     Add(place, text);
   }
@@ -170,10 +174,12 @@ class Checker {
     std::int64_t code = 0;
     const bool whole = !number.IsReal() && number.Get(&code);
     if (whole && code >= key.low && code <= key.high) return;
-    std::string text = whole ? std::to_string(code) + " is out of range" : "is no whole number";
-    text += "; it takes " + std::to_string(key.low) + " to " + std::to_string(key.high);
-    if (!key.words.empty()) text += " (" + WordList(key) + ")";
-    Add(place, text);
+    const std::string what =
+        whole ? Phrase("%1 is out of range", {std::to_string(code)}) : Phrase("is no whole number");
+    std::string range =
+        Phrase("it takes %1 to %2", {std::to_string(key.low), std::to_string(key.high)});
+    if (!key.words.empty()) range += " (" + WordList(key) + ")";
+    Add(place, what + "; " + range);
   }
 };
 
@@ -188,15 +194,16 @@ void CheckSense(const Dictionary& ticket, Checker* checker) {
   if (sections == nullptr && !HasNumber(ticket, key::kEmitJTML, 0)) {
     for (const TicketKey& key : TopLevelKeys()) {
       if (key.xml_only && DictionaryContains(ticket, key.name))
-        checker->Add(key.name, std::string("has no effect without ") + key::kJTMLOptions +
-                                   "; add {\"JTMLOptionAll\": true} there");
+        checker->Add(key.name,
+                     Phrase("has no effect without %1; add {\"JTMLOptionAll\": true} there",
+                            {key::kJTMLOptions}));
     }
   }
   if (const Dictionary* job = DictionaryGetDictionary(ticket, key::kJobType)) {
     const std::string place = key::kJobType;
     if (HasNumber(*job, key::job_type::kJobType, kJobTypeDelayed) &&
         !DictionaryContains(*job, key::job_type::kDelayedPrintTime))
-      checker->Add(place, "a delayed job needs a DelayedPrintTime");
+      checker->Add(place, Phrase("a delayed job needs a DelayedPrintTime"));
   }
   const Dictionary* stock = DictionaryGetDictionary(ticket, key::kJobLevelStock);
   std::int32_t size = 0;
@@ -206,8 +213,8 @@ void CheckSense(const Dictionary& ticket, Checker* checker) {
       !GetStockDimensionsForSize(size, &width, &length) &&
       !DictionaryContains(*stock, key::stock::kWidth))
     checker->Add("com.zarvo.print.JobLevelStock/Size",
-                 "no stock has the code " + std::to_string(size) +
-                     "; take a known one, or give Width and Length");
+                 Phrase("no stock has the code %1; take a known one, or give Width and Length",
+                        {std::to_string(size)}));
 }
 
 }  // namespace

@@ -11,6 +11,7 @@
 #include "CUPSFilter/Header/FaxComments.h"
 #include "CUPSFilter/Header/JobTypeComments.h"
 #include "CUPSFilter/Options/ParseOptions.h"
+#include "Platform/Phrase.h"
 #include "Platform/Text.h"
 #include "Source/CFAdditions.h"
 #include "Source/Fax.h"
@@ -123,8 +124,8 @@ PinWays FindPins(const JobRequest& request, const QueuePolicy& policy) {
     ways.inTicket = ways.inTicket || NamesJobTypeEntry(option.name, kPinKey);
     const std::string_view meant = MisspeltWay(option.name);
     if (!meant.empty() && IsGiven(option.value))
-      fail("an option that nobody knows looks like a misspelt PIN; did you mean " +
-           std::string(meant) + "?");
+      fail(Phrase("an option that nobody knows looks like a misspelt PIN; did you mean %1?",
+                  {meant}));
   }
   if (IsGiven(Find(request.own, kFeaturePassword)) && !policy.featurePassword)
     fail(
@@ -137,8 +138,8 @@ PinWays FindPins(const JobRequest& request, const QueuePolicy& policy) {
 std::string UnreadableJobType(const JobRequest& request, const Dictionary& ticket) {
   const Value* group = DictionaryFind(ticket, kJobTypeKey);
   if (group != nullptr && group->AsDictionary() == nullptr)
-    return std::string(kJobTypeKey) +
-           " is no group of settings; send the job type as ..d_JobType..n=NUMBER";
+    return Phrase("%1 is no group of settings; send the job type as ..d_JobType..n=NUMBER",
+                  {kJobTypeKey});
   for (const std::string_view name : request.leftOut) {
     if (NamesJobTypeEntry(name, kPinKey))
       return "SecurePrintPassword: the PIN cannot be read as text; send it in UTF-8, digits are "
@@ -150,11 +151,11 @@ std::string UnreadableJobType(const JobRequest& request, const Dictionary& ticke
   if (group == nullptr) return "";
   const Value* type = DictionaryFind(*group->AsDictionary(), kTypeKey);
   if (type != nullptr && type->AsNumber() == nullptr)
-    return std::string(kJobTypeKey) +
-           ": the job type is no number; send it as ..d_JobType..n=NUMBER";
+    return Phrase("%1: the job type is no number; send it as ..d_JobType..n=NUMBER", {kJobTypeKey});
   const Value* pin = DictionaryFind(*group->AsDictionary(), kPinKey);
   if (pin != nullptr && pin->AsString() == nullptr)
-    return "SecurePrintPassword: the PIN is no text; send it as ..d_SecurePrintPassword=TEXT";
+    return Phrase(
+        "SecurePrintPassword: the PIN is no text; send it as ..d_SecurePrintPassword=TEXT");
   return "";
 }
 
@@ -163,18 +164,18 @@ bool KeepsPin(std::int32_t type) {
 }
 
 /// What people call a job of that type.
-const char* TypeName(std::int32_t type) {
+std::string TypeName(std::int32_t type) {
   switch (type) {
     case kJobTypeNormal:
-      return "an ordinary job";
+      return Phrase("an ordinary job");
     case kJobTypeFax:
-      return "a fax";
+      return Phrase("a fax");
     case kJobTypeDelayed:
-      return "a delayed job";
+      return Phrase("a delayed job");
     case kJobTypeSampleSet:
-      return "a sample set";
+      return Phrase("a sample set");
     default:
-      return "a job of this type";
+      return Phrase("a job of this type");
   }
 }
 
@@ -217,8 +218,8 @@ Judgement JudgeWithoutPin(const JobRequest& request, const QueuePolicy& policy,
         "type");
   if (!secure) return {};
   if (!policy.allowEmptyPin)
-    return Refusal(std::string("a secure job needs a PIN; give one as JobPIN=Custom.DIGITS (") +
-                   std::string(kPinDigits) + ")");
+    return Refusal(
+        Phrase("a secure job needs a PIN; give one as JobPIN=Custom.DIGITS (%1)", {kPinDigits}));
   // Without the key nothing would say that the job is secure.
   CFDictionaryGetDictionaryOrCreate(*ticket, kJobTypeKey).insert_or_assign(kPinKey, Value(""));
   return {};
@@ -232,24 +233,28 @@ std::string FaxFault(const JobRequest& request, const Dictionary& ticket) {
       return "a setting of the fax cannot be read; correct " + std::string(name);
   }
   if (DictionaryGetDictionary(ticket, key::kFaxOptions) == nullptr)
-    return "the fax has no " + std::string(key::kFaxOptions) + "; send its settings along";
+    return Phrase("the fax has no %1; send its settings along", {key::kFaxOptions});
   const Array* recipients = DictionaryGetArray(ticket, key::kFaxRecipientList);
   if (recipients == nullptr || recipients->empty())
-    return "the fax has no recipient that can be read; give FaxNumber=Custom.NUMBER";
+    return Phrase("the fax has no recipient that can be read; give FaxNumber=Custom.NUMBER");
   for (std::size_t i = 0; i < recipients->size(); ++i) {
-    const std::string who = "recipient " + std::to_string(i + 1) + " of the fax ";
+    const std::string who = std::to_string(i + 1);
     const Dictionary* recipient = (*recipients)[i].AsDictionary();
-    if (recipient == nullptr) return who + "cannot be read; send it as a group of settings";
+    if (recipient == nullptr)
+      return Phrase("recipient %1 of the fax cannot be read; send it as a group of settings",
+                    {who});
     const Value* number = DictionaryFind(*recipient, kFaxRecipientFaxNumberProperty);
     const std::string* mailbox = DictionaryGetString(*recipient, kFaxRecipientMailboxProperty);
     if (number == nullptr && (mailbox == nullptr || mailbox->empty()))
-      return who + "has no number; give one";
+      return Phrase("recipient %1 of the fax has no number; give one", {who});
     if (number == nullptr) continue;
     const std::string dialing = number->AsString() != nullptr
                                     ? CopyDialingStringFromFaxNumber(*number->AsString())
                                     : std::string();
     if (dialing.find_first_of("0123456789") == std::string::npos)
-      return who + "has a number with nothing that can be dialed; correct it";
+      return Phrase(
+          "recipient %1 of the fax has a number with nothing that can be dialed; correct it",
+          {who});
   }
   return "";
 }
@@ -259,8 +264,8 @@ void TellCut(const Dictionary& options, std::string_view key, std::size_t most,
              Judgement* verdict) {
   const std::string* text = DictionaryGetString(options, key);
   if (text != nullptr && text->size() > most)
-    verdict->notices.push_back("fax: " + std::string(key) + " is cut, the printer takes " +
-                               std::to_string(most) + " bytes; shorten it");
+    verdict->notices.push_back(Phrase("fax: %1 is cut, the printer takes %2 bytes; shorten it",
+                                      {key, std::to_string(most)}));
 }
 
 }  // namespace
@@ -275,7 +280,7 @@ std::string TypedPinFault(std::string_view pin) {
   const bool digits =
       std::all_of(pin.begin(), pin.end(), [](char c) { return c >= '0' && c <= '9'; });
   if (digits && pin.size() >= kShortestPin && pin.size() <= kLongestPin) return "";
-  return std::string(kPinRule) + " and nothing else; choose another one";
+  return Phrase("%1 and nothing else; choose another one", {kPinRule});
 }
 
 ScrambledPin WhatScramblingMakes(std::string_view pin) {
@@ -305,16 +310,16 @@ Judgement JudgePin(const JobRequest& request, const QueuePolicy& policy, Diction
 
   const std::optional<std::int32_t> type = TypeIn(*ticket);
   if (type && !KeepsPin(*type))
-    return Refusal(std::string(TypeName(*type)) +
-                   " cannot keep a PIN; choose JobType=Secure, or leave the PIN out");
+    return Refusal(Phrase("%1 cannot keep a PIN; choose JobType=Secure, or leave the PIN out",
+                          {TypeName(*type)}));
   Judgement verdict;
   switch (WhatScramblingMakes(ways.pins.front())) {
     case ScrambledPin::kUnsafe:
-      return Refusal("the scrambled form of this PIN would end the printer's line; " +
-                     std::string(kPinRule) + " safely");
+      return Refusal(Phrase(
+          "the scrambled form of this PIN would end the printer's line; %1 safely", {kPinRule}));
     case ScrambledPin::kCut:
-      verdict.notices.push_back("the PIN is cut on its way to the printer; " +
-                                std::string(kPinRule) + " safely");
+      verdict.notices.push_back(
+          Phrase("the PIN is cut on its way to the printer; %1 safely", {kPinRule}));
       break;
     case ScrambledPin::kWhole:
       break;

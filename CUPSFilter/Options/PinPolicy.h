@@ -17,6 +17,7 @@
 #include <vector>
 
 #include "CUPSFilter/Options/QueuePolicy.h"
+#include "Platform/Phrase.h"
 #include "Platform/Value.h"
 
 namespace zarvo {
@@ -28,9 +29,9 @@ inline constexpr char kFaxNumberOption[] = "FaxNumber";
 /// What people type as a PIN; the PPD says the same of its option.
 inline constexpr std::size_t kShortestPin = 4;
 inline constexpr std::size_t kLongestPin = 10;
-inline constexpr std::string_view kPinRule = "a PIN takes 4 to 10 digits";
-inline constexpr std::string_view kPinDigits =
-    kPinRule.substr(std::string_view("a PIN takes ").size());
+inline constexpr std::string_view kPinRule = PhraseText("a PIN takes 4 to 10 digits");
+inline constexpr std::string_view kPinDigits = PhraseText("4 to 10 digits");
+static_assert(kPinRule.ends_with(kPinDigits));
 
 /// What a job asks for, as it came.
 struct JobRequest {

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstdint>
 
+#include "Platform/Phrase.h"
 #include "Source/CFAdditions.h"
 #include "Source/TicketNames.h"
 
@@ -41,12 +42,12 @@ void CheckAccounting(const Dictionary& ticket, std::vector<TicketGap>* gaps) {
   const std::int32_t mode = NumberAt(ticket, key::kAccounting);
   if (!IsOneOf(mode, kUserAndOptionalAccount, kUserAndAccount)) return;
   if (DictionaryGetString(ticket, key::kAccountUser) == nullptr)
-    gaps->push_back({key::kAccounting, "accounting: the job names no user",
+    gaps->push_back({key::kAccounting, Phrase("accounting: the job names no user"),
                      "AccountUser=Custom.USER", key::kAccountUser});
   const bool account = mode == kUserAndAccount ||
                        IsOneOf(NumberAt(ticket, key::kAccountType), kGeneralAccount, kGroupAccount);
   if (account && DictionaryGetString(ticket, key::kAccount) == nullptr)
-    gaps->push_back({key::kAccounting, "accounting: the job names no account",
+    gaps->push_back({key::kAccounting, Phrase("accounting: the job names no account"),
                      "AccountID=Custom.ACCOUNT", key::kAccount});
 }
 
@@ -59,19 +60,23 @@ void CheckFax(const Dictionary& ticket, std::vector<TicketGap>* gaps) {
   const Array* recipients = DictionaryGetArray(ticket, key::kFaxRecipientList);
   if (!cover && (recipients == nullptr || recipients->empty())) return;
   gaps->push_back({cover ? key::kFaxOptions : key::kFaxRecipientList,
-                   "fax settings have no effect in a job that is no fax", "FaxNumber=Custom.NUMBER",
+                   Phrase("fax settings have no effect in a job that is no fax"),
+                   "FaxNumber=Custom.NUMBER",
                    std::string(key::kJobType) + ": {\"JobType\": \"fax\"}"});
 }
 
 }  // namespace
 
 TicketGap FoldGap() {
-  return {key::kFinishingOptions,
-          "the sheets are folded in the middle, but the pages are not laid out as a booklet",
-          "BookletLayout=LeftToRight", std::string(key::kBookletLayout) + ": true"};
+  return {
+      key::kFinishingOptions,
+      Phrase("the sheets are folded in the middle, but the pages are not laid out as a booklet"),
+      "BookletLayout=LeftToRight", std::string(key::kBookletLayout) + ": true"};
 }
 
-std::string GapLine(const TicketGap& gap) { return gap.cause + "; give " + gap.choice; }
+std::string GapLine(const TicketGap& gap) {
+  return gap.cause + "; " + Phrase("give %1", {gap.choice});
+}
 
 std::vector<TicketGap> FindGaps(const Dictionary& ticket) {
   std::vector<TicketGap> gaps;

@@ -20,6 +20,10 @@
       <translation> ポイント</translation>
     </message>
     <message>
+      <source>"None" and what begins with "Custom." mean something else to dialogs</source>
+      <translation>「None」と「Custom.」で始まる名前は、印刷ダイアログでは別の意味になります</translation>
+    </message>
+    <message>
       <source>%1 (group)</source>
       <translation>%1（グループ）</translation>
     </message>
@@ -28,8 +32,20 @@
       <translation>%1（ここにはありません）</translation>
     </message>
     <message>
+      <source>%1 and nothing else; choose another one</source>
+      <translation>%1以外は使えません。別のものにしてください</translation>
+    </message>
+    <message>
       <source>%1 cannot be read.</source>
       <translation>%1 を読み込めません。</translation>
+    </message>
+    <message>
+      <source>%1 cannot keep a PIN; choose JobType=Secure, or leave the PIN out</source>
+      <translation>%1は暗証番号を保持できません。セキュリティープリント (JobType=Secure) を選ぶか、暗証番号を外してください</translation>
+    </message>
+    <message>
+      <source>%1 copies</source>
+      <translation>%1 部</translation>
     </message>
     <message>
       <source>%1 does not take "%2".</source>
@@ -38,6 +54,26 @@
     <message>
       <source>%1 g/m²</source>
       <translation>%1 g/m²</translation>
+    </message>
+    <message>
+      <source>%1 is no group of settings; send the job type as ..d_JobType..n=NUMBER</source>
+      <translation>%1 は設定のグループではありません。ジョブの種類は ..d_JobType..n=番号 で送ってください</translation>
+    </message>
+    <message>
+      <source>%1 is out of range</source>
+      <translation>%1 は範囲外です</translation>
+    </message>
+    <message>
+      <source>%1 job envelopes: the printer takes it for as many jobs and starts anew at each</source>
+      <translation>ジョブの枠が %1 個あります。プリンターはその数のジョブとみなし、それぞれ最初から始めます</translation>
+    </message>
+    <message>
+      <source>%1 sheets after page %2</source>
+      <translation>%2 ページの後に %1 枚</translation>
+    </message>
+    <message>
+      <source>%1: the job type is no number; send it as ..d_JobType..n=NUMBER</source>
+      <translation>%1: ジョブの種類が数値ではありません。..d_JobType..n=番号 で送ってください</translation>
     </message>
     <message numerus="yes">
       <source>%n copies</source>
@@ -134,20 +170,40 @@
       <translation>/10 ポイント</translation>
     </message>
     <message>
+      <source>1 sheet after page %1</source>
+      <translation>%1 ページの後に 1 枚</translation>
+    </message>
+    <message>
+      <source>4 to 10 digits</source>
+      <translation>4～10 桁の数字</translation>
+    </message>
+    <message>
       <source>A text of one's own</source>
       <translation>自分で入力した文</translation>
     </message>
     <message>
-      <source>Account</source>
-      <translation>アカウント</translation>
+      <source>Abort</source>
+      <translation>中止</translation>
     </message>
     <message>
       <source>Account for it</source>
       <translation>課金方法</translation>
     </message>
     <message>
-      <source>Accounting</source>
-      <translation>課金</translation>
+      <source>Account in the XML ticket</source>
+      <translation>XML チケットのアカウント</translation>
+    </message>
+    <message>
+      <source>Accounting in the XML ticket, on only in mode "user-and-account"</source>
+      <translation>XML チケットの課金（「ユーザーとアカウント」のときだけ）</translation>
+    </message>
+    <message>
+      <source>Accounting mode</source>
+      <translation>課金の方式</translation>
+    </message>
+    <message>
+      <source>Accounting user in the XML ticket</source>
+      <translation>XML チケットの課金ユーザー</translation>
     </message>
     <message>
       <source>Add from the address book</source>
@@ -158,8 +214,24 @@
       <translation>この番号を追加</translation>
     </message>
     <message>
+      <source>Additional accounting data</source>
+      <translation>追加の課金データ</translation>
+    </message>
+    <message>
       <source>Address book</source>
       <translation>アドレス帳</translation>
+    </message>
+    <message>
+      <source>Address-book record</source>
+      <translation>アドレス帳の項目</translation>
+    </message>
+    <message>
+      <source>After page</source>
+      <translation>このページの後</translation>
+    </message>
+    <message>
+      <source>All</source>
+      <translation>すべて</translation>
     </message>
     <message>
       <source>All files</source>
@@ -210,36 +282,68 @@
       <translation>上</translation>
     </message>
     <message>
-      <source>Automatic</source>
-      <translation>自動</translation>
-    </message>
-    <message>
-      <source>Back cover</source>
-      <translation>裏表紙</translation>
-    </message>
-    <message>
       <source>Back printed</source>
       <translation>裏面に印刷</translation>
+    </message>
+    <message>
+      <source>Background forms</source>
+      <translation>背景フォーム</translation>
+    </message>
+    <message>
+      <source>Balance from cyan to red</source>
+      <translation>シアンから赤へのバランス</translation>
+    </message>
+    <message>
+      <source>Balance from magenta to green</source>
+      <translation>マゼンタから緑へのバランス</translation>
+    </message>
+    <message>
+      <source>Balance from yellow to blue</source>
+      <translation>黄から青へのバランス</translation>
     </message>
     <message>
       <source>Banner page</source>
       <translation>バナーページ</translation>
     </message>
     <message>
-      <source>Behind the page</source>
-      <translation>ページの背面</translation>
+      <source>Billing code, up to 16 bytes</source>
+      <translation>課金コード（16 バイトまで）</translation>
+    </message>
+    <message>
+      <source>Binding choice</source>
+      <translation>製本の位置</translation>
+    </message>
+    <message>
+      <source>Black</source>
+      <translation>黒</translation>
     </message>
     <message>
       <source>Black and gray</source>
       <translation>白黒</translation>
     </message>
     <message>
-      <source>Blue</source>
-      <translation>青</translation>
+      <source>Black overprint off</source>
+      <translation>黒のオーバープリントなし</translation>
     </message>
     <message>
-      <source>Booklet</source>
-      <translation>小冊子</translation>
+      <source>Black overprint on</source>
+      <translation>黒のオーバープリントあり</translation>
+    </message>
+    <message>
+      <source>Black printed over colours</source>
+      <translation>黒を色の上に重ねる</translation>
+    </message>
+    <message>
+      <source>Blank sheets</source>
+      <translation>白紙</translation>
+    </message>
+    <message>
+      <source>Blue of a custom colour</source>
+      <translation>ユーザー定義色の青</translation>
+    </message>
+    <message>
+      <source>Booklet on the job's stock size</source>
+      <translation>用紙のサイズで小冊子にする</translation>
     </message>
     <message>
       <source>Booklet, read from left to right</source>
@@ -248,6 +352,10 @@
     <message>
       <source>Booklet, read from right to left</source>
       <translation>小冊子（右から左へ読む）</translation>
+    </message>
+    <message>
+      <source>Both</source>
+      <translation>両方</translation>
     </message>
     <message>
       <source>Both sides printed</source>
@@ -262,12 +370,24 @@
       <translation>両面（カレンダーのようにめくる）</translation>
     </message>
     <message>
-      <source>Buff</source>
-      <translation>淡黄</translation>
+      <source>Both sides, turned over the long edge</source>
+      <translation>両面（長辺とじ）</translation>
     </message>
     <message>
-      <source>By user</source>
-      <translation>ユーザー別</translation>
+      <source>Both sides, turned over the short edge</source>
+      <translation>両面（短辺とじ）</translation>
+    </message>
+    <message>
+      <source>Bound at the left</source>
+      <translation>左とじ</translation>
+    </message>
+    <message>
+      <source>Bound at the right</source>
+      <translation>右とじ</translation>
+    </message>
+    <message>
+      <source>Brown</source>
+      <translation>茶</translation>
     </message>
     <message>
       <source>By user and account</source>
@@ -282,8 +402,8 @@
       <translation>ユーザーとグループアカウント別</translation>
     </message>
     <message>
-      <source>C fold</source>
-      <translation>内三つ折り</translation>
+      <source>Cardinal</source>
+      <translation>深紅</translation>
     </message>
     <message>
       <source>Choose a watermark first.</source>
@@ -294,12 +414,32 @@
       <translation>先にジョブと異なる設定を選んでください。</translation>
     </message>
     <message>
-      <source>Clear</source>
-      <translation>透明</translation>
-    </message>
-    <message>
       <source>Close</source>
       <translation>閉じる</translation>
+    </message>
+    <message>
+      <source>Coarse</source>
+      <translation>粗い</translation>
+    </message>
+    <message>
+      <source>Coating, back</source>
+      <translation>コーティング（裏）</translation>
+    </message>
+    <message>
+      <source>Coating, front</source>
+      <translation>コーティング（表）</translation>
+    </message>
+    <message>
+      <source>Collated</source>
+      <translation>部単位</translation>
+    </message>
+    <message>
+      <source>Color to highlight</source>
+      <translation>色を強調色に</translation>
+    </message>
+    <message>
+      <source>Colorant</source>
+      <translation>色材</translation>
     </message>
     <message>
       <source>Colour</source>
@@ -310,12 +450,28 @@
       <translation>カラーと品質</translation>
     </message>
     <message>
-      <source>Company</source>
-      <translation>会社</translation>
+      <source>Colour of the separators</source>
+      <translation>合紙の色</translation>
     </message>
     <message>
-      <source>Contrast</source>
-      <translation>コントラスト</translation>
+      <source>Colour of transparency separators</source>
+      <translation>OHP 合紙の色</translation>
+    </message>
+    <message>
+      <source>Colour or grayscale</source>
+      <translation>カラーまたはグレースケール</translation>
+    </message>
+    <message>
+      <source>Colour settings</source>
+      <translation>カラー設定</translation>
+    </message>
+    <message>
+      <source>Colour that is mapped to it</source>
+      <translation>割り当てる色</translation>
+    </message>
+    <message>
+      <source>Company</source>
+      <translation>会社</translation>
     </message>
     <message>
       <source>Converting</source>
@@ -330,12 +486,20 @@
       <translation>部数とページ</translation>
     </message>
     <message>
+      <source>Corvanta180 adjustable</source>
+      <translation>Corvanta180（調整可）</translation>
+    </message>
+    <message>
       <source>Cover</source>
       <translation>表紙</translation>
     </message>
     <message>
       <source>Cover sheet</source>
       <translation>送付状</translation>
+    </message>
+    <message>
+      <source>Covers</source>
+      <translation>表紙</translation>
     </message>
     <message>
       <source>Covers and pages</source>
@@ -346,16 +510,72 @@
       <translation>1 枚ごとのずれ補正</translation>
     </message>
     <message>
+      <source>Creep for each sheet, 1/10 point</source>
+      <translation>1 枚あたりのクリープ（1/10 ポイント）</translation>
+    </message>
+    <message>
       <source>Custom %1</source>
       <translation>カスタム %1</translation>
+    </message>
+    <message>
+      <source>Custom colour as RGB, else as HSV</source>
+      <translation>ユーザー定義色を RGB で指定（それ以外は HSV）</translation>
+    </message>
+    <message>
+      <source>Cyan</source>
+      <translation>シアン</translation>
+    </message>
+    <message>
+      <source>Cyan to red</source>
+      <translation>シアン～赤</translation>
+    </message>
+    <message>
+      <source>Darkness</source>
+      <translation>濃度</translation>
+    </message>
+    <message>
+      <source>Darkness of another printer</source>
+      <translation>別のプリンターの濃度</translation>
+    </message>
+    <message>
+      <source>Delivery</source>
+      <translation>排紙</translation>
+    </message>
+    <message>
+      <source>Description</source>
+      <translation>説明</translation>
+    </message>
+    <message>
+      <source>Destination profile, back</source>
+      <translation>出力プロファイル（裏）</translation>
+    </message>
+    <message>
+      <source>Destination profile, front</source>
+      <translation>出力プロファイル（表）</translation>
+    </message>
+    <message>
+      <source>Destination profile: a code or a name</source>
+      <translation>出力プロファイル（番号または名前）</translation>
     </message>
     <message>
       <source>Dialled before every number</source>
       <translation>各番号の前に付ける番号</translation>
     </message>
     <message>
+      <source>Dialled before every number, up to 4 bytes</source>
+      <translation>各番号の前にダイヤル（4 バイトまで）</translation>
+    </message>
+    <message>
+      <source>Do not insert</source>
+      <translation>挿入しない</translation>
+    </message>
+    <message>
       <source>Do this</source>
       <translation>処理</translation>
+    </message>
+    <message>
+      <source>Document format</source>
+      <translation>文書の形式</translation>
     </message>
     <message>
       <source>Documents and pictures</source>
@@ -366,60 +586,180 @@
       <translation>描画中 %v / %m</translation>
     </message>
     <message>
-      <source>Each set</source>
-      <translation>1 部ごと</translation>
+      <source>E-mail address</source>
+      <translation>メールアドレス</translation>
     </message>
     <message>
-      <source>Each subset</source>
-      <translation>部分ごと</translation>
+      <source>Each job</source>
+      <translation>ジョブごと</translation>
+    </message>
+    <message>
+      <source>Envelope c5</source>
+      <translation>封筒 C5</translation>
+    </message>
+    <message>
+      <source>Envelope dl</source>
+      <translation>封筒 DL</translation>
     </message>
     <message>
       <source>Envelopes</source>
       <translation>封筒</translation>
     </message>
     <message>
-      <source>Fax</source>
-      <translation>ファックス</translation>
+      <source>Every section</source>
+      <translation>すべてのセクション</translation>
+    </message>
+    <message>
+      <source>Family name</source>
+      <translation>姓</translation>
+    </message>
+    <message>
+      <source>Fast reprint</source>
+      <translation>高速再印刷</translation>
+    </message>
+    <message>
+      <source>Fast reprint and dri</source>
+      <translation>高速再印刷と DRI</translation>
+    </message>
+    <message>
+      <source>Fax confirmation sheet</source>
+      <translation>ファクス送信確認書</translation>
+    </message>
+    <message>
+      <source>Fax cover sheet made by the printer</source>
+      <translation>プリンターが作るファクス送付状</translation>
+    </message>
+    <message>
+      <source>Fax number as typed</source>
+      <translation>入力どおりのファクス番号</translation>
     </message>
     <message>
       <source>Fax recipients</source>
       <translation>ファックスの宛先</translation>
     </message>
     <message>
-      <source>Find a setting</source>
-      <translation>設定を検索</translation>
+      <source>Fax to</source>
+      <translation>ファクスの宛先</translation>
     </message>
     <message>
-      <source>Fine</source>
-      <translation>高画質</translation>
+      <source>Fax to the mailbox</source>
+      <translation>ファクスのボックス宛</translation>
+    </message>
+    <message>
+      <source>Faxed after</source>
+      <translation>ファクス送信時刻</translation>
+    </message>
+    <message>
+      <source>Find a setting</source>
+      <translation>設定を検索</translation>
     </message>
     <message>
       <source>Finish</source>
       <translation>仕上げ</translation>
     </message>
     <message>
-      <source>Finishing</source>
-      <translation>仕上げ</translation>
+      <source>Finish of a booklet</source>
+      <translation>小冊子の仕上げ</translation>
     </message>
     <message>
-      <source>Fold</source>
-      <translation>折り</translation>
+      <source>Finishing preset; it says which of the other finishing values count</source>
+      <translation>仕上げのプリセット（他のどの仕上げ値が有効かを決めます）</translation>
+    </message>
+    <message>
+      <source>Finishing template of the printer</source>
+      <translation>プリンターの仕上げテンプレート</translation>
+    </message>
+    <message>
+      <source>First page</source>
+      <translation>最初のページ</translation>
+    </message>
+    <message>
+      <source>Fold 1003 of the printer</source>
+      <translation>プリンターの折り 1003</translation>
+    </message>
+    <message>
+      <source>Fold 1004 of the printer</source>
+      <translation>プリンターの折り 1004</translation>
+    </message>
+    <message>
+      <source>Fold 1005 of the printer</source>
+      <translation>プリンターの折り 1005</translation>
+    </message>
+    <message>
+      <source>Fold 1008 of the printer</source>
+      <translation>プリンターの折り 1008</translation>
+    </message>
+    <message>
+      <source>Fold 1011 of the printer</source>
+      <translation>プリンターの折り 1011</translation>
+    </message>
+    <message>
+      <source>Fold 1012 of the printer</source>
+      <translation>プリンターの折り 1012</translation>
     </message>
     <message>
       <source>Fold and staple in the fold</source>
       <translation>中とじ（折ってステープル）</translation>
     </message>
     <message>
+      <source>Fold choice</source>
+      <translation>折り方</translation>
+    </message>
+    <message>
       <source>Fold in the middle</source>
       <translation>中央で折る</translation>
+    </message>
+    <message>
+      <source>Folded in the middle</source>
+      <translation>中央で二つ折り</translation>
+    </message>
+    <message>
+      <source>Folded in the middle and stapled there</source>
+      <translation>中央で折って中とじ</translation>
+    </message>
+    <message>
+      <source>Folded to a booklet</source>
+      <translation>小冊子に折る</translation>
+    </message>
+    <message>
+      <source>Folder</source>
+      <translation>フォルダー</translation>
     </message>
     <message>
       <source>Folder at the printer</source>
       <translation>プリンターのフォルダー</translation>
     </message>
     <message>
+      <source>Folder of the printer for a saved job</source>
+      <translation>保存ジョブのプリンター内フォルダー</translation>
+    </message>
+    <message>
+      <source>Forced 4800</source>
+      <translation>4800 固定</translation>
+    </message>
+    <message>
+      <source>Format</source>
+      <translation>形式</translation>
+    </message>
+    <message>
+      <source>Format of a saved job</source>
+      <translation>保存ジョブの形式</translation>
+    </message>
+    <message>
+      <source>Four holes</source>
+      <translation>4 穴</translation>
+    </message>
+    <message>
+      <source>Frame around each booklet page</source>
+      <translation>小冊子の各ページに枠</translation>
+    </message>
+    <message>
       <source>Frame around each page</source>
       <translation>各ページを枠で囲む</translation>
+    </message>
+    <message>
+      <source>Free description</source>
+      <translation>自由な説明</translation>
     </message>
     <message>
       <source>From</source>
@@ -434,16 +774,28 @@
       <translation>右から左</translation>
     </message>
     <message>
-      <source>Front cover</source>
-      <translation>表表紙</translation>
+      <source>Front</source>
+      <translation>表</translation>
     </message>
     <message>
       <source>Front printed</source>
       <translation>表面に印刷</translation>
     </message>
     <message>
+      <source>Further notes</source>
+      <translation>その他のメモ</translation>
+    </message>
+    <message>
       <source>General account</source>
       <translation>一般アカウント</translation>
+    </message>
+    <message>
+      <source>Given name</source>
+      <translation>名</translation>
+    </message>
+    <message>
+      <source>Glossy</source>
+      <translation>光沢</translation>
     </message>
     <message>
       <source>Glue</source>
@@ -454,16 +806,16 @@
       <translation>プリンター %1 でジョブ「%2」を選び、暗証番号を入力してください。</translation>
     </message>
     <message>
-      <source>Goldenrod</source>
-      <translation>山吹</translation>
+      <source>Grain</source>
+      <translation>目</translation>
     </message>
     <message>
-      <source>Gray</source>
-      <translation>灰</translation>
+      <source>Grain direction</source>
+      <translation>紙の目</translation>
     </message>
     <message>
-      <source>Green</source>
-      <translation>緑</translation>
+      <source>Green of a custom colour</source>
+      <translation>ユーザー定義色の緑</translation>
     </message>
     <message>
       <source>Group account</source>
@@ -474,6 +826,10 @@
       <translation>設定のグループ</translation>
     </message>
     <message>
+      <source>HSV</source>
+      <translation>HSV</translation>
+    </message>
+    <message>
       <source>Half Z fold</source>
       <translation>片 Z 折り</translation>
     </message>
@@ -482,12 +838,68 @@
       <translation>片 Z 折り（反対側）</translation>
     </message>
     <message>
-      <source>Half fold</source>
-      <translation>二つ折り</translation>
+      <source>Halftone of graphics</source>
+      <translation>図形の網点</translation>
+    </message>
+    <message>
+      <source>Halftone of images</source>
+      <translation>画像の網点</translation>
+    </message>
+    <message>
+      <source>Halftone of text</source>
+      <translation>文字の網点</translation>
     </message>
     <message>
       <source>Halftone screen</source>
       <translation>網点スクリーン</translation>
+    </message>
+    <message>
+      <source>Halftone; not sent to the printer</source>
+      <translation>網点（プリンターには送られません）</translation>
+    </message>
+    <message>
+      <source>Heading of the notes</source>
+      <translation>メモの見出し</translation>
+    </message>
+    <message>
+      <source>Heading of the recipients</source>
+      <translation>宛先の見出し</translation>
+    </message>
+    <message>
+      <source>Heading of the sender</source>
+      <translation>送信者の見出し</translation>
+    </message>
+    <message>
+      <source>Held until released</source>
+      <translation>解除まで保留</translation>
+    </message>
+    <message>
+      <source>High gloss</source>
+      <translation>高光沢</translation>
+    </message>
+    <message>
+      <source>Highlight colorant</source>
+      <translation>強調色の色材</translation>
+    </message>
+    <message>
+      <source>Highlight colour</source>
+      <translation>強調色</translation>
+    </message>
+    <message>
+      <source>Highlight mapping</source>
+      <translation>強調色の割り当て</translation>
+    </message>
+    <message>
+      <source>Highlighted colour</source>
+      <translation>強調する色</translation>
+    </message>
+    <message>
+      <source>Highlighted custom colour</source>
+      <translation>強調するユーザー定義色</translation>
+    </message>
+    <message>
+      <source>Hold</source>
+      <translation>保留</translation>
     </message>
     <message>
       <source>Hold it at the printer</source>
@@ -495,7 +907,7 @@
     </message>
     <message>
       <source>Holes</source>
-      <translation>穴</translation>
+      <translation>パンチ穴</translation>
     </message>
     <message>
       <source>Holes, folds and binding</source>
@@ -506,6 +918,10 @@
       <translation>登録済み設定</translation>
     </message>
     <message>
+      <source>How far the pages lie turned, for the watermark</source>
+      <translation>ウォーターマークのためのページの回転</translation>
+    </message>
+    <message>
       <source>How it is sent</source>
       <translation>送信方法</translation>
     </message>
@@ -514,16 +930,40 @@
       <translation>個数</translation>
     </message>
     <message>
+      <source>Hue</source>
+      <translation>色相</translation>
+    </message>
+    <message>
+      <source>Hue of a custom colour</source>
+      <translation>ユーザー定義色の色相</translation>
+    </message>
+    <message>
+      <source>Image shift</source>
+      <translation>画像のずらし</translation>
+    </message>
+    <message>
+      <source>In document</source>
+      <translation>文書内</translation>
+    </message>
+    <message>
+      <source>Indefinite</source>
+      <translation>無期限</translation>
+    </message>
+    <message>
       <source>Insert</source>
-      <translation>合紙</translation>
+      <translation>挿入する</translation>
     </message>
     <message>
       <source>Insert them after these pages</source>
       <translation>これらのページの後に挿入</translation>
     </message>
     <message>
-      <source>Ivory</source>
-      <translation>象牙</translation>
+      <source>Inserts</source>
+      <translation>差し込み紙</translation>
+    </message>
+    <message>
+      <source>Job name</source>
+      <translation>ジョブ名</translation>
     </message>
     <message>
       <source>Jobs of %1 do not pass through the filter of these settings; most of them will have no effect.</source>
@@ -538,6 +978,10 @@
       <translation>アドレス帳に登録</translation>
     </message>
     <message>
+      <source>Keep on the printer, do not print</source>
+      <translation>プリンターに保存し、印刷しない</translation>
+    </message>
+    <message>
       <source>Keep the settings under a name</source>
       <translation>設定に名前を付けて登録</translation>
     </message>
@@ -546,52 +990,156 @@
       <translation>%1 として登録しました。「zarvo ticket list」で一覧を表示できます。</translation>
     </message>
     <message>
+      <source>Kept on the printer, not printed</source>
+      <translation>プリンターに保存（印刷なし）</translation>
+    </message>
+    <message>
       <source>Kind</source>
       <translation>種類</translation>
     </message>
     <message>
-      <source>Labels</source>
-      <translation>ラベル</translation>
+      <source>Kind of account in mode "user"</source>
+      <translation>「ユーザー」のときのアカウントの種類</translation>
     </message>
     <message>
-      <source>Layout</source>
-      <translation>レイアウト</translation>
+      <source>Kind of coating</source>
+      <translation>コーティングの種類</translation>
     </message>
     <message>
-      <source>Lightness</source>
-      <translation>明るさ</translation>
+      <source>Kind of stock</source>
+      <translation>用紙の種類</translation>
+    </message>
+    <message>
+      <source>Label of the fax number</source>
+      <translation>ファクス番号の表示名</translation>
+    </message>
+    <message>
+      <source>Label of the sender's fax number</source>
+      <translation>送信者ファクス番号の表示名</translation>
+    </message>
+    <message>
+      <source>Label of the sender's phone number</source>
+      <translation>送信者電話番号の表示名</translation>
+    </message>
+    <message>
+      <source>Landscape</source>
+      <translation>横</translation>
+    </message>
+    <message>
+      <source>Last page</source>
+      <translation>最後のページ</translation>
+    </message>
+    <message>
+      <source>Legal</source>
+      <translation>リーガル</translation>
+    </message>
+    <message>
+      <source>Length of a size without a code, 1/100 mm</source>
+      <translation>番号のないサイズの長さ（1/100 mm）</translation>
+    </message>
+    <message>
+      <source>Letter</source>
+      <translation>レター</translation>
+    </message>
+    <message>
+      <source>Letter head</source>
+      <translation>レターヘッド</translation>
+    </message>
+    <message>
+      <source>Look for OPI images first</source>
+      <translation>先に OPI 画像を探す</translation>
+    </message>
+    <message>
+      <source>Magenta</source>
+      <translation>マゼンタ</translation>
+    </message>
+    <message>
+      <source>Magenta to green</source>
+      <translation>マゼンタ～緑</translation>
+    </message>
+    <message>
+      <source>Mailbox on the printer</source>
+      <translation>プリンターのボックス</translation>
     </message>
     <message>
       <source>Make or change a watermark</source>
       <translation>透かしの作成と変更</translation>
     </message>
     <message>
+      <source>Mapping method</source>
+      <translation>割り当て方法</translation>
+    </message>
+    <message>
+      <source>Matte</source>
+      <translation>つや消し</translation>
+    </message>
+    <message>
+      <source>Medium</source>
+      <translation>中</translation>
+    </message>
+    <message>
+      <source>Message on the banner page</source>
+      <translation>バナーページのメッセージ</translation>
+    </message>
+    <message>
       <source>Message to the operator</source>
       <translation>オペレーターへの伝言</translation>
+    </message>
+    <message>
+      <source>Mirror the page</source>
+      <translation>ページを鏡像にする</translation>
     </message>
     <message>
       <source>Mirrored</source>
       <translation>鏡像</translation>
     </message>
     <message>
-      <source>Name</source>
-      <translation>名前</translation>
+      <source>Multi page tiff</source>
+      <translation>TIFF（1 ファイル）</translation>
+    </message>
+    <message>
+      <source>Name of a saved job</source>
+      <translation>保存ジョブの名前</translation>
+    </message>
+    <message>
+      <source>Name of the job</source>
+      <translation>ジョブの名前</translation>
     </message>
     <message>
       <source>Name that the printer knows it by</source>
       <translation>プリンターでの用紙名</translation>
     </message>
     <message>
+      <source>Name the job after the document</source>
+      <translation>ジョブ名を文書名にする</translation>
+    </message>
+    <message>
       <source>Name to save it under</source>
       <translation>保存名</translation>
+    </message>
+    <message>
+      <source>Name under which the job is stored as a form</source>
+      <translation>フォームとして保存する名前</translation>
+    </message>
+    <message>
+      <source>Name under which the printer knows the stock</source>
+      <translation>プリンターでの用紙の名前</translation>
     </message>
     <message>
       <source>Negative</source>
       <translation>ネガ</translation>
     </message>
     <message>
+      <source>Negative and mirror</source>
+      <translation>ネガと鏡像</translation>
+    </message>
+    <message>
       <source>New</source>
       <translation>新規</translation>
+    </message>
+    <message>
+      <source>No</source>
+      <translation>いいえ</translation>
     </message>
     <message>
       <source>No booklet</source>
@@ -610,6 +1158,10 @@
       <translation>穴なし</translation>
     </message>
     <message>
+      <source>No pre scan</source>
+      <translation>事前走査なし</translation>
+    </message>
+    <message>
       <source>No printers</source>
       <translation>プリンターなし</translation>
     </message>
@@ -622,8 +1174,8 @@
       <translation>時刻の指定なし</translation>
     </message>
     <message>
-      <source>None</source>
-      <translation>なし</translation>
+      <source>Normal</source>
+      <translation>標準</translation>
     </message>
     <message>
       <source>Not glued</source>
@@ -636,6 +1188,10 @@
     <message>
       <source>Notes</source>
       <translation>メモ</translation>
+    </message>
+    <message>
+      <source>Notes on the cover</source>
+      <translation>送付状のメモ</translation>
     </message>
     <message numerus="yes">
       <source>Nothing has come from the programs that convert the document for %n second(s); they have been ended.</source>
@@ -652,12 +1208,56 @@
       <translation>番号</translation>
     </message>
     <message>
-      <source>Off</source>
-      <translation>オフ</translation>
+      <source>Number of holes</source>
+      <translation>穴の数</translation>
     </message>
     <message>
-      <source>On</source>
-      <translation>オン</translation>
+      <source>Number of sheets</source>
+      <translation>枚数</translation>
+    </message>
+    <message>
+      <source>OPI images</source>
+      <translation>OPI 画像</translation>
+    </message>
+    <message>
+      <source>Object based</source>
+      <translation>オブジェクトごと</translation>
+    </message>
+    <message>
+      <source>Offset</source>
+      <translation>オフセット</translation>
+    </message>
+    <message>
+      <source>Offset in the tray</source>
+      <translation>トレイ内のオフセット</translation>
+    </message>
+    <message>
+      <source>Offset of sets</source>
+      <translation>部のオフセット</translation>
+    </message>
+    <message>
+      <source>Offset of subsets</source>
+      <translation>サブセットのオフセット</translation>
+    </message>
+    <message>
+      <source>Offset this job in the tray</source>
+      <translation>このジョブをずらして排紙</translation>
+    </message>
+    <message>
+      <source>Offset to the right</source>
+      <translation>右へのずれ</translation>
+    </message>
+    <message>
+      <source>Offset upwards</source>
+      <translation>上へのずれ</translation>
+    </message>
+    <message>
+      <source>Offsets are in 1/10 inch, else in mm</source>
+      <translation>ずれは 1/10 インチ単位（それ以外は mm）</translation>
+    </message>
+    <message>
+      <source>Offsets are in 1/100 mm already</source>
+      <translation>ずれは 1/100 mm 単位</translation>
     </message>
     <message>
       <source>On A4</source>
@@ -682,6 +1282,10 @@
     <message>
       <source>One side of each sheet</source>
       <translation>片面</translation>
+    </message>
+    <message>
+      <source>One staple</source>
+      <translation>ホチキス 1 か所</translation>
     </message>
     <message>
       <source>One staple, bottom left</source>
@@ -712,20 +1316,20 @@
       <translation>設定を開く</translation>
     </message>
     <message>
-      <source>Orange</source>
-      <translation>橙</translation>
+      <source>Order and side of delivery</source>
+      <translation>排紙の順序と面</translation>
+    </message>
+    <message>
+      <source>Orientation</source>
+      <translation>向き</translation>
     </message>
     <message>
       <source>Over the page</source>
       <translation>ページの前面</translation>
     </message>
     <message>
-      <source>Over the page, see-through</source>
-      <translation>ページの前面（半透明）</translation>
-    </message>
-    <message>
-      <source>PIN (4 to 10 digits)</source>
-      <translation>暗証番号（4～10 桁）</translation>
+      <source>PIN, up to 19 characters</source>
+      <translation>暗証番号（19 文字まで）</translation>
     </message>
     <message>
       <source>Page %1</source>
@@ -744,8 +1348,16 @@
       <translation>%2 ページ・用紙 %1 表</translation>
     </message>
     <message>
+      <source>Page after which they come</source>
+      <translation>この後に入れるページ</translation>
+    </message>
+    <message>
       <source>Page exception</source>
       <translation>ページの例外</translation>
+    </message>
+    <message>
+      <source>Page exceptions</source>
+      <translation>ページごとの例外</translation>
     </message>
     <message>
       <source>Pages</source>
@@ -754,6 +1366,22 @@
     <message>
       <source>Pages %1 to %2</source>
       <translation>%1～%2 ページ</translation>
+    </message>
+    <message>
+      <source>Pages after which the form starts again</source>
+      <translation>フォームが繰り返すページ数</translation>
+    </message>
+    <message>
+      <source>Pages in a cycle</source>
+      <translation>1 周期のページ数</translation>
+    </message>
+    <message>
+      <source>Pages in a subset</source>
+      <translation>サブセットのページ数</translation>
+    </message>
+    <message>
+      <source>Pages turned</source>
+      <translation>ページの回転</translation>
     </message>
     <message>
       <source>Paper</source>
@@ -768,32 +1396,76 @@
       <translation>用紙の色</translation>
     </message>
     <message>
+      <source>Paper from</source>
+      <translation>給紙元</translation>
+    </message>
+    <message>
       <source>Paper kind</source>
       <translation>用紙の種類</translation>
+    </message>
+    <message>
+      <source>Paper of both covers</source>
+      <translation>両表紙の用紙</translation>
+    </message>
+    <message>
+      <source>Paper of the cover</source>
+      <translation>送付状の用紙</translation>
+    </message>
+    <message>
+      <source>Paper of the front cover</source>
+      <translation>表紙の用紙</translation>
     </message>
     <message>
       <source>Paper weight</source>
       <translation>用紙の厚さ</translation>
     </message>
     <message>
+      <source>Phone number</source>
+      <translation>電話番号</translation>
+    </message>
+    <message>
+      <source>Pictorial</source>
+      <translation>写真</translation>
+    </message>
+    <message>
       <source>Picture for a watermark</source>
       <translation>透かし用の画像</translation>
     </message>
     <message>
-      <source>Pink</source>
-      <translation>桃</translation>
+      <source>Portrait</source>
+      <translation>縦</translation>
     </message>
     <message>
-      <source>Preprinted</source>
+      <source>PostScript job %1 of %2</source>
+      <translation>PostScript ジョブ %1 / %2</translation>
+    </message>
+    <message>
+      <source>Pre printed</source>
       <translation>印刷済み</translation>
     </message>
     <message>
-      <source>Print</source>
-      <translation>印刷</translation>
+      <source>Pre scan</source>
+      <translation>事前走査</translation>
+    </message>
+    <message>
+      <source>Pre scan and gather</source>
+      <translation>事前走査と収集</translation>
+    </message>
+    <message>
+      <source>Presentation</source>
+      <translation>プレゼンテーション</translation>
     </message>
     <message>
       <source>Print a confirmation</source>
       <translation>送信結果を印刷</translation>
+    </message>
+    <message>
+      <source>Print a range of pages</source>
+      <translation>ページ範囲を印刷</translation>
+    </message>
+    <message>
+      <source>Print and keep on the printer</source>
+      <translation>印刷してプリンターに保存</translation>
     </message>
     <message>
       <source>Print and save it</source>
@@ -824,12 +1496,68 @@
       <translation>これらのページに適用</translation>
     </message>
     <message>
-      <source>Printed</source>
-      <translation>印刷する</translation>
+      <source>Printed after</source>
+      <translation>印刷時刻</translation>
+    </message>
+    <message>
+      <source>Printed already</source>
+      <translation>印刷済み</translation>
+    </message>
+    <message>
+      <source>Printed for</source>
+      <translation>受取人</translation>
+    </message>
+    <message>
+      <source>Printed sheets</source>
+      <translation>印刷した紙</translation>
+    </message>
+    <message>
+      <source>Printed sides</source>
+      <translation>印刷する面</translation>
+    </message>
+    <message>
+      <source>Printed, and kept on the printer</source>
+      <translation>印刷してプリンターに保存</translation>
     </message>
     <message>
       <source>Printer</source>
       <translation>プリンター</translation>
+    </message>
+    <message>
+      <source>Profile of CMYK graphics</source>
+      <translation>CMYK 図形のプロファイル</translation>
+    </message>
+    <message>
+      <source>Profile of CMYK images</source>
+      <translation>CMYK 画像のプロファイル</translation>
+    </message>
+    <message>
+      <source>Profile of CMYK text</source>
+      <translation>CMYK 文字のプロファイル</translation>
+    </message>
+    <message>
+      <source>Profile of RGB graphics</source>
+      <translation>RGB 図形のプロファイル</translation>
+    </message>
+    <message>
+      <source>Profile of RGB images</source>
+      <translation>RGB 画像のプロファイル</translation>
+    </message>
+    <message>
+      <source>Profile of RGB text</source>
+      <translation>RGB 文字のプロファイル</translation>
+    </message>
+    <message>
+      <source>Profile of gray graphics</source>
+      <translation>グレー図形のプロファイル</translation>
+    </message>
+    <message>
+      <source>Profile of gray images</source>
+      <translation>グレー画像のプロファイル</translation>
+    </message>
+    <message>
+      <source>Profile of gray text</source>
+      <translation>グレー文字のプロファイル</translation>
     </message>
     <message>
       <source>Progress of drawing</source>
@@ -844,20 +1572,60 @@
       <translation>試し刷り（先に 1 部）</translation>
     </message>
     <message>
+      <source>Proof: one set, the others when it is released</source>
+      <translation>見本: 1 部だけ先に、残りは解除後</translation>
+    </message>
+    <message>
+      <source>Punch choice</source>
+      <translation>パンチの位置</translation>
+    </message>
+    <message>
+      <source>Punched at the bottom</source>
+      <translation>下にパンチ</translation>
+    </message>
+    <message>
+      <source>Punched at the left</source>
+      <translation>左にパンチ</translation>
+    </message>
+    <message>
+      <source>Punched at the right</source>
+      <translation>右にパンチ</translation>
+    </message>
+    <message>
+      <source>Punched at the top</source>
+      <translation>上にパンチ</translation>
+    </message>
+    <message>
+      <source>Put in OPI images</source>
+      <translation>OPI 画像を挿入</translation>
+    </message>
+    <message>
       <source>Quality</source>
       <translation>品質</translation>
+    </message>
+    <message>
+      <source>Reading order of a booklet</source>
+      <translation>小冊子の読む向き</translation>
+    </message>
+    <message>
+      <source>Recipient text of the cover</source>
+      <translation>送付状の宛先の文</translation>
     </message>
     <message>
       <source>Recipients</source>
       <translation>宛先</translation>
     </message>
     <message>
-      <source>Recycled</source>
+      <source>Recipients on the cover</source>
+      <translation>送付状の宛先</translation>
+    </message>
+    <message>
+      <source>Recycled stock</source>
       <translation>再生紙</translation>
     </message>
     <message>
-      <source>Red</source>
-      <translation>赤</translation>
+      <source>Red of a custom colour</source>
+      <translation>ユーザー定義色の赤</translation>
     </message>
     <message>
       <source>Redo: %1</source>
@@ -872,12 +1640,64 @@
       <translation>これを削除</translation>
     </message>
     <message>
-      <source>Resolution</source>
-      <translation>解像度</translation>
+      <source>Rendering intent of graphics</source>
+      <translation>図形のレンダリング</translation>
     </message>
     <message>
-      <source>Saturation</source>
-      <translation>彩度</translation>
+      <source>Rendering intent of images</source>
+      <translation>画像のレンダリング</translation>
+    </message>
+    <message>
+      <source>Rendering intent of text</source>
+      <translation>文字のレンダリング</translation>
+    </message>
+    <message>
+      <source>Resolution of a job that brings its own header</source>
+      <translation>独自のヘッダーを持つジョブの解像度</translation>
+    </message>
+    <message>
+      <source>Reverse landscape</source>
+      <translation>逆横</translation>
+    </message>
+    <message>
+      <source>Reverse order face down</source>
+      <translation>最後のページから、裏向き</translation>
+    </message>
+    <message>
+      <source>Reverse order face up</source>
+      <translation>最後のページから、表向き</translation>
+    </message>
+    <message>
+      <source>Reverse portrait</source>
+      <translation>逆縦</translation>
+    </message>
+    <message>
+      <source>Royal</source>
+      <translation>ロイヤルブルー</translation>
+    </message>
+    <message>
+      <source>Ruby</source>
+      <translation>ルビー</translation>
+    </message>
+    <message>
+      <source>SRGB</source>
+      <translation>sRGB</translation>
+    </message>
+    <message>
+      <source>Same order face down</source>
+      <translation>最初のページから、裏向き</translation>
+    </message>
+    <message>
+      <source>Same order face up</source>
+      <translation>最初のページから、表向き</translation>
+    </message>
+    <message>
+      <source>Satin</source>
+      <translation>サテン</translation>
+    </message>
+    <message>
+      <source>Saturation of a custom colour</source>
+      <translation>ユーザー定義色の彩度</translation>
     </message>
     <message>
       <source>Save it at the printer</source>
@@ -886,6 +1706,10 @@
     <message>
       <source>Save it only</source>
       <translation>保存のみ</translation>
+    </message>
+    <message>
+      <source>Save it under the document's name</source>
+      <translation>文書名で保存</translation>
     </message>
     <message>
       <source>Save s&amp;ettings</source>
@@ -908,32 +1732,88 @@
       <translation>トナー節約</translation>
     </message>
     <message>
+      <source>Saved in the folder</source>
+      <translation>保存先フォルダー</translation>
+    </message>
+    <message>
+      <source>Saved job</source>
+      <translation>保存ジョブ</translation>
+    </message>
+    <message>
+      <source>Saved under the name</source>
+      <translation>保存名</translation>
+    </message>
+    <message>
+      <source>Secure print: held until the PIN is typed</source>
+      <translation>セキュリティープリント: 暗証番号の入力まで保留</translation>
+    </message>
+    <message>
       <source>Secure: wait for a PIN</source>
       <translation>機密: 暗証番号を待つ</translation>
+    </message>
+    <message>
+      <source>SecurePrintPassword: the PIN is no text; send it as ..d_SecurePrintPassword=TEXT</source>
+      <translation>SecurePrintPassword: 暗証番号が文字列ではありません。..d_SecurePrintPassword=文字列 で送ってください</translation>
     </message>
     <message>
       <source>Select pages, or type some such as 5-8, 12.</source>
       <translation>ページを選ぶか、5-8, 12 のように入力してください。</translation>
     </message>
     <message>
+      <source>Semi gloss</source>
+      <translation>半光沢</translation>
+    </message>
+    <message>
       <source>Send a cover</source>
       <translation>送付状を付ける</translation>
+    </message>
+    <message>
+      <source>Send a cover sheet</source>
+      <translation>送付状を送る</translation>
     </message>
     <message>
       <source>Send it as a fax</source>
       <translation>ファックス送信</translation>
     </message>
     <message>
+      <source>Sender on the cover</source>
+      <translation>送付状の送信者</translation>
+    </message>
+    <message>
+      <source>Sender's company</source>
+      <translation>送信者の会社</translation>
+    </message>
+    <message>
+      <source>Sender's e-mail address</source>
+      <translation>送信者のメールアドレス</translation>
+    </message>
+    <message>
+      <source>Sender's fax number</source>
+      <translation>送信者のファクス番号</translation>
+    </message>
+    <message>
+      <source>Sender's name</source>
+      <translation>送信者の名前</translation>
+    </message>
+    <message>
+      <source>Sender's phone number</source>
+      <translation>送信者の電話番号</translation>
+    </message>
+    <message>
       <source>Sending "%1" to %2…</source>
       <translation>「%1」を %2 に送信中…</translation>
     </message>
     <message>
-      <source>Separators between transparencies</source>
-      <translation>OHP 合紙</translation>
+      <source>Sent by</source>
+      <translation>送信者</translation>
     </message>
     <message>
-      <source>Sets and subsets</source>
-      <translation>部と部分</translation>
+      <source>Separator sheets</source>
+      <translation>仕切り紙</translation>
+    </message>
+    <message>
+      <source>Separators between transparencies</source>
+      <translation>OHP 合紙</translation>
     </message>
     <message>
       <source>Setting</source>
@@ -942,6 +1822,10 @@
     <message>
       <source>Settings</source>
       <translation>設定</translation>
+    </message>
+    <message>
+      <source>Shades of gray</source>
+      <translation>グレースケール</translation>
     </message>
     <message>
       <source>Sheet %1</source>
@@ -960,12 +1844,52 @@
       <translation>ページ間の合紙</translation>
     </message>
     <message>
+      <source>Sheets in a set</source>
+      <translation>1 組の枚数</translation>
+    </message>
+    <message>
+      <source>Sheets in an ordered set, such as tabs</source>
+      <translation>順序のある組の枚数（タブ紙など）</translation>
+    </message>
+    <message>
       <source>Shift stacks</source>
       <translation>用紙の束をずらす</translation>
     </message>
     <message>
       <source>Shift the pages</source>
       <translation>ページの位置をずらす</translation>
+    </message>
+    <message>
+      <source>Shift to the right, side 1</source>
+      <translation>右へずらす（表）</translation>
+    </message>
+    <message>
+      <source>Shift to the right, side 2</source>
+      <translation>右へずらす（裏）</translation>
+    </message>
+    <message>
+      <source>Shift upwards, side 1</source>
+      <translation>上へずらす（表）</translation>
+    </message>
+    <message>
+      <source>Shift upwards, side 2</source>
+      <translation>上へずらす（裏）</translation>
+    </message>
+    <message>
+      <source>Side</source>
+      <translation>サイド</translation>
+    </message>
+    <message>
+      <source>Sides</source>
+      <translation>面</translation>
+    </message>
+    <message>
+      <source>Sides, when FinishingDuplex does not say</source>
+      <translation>FinishingDuplex の指定がないときの面</translation>
+    </message>
+    <message>
+      <source>Single page tiff</source>
+      <translation>TIFF（1 ページ 1 ファイル）</translation>
     </message>
     <message>
       <source>Size</source>
@@ -980,8 +1904,36 @@
       <translation>部の間の仕切り紙</translation>
     </message>
     <message>
-      <source>Smooth edges</source>
-      <translation>輪郭を滑らかに</translation>
+      <source>Smoothing of edges</source>
+      <translation>輪郭の補正</translation>
+    </message>
+    <message>
+      <source>Source profile of CMYK images: a code or a name</source>
+      <translation>CMYK 画像の入力プロファイル（番号または名前）</translation>
+    </message>
+    <message>
+      <source>Source profile of CMYK text and graphics: a code or a name</source>
+      <translation>CMYK 文字と図形の入力プロファイル（番号または名前）</translation>
+    </message>
+    <message>
+      <source>Source profile of RGB images: a code or a name</source>
+      <translation>RGB 画像の入力プロファイル（番号または名前）</translation>
+    </message>
+    <message>
+      <source>Source profile of RGB text and graphics: a code or a name</source>
+      <translation>RGB 文字と図形の入力プロファイル（番号または名前）</translation>
+    </message>
+    <message>
+      <source>Source profile of gray images</source>
+      <translation>グレー画像の入力プロファイル</translation>
+    </message>
+    <message>
+      <source>Source profile of gray text and graphics</source>
+      <translation>グレー文字と図形の入力プロファイル</translation>
+    </message>
+    <message>
+      <source>Space between booklet pages, points</source>
+      <translation>小冊子のページ間隔（ポイント）</translation>
     </message>
     <message>
       <source>Space between the pages</source>
@@ -992,40 +1944,72 @@
       <translation>速度</translation>
     </message>
     <message>
-      <source>Stacker</source>
-      <translation>スタッカー</translation>
+      <source>Stapled bottom left</source>
+      <translation>左下ホチキス</translation>
     </message>
     <message>
-      <source>Stacker 1</source>
-      <translation>スタッカー 1</translation>
+      <source>Stapled bottom right</source>
+      <translation>右下ホチキス</translation>
     </message>
     <message>
-      <source>Stacker 2</source>
-      <translation>スタッカー 2</translation>
+      <source>Stapled top left</source>
+      <translation>左上ホチキス</translation>
     </message>
     <message>
-      <source>Standard</source>
-      <translation>標準</translation>
+      <source>Stapled top right</source>
+      <translation>右上ホチキス</translation>
     </message>
     <message>
       <source>Staples</source>
       <translation>ステープル</translation>
     </message>
     <message>
+      <source>Staples in the fold</source>
+      <translation>折り目のホチキス</translation>
+    </message>
+    <message>
+      <source>Stock name</source>
+      <translation>用紙名</translation>
+    </message>
+    <message>
+      <source>Stock size code</source>
+      <translation>用紙サイズの番号</translation>
+    </message>
+    <message>
       <source>Store a picture…</source>
       <translation>画像を登録…</translation>
+    </message>
+    <message>
+      <source>Store it under the document's name</source>
+      <translation>文書名で保存</translation>
     </message>
     <message>
       <source>Store this text</source>
       <translation>この文字を登録</translation>
     </message>
     <message>
+      <source>Stored as a form</source>
+      <translation>フォームとして保存</translation>
+    </message>
+    <message>
+      <source>Stored form to print behind the pages</source>
+      <translation>ページの下に印刷する保存フォーム</translation>
+    </message>
+    <message>
       <source>Superfine</source>
       <translation>超高画質</translation>
     </message>
     <message>
-      <source>Tabs</source>
-      <translation>タブ紙</translation>
+      <source>Surface</source>
+      <translation>表面</translation>
+    </message>
+    <message>
+      <source>Surface finish</source>
+      <translation>表面の仕上げ</translation>
+    </message>
+    <message>
+      <source>Template</source>
+      <translation>テンプレート</translation>
     </message>
     <message>
       <source>Template of the printer</source>
@@ -1040,6 +2024,14 @@
       <translation>バナーページの文</translation>
     </message>
     <message>
+      <source>That watermark on the first page only</source>
+      <translation>そのウォーターマークは最初のページだけ</translation>
+    </message>
+    <message>
+      <source>That watermark over the page, else behind</source>
+      <translation>そのウォーターマークをページの上に（それ以外は下に）</translation>
+    </message>
+    <message>
       <source>The address book cannot be written: %1</source>
       <translation>アドレス帳に書き込めません: %1</translation>
     </message>
@@ -1048,8 +2040,20 @@
       <translation>アドレス帳は空です</translation>
     </message>
     <message>
+      <source>The cover's paper</source>
+      <translation>表紙の用紙</translation>
+    </message>
+    <message>
+      <source>The document's name</source>
+      <translation>文書の名前</translation>
+    </message>
+    <message>
       <source>The finisher has no way to do this together with what is chosen already.</source>
       <translation>すでに選んだ仕上げと組み合わせることができません。</translation>
+    </message>
+    <message>
+      <source>The inside</source>
+      <translation>内側</translation>
     </message>
     <message>
       <source>The job</source>
@@ -1088,6 +2092,18 @@
       <translation>ジョブを印刷しました。</translation>
     </message>
     <message>
+      <source>The job's paper</source>
+      <translation>ジョブの用紙</translation>
+    </message>
+    <message>
+      <source>The outside</source>
+      <translation>外側</translation>
+    </message>
+    <message>
+      <source>The pages' paper</source>
+      <translation>これらのページの用紙</translation>
+    </message>
+    <message>
       <source>The printer %1 is gone.</source>
       <translation>プリンター %1 がなくなりました。</translation>
     </message>
@@ -1106,6 +2122,10 @@
     <message>
       <source>The sheets are finished as a booklet. Choose another finish here to have that instead.</source>
       <translation>小冊子として仕上げます。別の仕上げにするにはここで選んでください。</translation>
+    </message>
+    <message>
+      <source>The sheets' paper</source>
+      <translation>差し込む用紙</translation>
     </message>
     <message>
       <source>The spooler cannot be asked.</source>
@@ -1128,6 +2148,30 @@
       <translation>指定ページ</translation>
     </message>
     <message>
+      <source>Three holes</source>
+      <translation>3 穴</translation>
+    </message>
+    <message>
+      <source>Three staples at the bottom</source>
+      <translation>下にホチキス 3 か所</translation>
+    </message>
+    <message>
+      <source>Three staples at the left</source>
+      <translation>左にホチキス 3 か所</translation>
+    </message>
+    <message>
+      <source>Three staples at the right</source>
+      <translation>右にホチキス 3 か所</translation>
+    </message>
+    <message>
+      <source>Three staples at the top</source>
+      <translation>上にホチキス 3 か所</translation>
+    </message>
+    <message>
+      <source>Ticket that is kept under this name, below all other settings</source>
+      <translation>この名前で保存されたチケット（他のすべての設定の下に置く）</translation>
+    </message>
+    <message>
       <source>To</source>
       <translation>宛先</translation>
     </message>
@@ -1140,6 +2184,14 @@
       <translation>右へ・表（1/10 mm）</translation>
     </message>
     <message>
+      <source>Tone reproduction curve</source>
+      <translation>階調再現カーブ</translation>
+    </message>
+    <message>
+      <source>Toner saving</source>
+      <translation>トナー節約</translation>
+    </message>
+    <message>
       <source>Tools</source>
       <translation>ツール</translation>
     </message>
@@ -1148,8 +2200,16 @@
       <translation>上トレイ</translation>
     </message>
     <message>
-      <source>Transparency</source>
-      <translation>OHP フィルム</translation>
+      <source>Transmission speed</source>
+      <translation>送信速度</translation>
+    </message>
+    <message>
+      <source>Trap width across the feed</source>
+      <translation>トラップ幅（搬送と直角）</translation>
+    </message>
+    <message>
+      <source>Trap width along the feed</source>
+      <translation>トラップ幅（搬送方向）</translation>
     </message>
     <message>
       <source>Tray</source>
@@ -1160,12 +2220,32 @@
       <translation>排紙トレイ</translation>
     </message>
     <message>
+      <source>Tray; 0 is the inserter behind the fuser</source>
+      <translation>トレイ（0 は定着後のインサーター）</translation>
+    </message>
+    <message>
+      <source>Turn booklet sheets</source>
+      <translation>小冊子の用紙を回転</translation>
+    </message>
+    <message>
+      <source>Turn the pages</source>
+      <translation>ページを回転</translation>
+    </message>
+    <message>
       <source>Turn the sheets</source>
       <translation>用紙を回転</translation>
     </message>
     <message>
+      <source>Two holes</source>
+      <translation>2 穴</translation>
+    </message>
+    <message>
       <source>Two sides</source>
       <translation>両面</translation>
+    </message>
+    <message>
+      <source>Two staples</source>
+      <translation>ホチキス 2 か所</translation>
     </message>
     <message>
       <source>Two staples at the bottom</source>
@@ -1184,12 +2264,20 @@
       <translation>上 2 か所</translation>
     </message>
     <message>
+      <source>Type</source>
+      <translation>種類</translation>
+    </message>
+    <message>
       <source>Type pages, or select them among the sheets.</source>
       <translation>ページを入力するか、用紙の中から選んでください。</translation>
     </message>
     <message>
       <source>Type the PIN that you will give at the printer.</source>
       <translation>プリンターで入力する暗証番号を決めてください。</translation>
+    </message>
+    <message>
+      <source>Uncollated</source>
+      <translation>ページ単位</translation>
     </message>
     <message>
       <source>Undo: %1</source>
@@ -1208,6 +2296,10 @@
       <translation>上へ・表（1/10 mm）</translation>
     </message>
     <message>
+      <source>Use ready</source>
+      <translation>用意済みのものを使う</translation>
+    </message>
+    <message>
       <source>Use these settings</source>
       <translation>この設定を使う</translation>
     </message>
@@ -1216,28 +2308,56 @@
       <translation>ユーザー</translation>
     </message>
     <message>
-      <source>User and account</source>
-      <translation>ユーザーとアカウント</translation>
-    </message>
-    <message>
       <source>User, with or without an account</source>
       <translation>ユーザー（アカウントは任意）</translation>
     </message>
     <message>
-      <source>Value</source>
-      <translation>値</translation>
+      <source>Value of a custom colour</source>
+      <translation>ユーザー定義色の明度</translation>
     </message>
     <message>
-      <source>Watermark</source>
-      <translation>透かし</translation>
+      <source>Values are in 1/100 inch, else in 1/10 mm</source>
+      <translation>値は 1/100 インチ単位（それ以外は 1/10 mm）</translation>
+    </message>
+    <message>
+      <source>Values are in 1/100 mm already</source>
+      <translation>値は 1/100 mm 単位</translation>
+    </message>
+    <message>
+      <source>Violet</source>
+      <translation>紫</translation>
+    </message>
+    <message>
+      <source>Watermark by its name</source>
+      <translation>ウォーターマーク（名前で）</translation>
+    </message>
+    <message>
+      <source>Watermark by its place in the list; 1 is none</source>
+      <translation>ウォーターマーク（一覧の位置で、1 はなし）</translation>
+    </message>
+    <message>
+      <source>Watermark on the cover</source>
+      <translation>送付状のウォーターマーク</translation>
+    </message>
+    <message>
+      <source>Watermark on the first page only</source>
+      <translation>ウォーターマークは最初のページだけ</translation>
     </message>
     <message>
       <source>Weight</source>
       <translation>厚さ</translation>
     </message>
     <message>
+      <source>Weight, g/m2</source>
+      <translation>坪量（g/m²）</translation>
+    </message>
+    <message>
       <source>What I changed</source>
       <translation>変更した設定</translation>
+    </message>
+    <message>
+      <source>What becomes of it</source>
+      <translation>その後の扱い</translation>
     </message>
     <message>
       <source>What becomes of the job</source>
@@ -1252,36 +2372,380 @@
       <translation>日時</translation>
     </message>
     <message>
+      <source>When a delayed job is printed</source>
+      <translation>後で印刷するジョブの時刻</translation>
+    </message>
+    <message>
+      <source>When it is sent</source>
+      <translation>送信時刻</translation>
+    </message>
+    <message>
+      <source>When the colorant is not loaded</source>
+      <translation>色材がないとき</translation>
+    </message>
+    <message>
       <source>Where</source>
-      <translation>位置</translation>
+      <translation>場所</translation>
     </message>
     <message>
       <source>Where the sheets come out</source>
       <translation>排紙先</translation>
     </message>
     <message>
-      <source>White</source>
-      <translation>白</translation>
+      <source>Where the watermark goes</source>
+      <translation>ウォーターマークの位置</translation>
+    </message>
+    <message>
+      <source>Whether a saved job is printed too</source>
+      <translation>保存ジョブを印刷もするか</translation>
+    </message>
+    <message>
+      <source>Which sections the XML ticket has; only the presence of a key counts</source>
+      <translation>XML チケットのセクション（キーがあるかどうかだけが意味を持ちます）</translation>
+    </message>
+    <message>
+      <source>Which sides are coated</source>
+      <translation>コーティングされた面</translation>
+    </message>
+    <message>
+      <source>Which sides of the cover are printed</source>
+      <translation>表紙の印刷する面</translation>
+    </message>
+    <message>
+      <source>Which watermark</source>
+      <translation>どのウォーターマークか</translation>
     </message>
     <message>
       <source>Who gets the printout</source>
       <translation>受取人</translation>
     </message>
     <message>
+      <source>Who sends the job</source>
+      <translation>ジョブの送信者</translation>
+    </message>
+    <message>
+      <source>Width of a size without a code, 1/100 mm</source>
+      <translation>番号のないサイズの幅（1/100 mm）</translation>
+    </message>
+    <message>
       <source>Without a fax number, and so left out: %1</source>
       <translation>ファックス番号がないため除外しました: %1</translation>
     </message>
     <message>
-      <source>Yellow</source>
-      <translation>黄</translation>
+      <source>Write the XML ticket</source>
+      <translation>XML チケットを書く</translation>
     </message>
     <message>
-      <source>Z fold</source>
+      <source>X grain</source>
+      <translation>X 目</translation>
+    </message>
+    <message>
+      <source>Y grain</source>
+      <translation>Y 目</translation>
+    </message>
+    <message>
+      <source>Yellow to blue</source>
+      <translation>黄～青</translation>
+    </message>
+    <message>
+      <source>Yes</source>
+      <translation>はい</translation>
+    </message>
+    <message>
+      <source>Z fold 1</source>
+      <translation>Z 折り 1</translation>
+    </message>
+    <message>
+      <source>Z fold 2</source>
+      <translation>Z 折り 2</translation>
+    </message>
+    <message>
+      <source>Z-fold</source>
       <translation>Z 折り</translation>
+    </message>
+    <message>
+      <source>a PIN takes 4 to 10 digits</source>
+      <translation>暗証番号は 4～10 桁の数字です</translation>
+    </message>
+    <message>
+      <source>a date such as "2026-12-31T18:30"</source>
+      <translation>「2026-12-31T18:30」のような日時</translation>
+    </message>
+    <message>
+      <source>a delayed job</source>
+      <translation>後で印刷するジョブ</translation>
+    </message>
+    <message>
+      <source>a delayed job needs a DelayedPrintTime</source>
+      <translation>後で印刷するジョブには時刻 (DelayedPrintTime) が必要です</translation>
+    </message>
+    <message>
+      <source>a fax</source>
+      <translation>ファクス</translation>
+    </message>
+    <message>
+      <source>a group of keys</source>
+      <translation>キーのグループ</translation>
+    </message>
+    <message>
+      <source>a job of this type</source>
+      <translation>この種類のジョブ</translation>
+    </message>
+    <message>
+      <source>a list of groups</source>
+      <translation>グループの一覧</translation>
+    </message>
+    <message>
+      <source>a name has at least one character</source>
+      <translation>名前には 1 文字以上が必要です</translation>
+    </message>
+    <message>
+      <source>a name has at most %1 bytes</source>
+      <translation>名前は %1 バイトまでです</translation>
+    </message>
+    <message>
+      <source>a name has no control characters</source>
+      <translation>名前に制御文字は使えません</translation>
+    </message>
+    <message>
+      <source>a name is UTF-8 with composed characters</source>
+      <translation>名前は合成済み文字の UTF-8 です</translation>
+    </message>
+    <message>
+      <source>a sample set</source>
+      <translation>見本印刷のジョブ</translation>
+    </message>
+    <message>
+      <source>a secure job needs a PIN; give one as JobPIN=Custom.DIGITS (%1)</source>
+      <translation>セキュリティープリントには暗証番号 (%1) が必要です。「ジョブ」で入力してください</translation>
+    </message>
+    <message>
+      <source>a text</source>
+      <translation>文字列</translation>
+    </message>
+    <message>
+      <source>a whole number</source>
+      <translation>整数</translation>
+    </message>
+    <message>
+      <source>accounting: the job names no account</source>
+      <translation>課金: ジョブにアカウントがありません</translation>
+    </message>
+    <message>
+      <source>accounting: the job names no user</source>
+      <translation>課金: ジョブにユーザーがありません</translation>
+    </message>
+    <message>
+      <source>add %1</source>
+      <translation>%1 を追加してください</translation>
+    </message>
+    <message>
+      <source>an image</source>
+      <translation>画像</translation>
+    </message>
+    <message>
+      <source>an option that nobody knows looks like a misspelt PIN; did you mean %1?</source>
+      <translation>不明なオプションが暗証番号の書き間違いのようです。%1 ですか?</translation>
+    </message>
+    <message>
+      <source>an ordinary job</source>
+      <translation>通常のジョブ</translation>
+    </message>
+    <message>
+      <source>any page</source>
+      <translation>どのページ</translation>
+    </message>
+    <message>
+      <source>anything</source>
+      <translation>任意の値</translation>
+    </message>
+    <message>
+      <source>behind the page</source>
+      <translation>ページの下</translation>
+    </message>
+    <message>
+      <source>fax settings have no effect in a job that is no fax</source>
+      <translation>ファクスでないジョブではファクスの設定は効きません</translation>
+    </message>
+    <message>
+      <source>fax: %1 is cut, the printer takes %2 bytes; shorten it</source>
+      <translation>ファクス: %1 は切り詰められます。プリンターが受け付けるのは %2 バイトまでです。短くしてください</translation>
+    </message>
+    <message>
+      <source>give %1</source>
+      <translation>%1 を指定してください</translation>
+    </message>
+    <message>
+      <source>has no effect without %1; add {"JTMLOptionAll": true} there</source>
+      <translation>%1 がないと効きません。そこに {"JTMLOptionAll": true} を追加してください</translation>
+    </message>
+    <message>
+      <source>insert</source>
+      <translation>差し込み紙</translation>
+    </message>
+    <message>
+      <source>is no whole number</source>
+      <translation>整数ではありません</translation>
+    </message>
+    <message>
+      <source>it takes %1 to %2</source>
+      <translation>%1～%2 が使えます</translation>
+    </message>
+    <message>
+      <source>more PJL lines than any job needs</source>
+      <translation>PJL の行が多すぎます</translation>
+    </message>
+    <message>
+      <source>more PostScript jobs than can be told apart</source>
+      <translation>区別できないほど多くの PostScript ジョブがあります</translation>
+    </message>
+    <message>
+      <source>no PJL envelope: the printer takes it for plain PostScript</source>
+      <translation>PJL の枠がありません。プリンターはただの PostScript とみなします</translation>
+    </message>
+    <message>
+      <source>no PostScript document</source>
+      <translation>PostScript 文書がありません</translation>
+    </message>
+    <message>
+      <source>no page comments: pages cannot be counted, and nothing can be drawn on them</source>
+      <translation>ページのコメントがないため、ページを数えることも描き加えることもできません</translation>
+    </message>
+    <message>
+      <source>no page is printed</source>
+      <translation>印刷されるページがありません</translation>
+    </message>
+    <message>
+      <source>no stock has the code %1; take a known one, or give Width and Length</source>
+      <translation>番号 %1 の用紙はありません。ある番号を使うか、幅と長さを指定してください</translation>
+    </message>
+    <message>
+      <source>not printed</source>
+      <translation>印刷なし</translation>
+    </message>
+    <message>
+      <source>on the first page only</source>
+      <translation>最初のページだけ</translation>
+    </message>
+    <message>
+      <source>other paper</source>
+      <translation>別の用紙</translation>
+    </message>
+    <message>
+      <source>other settings for the pages %1</source>
+      <translation>%1 ページは別の設定</translation>
+    </message>
+    <message>
+      <source>over the page</source>
+      <translation>ページの上</translation>
+    </message>
+    <message>
+      <source>over the page, which shows through</source>
+      <translation>ページの上 (透過)</translation>
+    </message>
+    <message>
+      <source>page %1</source>
+      <translation>%1 ページ</translation>
+    </message>
+    <message>
+      <source>recipient %1 of the fax cannot be read; send it as a group of settings</source>
+      <translation>ファクスの宛先 %1 を読み取れません。設定のグループとして送ってください</translation>
+    </message>
+    <message>
+      <source>recipient %1 of the fax has a number with nothing that can be dialed; correct it</source>
+      <translation>ファクスの宛先 %1 の番号にはダイヤルできるものがありません。直してください</translation>
+    </message>
+    <message>
+      <source>recipient %1 of the fax has no number; give one</source>
+      <translation>ファクスの宛先 %1 に番号がありません。指定してください</translation>
+    </message>
+    <message>
+      <source>secure, but no PIN is set</source>
+      <translation>セキュリティープリントですが暗証番号がありません</translation>
+    </message>
+    <message>
+      <source>slip sheet after the set</source>
+      <translation>部の後の仕切り紙</translation>
     </message>
     <message>
       <source>such as 5-8, 12</source>
       <translation>例: 5-8, 12</translation>
+    </message>
+    <message>
+      <source>takes %1</source>
+      <translation>%1 を指定します</translation>
+    </message>
+    <message>
+      <source>takes %1: %2</source>
+      <translation>%1 を指定します: %2</translation>
+    </message>
+    <message>
+      <source>takes %1; did you mean "%2"?</source>
+      <translation>%1 を指定します。「%2」ですか?</translation>
+    </message>
+    <message>
+      <source>the PIN is cut on its way to the printer; %1 safely</source>
+      <translation>暗証番号は途中で切り詰められます。安全なのは: %1</translation>
+    </message>
+    <message>
+      <source>the PostScript does not end (%%EOF)</source>
+      <translation>PostScript の終わり (%%EOF) がありません</translation>
+    </message>
+    <message>
+      <source>the XML ticket does not end</source>
+      <translation>XML チケットの終わりがありません</translation>
+    </message>
+    <message>
+      <source>the end of the job (PJL EOJ) is missing</source>
+      <translation>ジョブの終わり (PJL EOJ) がありません</translation>
+    </message>
+    <message>
+      <source>the fax has no %1; send its settings along</source>
+      <translation>ファクスに %1 がありません。設定を一緒に送ってください</translation>
+    </message>
+    <message>
+      <source>the fax has no recipient that can be read; give FaxNumber=Custom.NUMBER</source>
+      <translation>ファクスに読み取れる宛先がありません。「ファクス」で追加してください</translation>
+    </message>
+    <message>
+      <source>the job header holds a line that is no PJL</source>
+      <translation>ジョブのヘッダーに PJL でない行があります</translation>
+    </message>
+    <message>
+      <source>the printer stops after page %1: %2</source>
+      <translation>プリンターは %1 ページの後で止まります: %2</translation>
+    </message>
+    <message>
+      <source>the printer stops before the first page: %1</source>
+      <translation>プリンターは最初のページの前で止まります: %1</translation>
+    </message>
+    <message>
+      <source>the scrambled form of this PIN would end the printer's line; %1 safely</source>
+      <translation>この暗証番号は暗号化するとプリンターの行を終わらせてしまいます。安全なのは: %1</translation>
+    </message>
+    <message>
+      <source>the sheets are folded in the middle, but the pages are not laid out as a booklet</source>
+      <translation>用紙は中央で折られますが、ページは小冊子の配置になっていません</translation>
+    </message>
+    <message>
+      <source>the watermark behind the page cannot be seen on %1, where the document paints its own ground; put it over the page (WMPlace=Overlay)</source>
+      <translation>文書が背景を塗っているため、ページの下のウォーターマークは見えません (%1)。ページの上に置いてください</translation>
+    </message>
+    <message>
+      <source>true or false</source>
+      <translation>はい、またはいいえ</translation>
+    </message>
+    <message>
+      <source>unknown key</source>
+      <translation>不明なキー</translation>
+    </message>
+    <message>
+      <source>unknown key; did you mean %1?</source>
+      <translation>不明なキーです。%1 ですか?</translation>
+    </message>
+    <message>
+      <source>unknown option; did you mean %1?</source>
+      <translation>不明なオプションです。%1 ですか?</translation>
     </message>
   </context>
 </TS>

@@ -19,6 +19,7 @@
 #include <qpdf/QPDFWriter.hh>
 #include <thread>
 
+#include "Desk/model/Words.h"
 #include "Desk/sheets/Queue.h"
 #include "Desk/sheets/Request.h"
 #include "Tools/zarvo/Command.h"
@@ -343,6 +344,10 @@ int Main() {
     const json request = json::parse(line);
     if (request.contains("queues")) {
       Answer(DescribeQueues());
+      return tool::kExitOk;
+    }
+    if (request.contains("texts")) {
+      Answer({{"texts", TableTexts()}});
       return tool::kExitOk;
     }
     if (request.contains("queue")) {

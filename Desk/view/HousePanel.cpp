@@ -7,6 +7,7 @@
 
 #include "Desk/model/Finishing.h"
 #include "Desk/view/Panels.h"
+#include "Desk/view/Translations.h"
 #include "Source/CFAdditions.h"
 #include "Source/TicketNames.h"
 #include "Tools/zarvo/ticket/HouseText.h"
@@ -154,7 +155,7 @@ class HousePanel : public Panel {
   void Judge() {
     const std::string name = name_->text().trimmed().toStdString();
     const std::string fault = name.empty() ? "" : HouseTicketNameFault(name);
-    fault_->setText(QString::fromStdString(fault));
+    fault_->setText(Localized(fault));
     fault_->setVisible(!fault.empty());
     save_->setEnabled(!name.empty() && fault.empty());
   }

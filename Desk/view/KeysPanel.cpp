@@ -7,7 +7,9 @@
 #include <QVBoxLayout>
 #include <cstring>
 
+#include "Desk/model/Words.h"
 #include "Desk/view/Panels.h"
+#include "Desk/view/Translations.h"
 #include "Source/TicketNames.h"
 #include "Tools/zarvo/ticket/HouseText.h"
 #include "Tools/zarvo/ticket/TicketText.h"
@@ -27,15 +29,18 @@ class ValueDelegate : public QStyledItemDelegate {
   QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                         const QModelIndex& index) const override {
     if (index.column() != 1) return nullptr;
+    const QString name = index.siblingAtColumn(0).data().toString();
     const QStringList words = index.data(kWords).toStringList();
     if (!words.isEmpty()) {
       auto* const box = new QComboBox(parent);
+      box->setAccessibleName(name);
       box->setEditable(true);
       box->addItem(QString());
       box->addItems(words);
       return box;
     }
     auto* const line = new QLineEdit(parent);
+    line->setAccessibleName(name);
     if (index.data(kSecret).toBool()) line->setEchoMode(QLineEdit::Password);
     Q_UNUSED(option);
     return line;
@@ -93,9 +98,8 @@ class AllKeysPanel : public Panel {
     QString name = key.name;
     if (name.startsWith(key::kPrefix)) name.remove(0, static_cast<int>(std::strlen(key::kPrefix)));
     auto* const item = parent != nullptr ? new QTreeWidgetItem(parent) : new QTreeWidgetItem(tree_);
-    item->setText(0, name);
-    item->setToolTip(0, key.meaning);
-    item->setToolTip(1, key.meaning);
+    item->setText(0, Localized(DisplayName(key)));
+    for (const int column : {0, 1}) item->setToolTip(column, name);
     item->setData(1, kPath, path);
     if (key.type == KeyType::kList) return item;
     if (key.type == KeyType::kDictionary) {
@@ -103,10 +107,9 @@ class AllKeysPanel : public Panel {
       return item;
     }
     QStringList words;
-    for (const CodeWord& word : key.words) words << word.word;
+    for (const CodeWord& word : key.words) words << WordFor(word.word, key.name);
     if (key.type == KeyType::kBoolean || key.type == KeyType::kAny)
-      words << "true"
-            << "false";
+      words << Truth(true) << Truth(false);
     item->setData(1, kWords, words);
     item->setData(1, kSecret, key.secret);
     item->setFlags(item->flags() | Qt::ItemIsEditable);
@@ -139,8 +142,27 @@ class AllKeysPanel : public Panel {
     if (item->childCount() > 0) return;
     const QString text = value == nullptr ? QString()
                          : key->secret    ? QStringLiteral("\u2022\u2022\u2022\u2022")
-                                          : QString::fromStdString(WriteValue(*key, *value));
+                                          : InWords(*key, *value);
     if (item->text(1) != text) item->setText(1, text);
+  }
+
+  static QString Truth(bool truth) { return truth ? tr("Yes") : tr("No"); }
+
+  static QString InWords(const TicketKey& key, const Value& value) {
+    if (const bool* truth = value.AsBoolean()) return Truth(*truth);
+    std::int64_t code = 0;
+    if (value.AsNumber() != nullptr && value.AsNumber()->Get(&code))
+      if (const char* word = WordOf(key, code)) return WordFor(word, key.name);
+    return QString::fromStdString(WriteValue(key, value));
+  }
+
+  /// What people chose by their own words, as the tables have it; a ticket's words will do as well.
+  static std::string Meant(const TicketKey& key, const QString& text) {
+    for (const CodeWord& word : key.words)
+      if (text == WordFor(word.word, key.name)) return word.word;
+    for (const bool truth : {true, false})
+      if (text == Truth(truth) && key.type != KeyType::kText) return truth ? "true" : "false";
+    return text.toStdString();
   }
 
   static bool IsPlace(const QTreeWidgetItem* item) {
@@ -160,11 +182,11 @@ class AllKeysPanel : public Panel {
   void Put(const std::string& path, const QString& text) {
     const TicketKey* key = KeyAt(path);
     if (text.isEmpty()) {
-      document_->Clear(path, key->name);
-    } else if (const std::optional<Value> value = ReadValue(*key, text.toStdString())) {
-      document_->Set(path, *value, key->name);
+      document_->Clear(path, Localized(DisplayName(*key)).toStdString());
+    } else if (const std::optional<Value> value = ReadValue(*key, Meant(*key, text))) {
+      document_->Set(path, *value, Localized(DisplayName(*key)).toStdString());
     } else {
-      context_.tell(tr("%1 does not take \"%2\".").arg(key->name, text));
+      context_.tell(tr("%1 does not take \"%2\".").arg(Localized(DisplayName(*key)), text));
     }
     Refresh();
   }

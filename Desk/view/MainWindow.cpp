@@ -24,6 +24,7 @@
 
 #include "Desk/model/GtkSettings.h"
 #include "Desk/view/PrintDialog.h"
+#include "Desk/view/Translations.h"
 
 namespace zarvo::desk {
 
@@ -295,7 +296,7 @@ void MainWindow::ShowPanel(const QString& name) {
 
 void MainWindow::Tell(const QString& text) {
   if (text.isEmpty() || message_ == nullptr) return;
-  message_text_->setText(text);
+  message_text_->setText(Localized(text));
   message_->show();
 }
 
@@ -408,8 +409,8 @@ void MainWindow::PlanChanged() {
                            : tr("%n page(s)", nullptr, static_cast<int>(plan.pages)));
     words << tr("%n sheet(s)", nullptr, static_cast<int>(plan.sheets));
     if (plan.copies > 1) words << tr("%n copies", nullptr, plan.copies);
-    for (const std::string& mark : report.marks) words << QString::fromStdString(mark);
-    for (const std::string& note : report.notes) words << QString::fromStdString(note);
+    for (const std::string& mark : report.marks) words << Localized(mark);
+    for (const std::string& note : report.notes) words << Localized(note);
   }
   summary_->setText(words.join(", "));
   summary_->setToolTip(words.join('\n'));

@@ -76,10 +76,10 @@ class PagesPanel : public Panel {
     };
     Choices(path.c_str(), tr("Cover"),
             {{tr("No cover"), sides(0)},
-             {WordFor("blank"), sides(kCoverBlank)},
-             {WordFor("front"), sides(kCoverFront)},
-             {WordFor("back"), sides(kCoverBack)},
-             {WordFor("both"), sides(kCoverBothSides)}},
+             {WordFor("none", key::special_page::kSidesImaged), sides(kCoverBlank)},
+             {WordFor("front", key::special_page::kSidesImaged), sides(kCoverFront)},
+             {WordFor("back", key::special_page::kSidesImaged), sides(kCoverBack)},
+             {WordFor("both", key::special_page::kSidesImaged), sides(kCoverBothSides)}},
             [this, path](const Dictionary&) {
               return static_cast<int>(document_->NumberAt(path + "/SidesImaged").value_or(0));
             });
@@ -99,7 +99,7 @@ class PagesPanel : public Panel {
     box->setMinimumContentsLength(12);
     box->addItem(tr("As the job"), 0);
     for (const CodeWord& word : key->words)
-      box->addItem(WordFor(word.word), static_cast<int>(word.code));
+      box->addItem(WordFor(word.word, key->name), static_cast<int>(word.code));
     Row(label, box);
     return box;
   }

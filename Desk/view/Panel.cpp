@@ -6,82 +6,12 @@
 #include <QStandardItemModel>
 #include <iterator>
 
+#include "Desk/model/Words.h"
+#include "Desk/view/Translations.h"
 #include "Source/CFAdditions.h"
 
 namespace zarvo::desk {
 namespace {
-
-struct Word {
-  const char* word;
-  const char* text;
-};
-// What people say for the words of the key table; the others are good enough as they are.
-constexpr Word kWords[] = {
-    {"one-sided", QT_TRANSLATE_NOOP("Words", "One side of each sheet")},
-    {"long-edge", QT_TRANSLATE_NOOP("Words", "Both sides, turned like a book")},
-    {"short-edge", QT_TRANSLATE_NOOP("Words", "Both sides, turned like a calendar")},
-    {"standard", QT_TRANSLATE_NOOP("Words", "Standard")},
-    {"transparency", QT_TRANSLATE_NOOP("Words", "Transparency")},
-    {"preprinted", QT_TRANSLATE_NOOP("Words", "Preprinted")},
-    {"envelopes", QT_TRANSLATE_NOOP("Words", "Envelopes")},
-    {"labels", QT_TRANSLATE_NOOP("Words", "Labels")},
-    {"recycled", QT_TRANSLATE_NOOP("Words", "Recycled")},
-    {"tabs", QT_TRANSLATE_NOOP("Words", "Tabs")},
-    {"white", QT_TRANSLATE_NOOP("Words", "White")},
-    {"blue", QT_TRANSLATE_NOOP("Words", "Blue")},
-    {"yellow", QT_TRANSLATE_NOOP("Words", "Yellow")},
-    {"green", QT_TRANSLATE_NOOP("Words", "Green")},
-    {"pink", QT_TRANSLATE_NOOP("Words", "Pink")},
-    {"clear", QT_TRANSLATE_NOOP("Words", "Clear")},
-    {"buff", QT_TRANSLATE_NOOP("Words", "Buff")},
-    {"goldenrod", QT_TRANSLATE_NOOP("Words", "Goldenrod")},
-    {"red", QT_TRANSLATE_NOOP("Words", "Red")},
-    {"ivory", QT_TRANSLATE_NOOP("Words", "Ivory")},
-    {"gray", QT_TRANSLATE_NOOP("Words", "Gray")},
-    {"orange", QT_TRANSLATE_NOOP("Words", "Orange")},
-    {"left-to-right", QT_TRANSLATE_NOOP("Words", "From left to right")},
-    {"right-to-left", QT_TRANSLATE_NOOP("Words", "From right to left")},
-    {"background", QT_TRANSLATE_NOOP("Words", "Behind the page")},
-    {"overlay", QT_TRANSLATE_NOOP("Words", "Over the page, see-through")},
-    {"foreground", QT_TRANSLATE_NOOP("Words", "Over the page")},
-    {"monochrome-grayscale", QT_TRANSLATE_NOOP("Words", "Black and gray")},
-    {"color", QT_TRANSLATE_NOOP("Words", "Colour")},
-    {"normal", QT_TRANSLATE_NOOP("Words", "Print it")},
-    {"hold", QT_TRANSLATE_NOOP("Words", "Hold it at the printer")},
-    {"save", QT_TRANSLATE_NOOP("Words", "Save it at the printer")},
-    {"print-and-save", QT_TRANSLATE_NOOP("Words", "Print and save it")},
-    {"fax", QT_TRANSLATE_NOOP("Words", "Send it as a fax")},
-    {"secure", QT_TRANSLATE_NOOP("Words", "Secure: wait for a PIN")},
-    {"delayed", QT_TRANSLATE_NOOP("Words", "Print it later")},
-    {"proof", QT_TRANSLATE_NOOP("Words", "Proof: one set first")},
-    {"save-only", QT_TRANSLATE_NOOP("Words", "Save it only")},
-    {"off", QT_TRANSLATE_NOOP("Words", "Off")},
-    {"on", QT_TRANSLATE_NOOP("Words", "On")},
-    {"user", QT_TRANSLATE_NOOP("Words", "User, with or without an account")},
-    {"user-and-account", QT_TRANSLATE_NOOP("Words", "User and account")},
-    {"none", QT_TRANSLATE_NOOP("Words", "None")},
-    {"general", QT_TRANSLATE_NOOP("Words", "General account")},
-    {"group", QT_TRANSLATE_NOOP("Words", "Group account")},
-    {"blank", QT_TRANSLATE_NOOP("Words", "Not printed")},
-    {"front", QT_TRANSLATE_NOOP("Words", "Front printed")},
-    {"back", QT_TRANSLATE_NOOP("Words", "Back printed")},
-    {"both", QT_TRANSLATE_NOOP("Words", "Both sides printed")},
-    {"imaged", QT_TRANSLATE_NOOP("Words", "Printed")},
-    {"automatic", QT_TRANSLATE_NOOP("Words", "Automatic")},
-    {"top", QT_TRANSLATE_NOOP("Words", "Top tray")},
-    {"stacker", QT_TRANSLATE_NOOP("Words", "Stacker")},
-    {"stacker-1", QT_TRANSLATE_NOOP("Words", "Stacker 1")},
-    {"stacker-2", QT_TRANSLATE_NOOP("Words", "Stacker 2")},
-    {"set", QT_TRANSLATE_NOOP("Words", "Each set")},
-    {"subset", QT_TRANSLATE_NOOP("Words", "Each subset")},
-    {"set-and-subset", QT_TRANSLATE_NOOP("Words", "Sets and subsets")},
-    {"fine", QT_TRANSLATE_NOOP("Words", "Fine")},
-    {"superfine", QT_TRANSLATE_NOOP("Words", "Superfine")},
-    {"names", QT_TRANSLATE_NOOP("Words", "Their names")},
-    {"custom", QT_TRANSLATE_NOOP("Words", "A text of one's own")},
-    {"rotate-0", QT_TRANSLATE_NOOP("Words", "As they are")},
-    {"rotate-180", QT_TRANSLATE_NOOP("Words", "Upside down")},
-};
 
 /// Sets what can be seen of a field's choice: that the ticket's check objects to it, and why.
 void Mark(QComboBox* box, int index, const QString& text, const QString& objection) {
@@ -94,18 +24,7 @@ void Mark(QComboBox* box, int index, const QString& text, const QString& objecti
 
 }  // namespace
 
-QString WordFor(const QString& word) {
-  for (const Word& row : kWords) {
-    if (word == row.word) return QCoreApplication::translate("Words", row.text);
-  }
-  QString text = word;
-  if (text.startsWith("custom") && text.size() == 7)
-    return QCoreApplication::translate("Words", "Custom %1").arg(text.back());
-  if (text.size() <= 4) return text.toUpper();  // sizes
-  text.replace('-', ' ');
-  text[0] = text[0].toUpper();
-  return text;
-}
+QString WordFor(const char* word, const char* key) { return Localized(DisplayWord(word, key)); }
 
 Panel::Panel(TicketDocument* document, QWidget* parent)
     : QWidget(parent), document_(document), form_(new QFormLayout(this)) {
@@ -155,7 +74,7 @@ QComboBox* Panel::Codes(const char* path, const QString& label, std::vector<std:
       PutAt(ticket, path, Value(zarvo::Number(static_cast<std::int32_t>(code))));
       if (also) also(ticket);
     };
-    choices.push_back({word != nullptr ? WordFor(word) : QString::number(code), put});
+    choices.push_back({word != nullptr ? WordFor(word, key.name) : QString::number(code), put});
   }
   return Choices(path, label, std::move(choices), [=, this](const Dictionary&) {
     const std::optional<std::int64_t> now = document_->NumberAt(path);
@@ -179,7 +98,7 @@ QComboBox* Panel::Choices(const char* name, const QString& label, std::vector<Ch
   OnRefresh([=, this] {
     for (std::size_t i = 0; i < choices.size(); ++i) {
       const std::string objection = Objection(document_->ticket(), choices[i].put);
-      Mark(box, static_cast<int>(i), choices[i].text, QString::fromStdString(objection));
+      Mark(box, static_cast<int>(i), choices[i].text, Localized(objection));
     }
     box->setCurrentIndex(current(document_->ticket()));
   });

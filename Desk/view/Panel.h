@@ -22,8 +22,9 @@
 
 namespace zarvo::desk {
 
-/// The person's word for a word of the key table ("long-edge"), in the language of the program.
-QString WordFor(const QString& word);
+/// The person's word for a word of the key table ("long-edge"), in the language of the program; of
+/// that key, where it says something else there.
+QString WordFor(const char* word, const char* key = "");
 
 class Panel : public QWidget {
   Q_OBJECT

@@ -2,6 +2,7 @@
 #include "Desk/view/Panels.h"
 
 #include "CUPSFilter/Options/PinPolicy.h"
+#include "Desk/view/Translations.h"
 #include "Source/CFAdditions.h"
 #include "Source/TicketNames.h"
 
@@ -198,7 +199,7 @@ class JobPanel : public Panel {
       if (pin.empty()) return tr("Type the PIN that you will give at the printer.");
       const std::string fault = TypedPinFault(pin);
       return fault.empty() ? tr("At the printer choose this job and type the PIN.")
-                           : QString::fromStdString(fault);
+                           : Localized(fault);
     });
     name_ = Text("JobType/SavedJobName", tr("Name to save it under"));
     folder_ = Text("JobType/SavedJobLocation", tr("Folder at the printer"));

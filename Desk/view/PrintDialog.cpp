@@ -8,6 +8,7 @@
 #include <nlohmann/json.hpp>
 
 #include "Desk/model/Renderer.h"
+#include "Desk/view/Translations.h"
 #include "Source/TicketNames.h"
 #include "Tools/zarvo/system/SpoolerJobs.h"
 
@@ -79,7 +80,7 @@ void PrintDialog::reject() {
 
 void PrintDialog::Say(const QString& state, const QString& details) {
   state_->setText(state);
-  details_->setText(details);
+  details_->setText(Localized(details));
   details_->setVisible(!details.isEmpty());
 }
 

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "Desk/view/Translations.h"
+
 namespace zarvo::desk {
 namespace {
 
@@ -153,7 +155,7 @@ QString SideTitle(const tool::PlannedSide& side, bool two_sided) {
 QString SideWords(const tool::PlannedSide& side, bool two_sided) {
   QStringList words = {SideTitle(side, two_sided)};
   for (const std::string* text : {&side.text, &side.stock, &side.exception})
-    if (!text->empty()) words << QString::fromStdString(*text);
+    if (!text->empty()) words << Localized(*text);
   return words.join('\n');
 }
 
@@ -178,7 +180,7 @@ void PaintSide(QPainter* painter, const QRectF& place, const tool::PlannedSide& 
     painter->setFont(font);
     painter->setPen(QColor(0x40, 0x40, 0x40));
     painter->drawText(place.adjusted(8, 8, -8, -8), Qt::AlignCenter | Qt::TextWordWrap,
-                      QString::fromStdString(side.text));
+                      Localized(side.text));
   }
   if (!side.exception.empty() && look.marks) {
     const QColor tint(0xe0, 0x8a, 0x00);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Tools/zarvo/job/DocumentFacts.h"
+#include "Platform/Phrase.h"
 
 #include <algorithm>
 #include <charconv>
@@ -76,21 +77,21 @@ bool PostScriptFacts::HasMarkBehind() const {
 std::vector<std::string> MarkWords(const PostScriptFacts& facts) {
   std::vector<std::string> list;
   for (const MarkFacts& mark : facts.marks) {
-    std::string words = mark.image ? "an image" : "\"" + mark.text + "\"";
+    std::string words = mark.image ? Phrase("an image") : "\"" + mark.text + "\"";
     switch (mark.place) {
       case MarkFacts::Place::kBehind:
-        words += ", behind the page";
+        words += ", " + Phrase("behind the page");
         break;
       case MarkFacts::Place::kSeeThrough:
-        words += ", over the page, which shows through";
+        words += ", " + Phrase("over the page, which shows through");
         break;
       case MarkFacts::Place::kOver:
-        words += ", over the page";
+        words += ", " + Phrase("over the page");
         break;
       case MarkFacts::Place::kUnknown:
         break;
     }
-    if (facts.marks_on_first_page) words += ", on the first page only";
+    if (facts.marks_on_first_page) words += ", " + Phrase("on the first page only");
     list.push_back(std::move(words));
   }
   return list;

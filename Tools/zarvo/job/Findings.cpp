@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "CUPSFilter/Options/TicketGaps.h"
+#include "Platform/Phrase.h"
 
 namespace zarvo::tool {
 namespace {
@@ -13,51 +14,54 @@ constexpr std::size_t kMostRanges = 10;
 void CheckFrame(const JobFile& job, std::vector<std::string>* findings) {
   const PostScriptFacts& postscript = job.postscript;
   const auto wrong = [findings](std::string text) { findings->push_back(std::move(text)); };
-  if (job.ticket_cut) wrong("the XML ticket does not end");
-  if (job.pjl_cut) wrong("more PJL lines than any job needs");
-  if (job.stray_lines > 0) wrong("the job header holds a line that is no PJL");
-  if (job.pjl.empty()) wrong("no PJL envelope: the printer takes it for plain PostScript");
-  if (job.envelopes > job.ends) wrong("the end of the job (PJL EOJ) is missing");
+  if (job.ticket_cut) wrong(Phrase("the XML ticket does not end"));
+  if (job.pjl_cut) wrong(Phrase("more PJL lines than any job needs"));
+  if (job.stray_lines > 0) wrong(Phrase("the job header holds a line that is no PJL"));
+  if (job.pjl.empty()) wrong(Phrase("no PJL envelope: the printer takes it for plain PostScript"));
+  if (job.envelopes > job.ends) wrong(Phrase("the end of the job (PJL EOJ) is missing"));
   if (job.envelopes > 1)
-    wrong(std::to_string(job.envelopes) +
-          " job envelopes: the printer takes it for as many jobs and starts anew at each");
-  if (job.jobs_cut) wrong("more PostScript jobs than can be told apart");
-  if (postscript.documents == 0) wrong("no PostScript document");
+    wrong(Phrase("%1 job envelopes: the printer takes it for as many jobs and starts anew at each",
+                 {std::to_string(job.envelopes)}));
+  if (job.jobs_cut) wrong(Phrase("more PostScript jobs than can be told apart"));
+  if (postscript.documents == 0) wrong(Phrase("no PostScript document"));
   // A job that has been ended in its envelope is whole without the comment.
   if (postscript.documents > 0 && !postscript.ended &&
       (job.envelopes == 0 || job.ends < job.envelopes))
-    wrong("the PostScript does not end (%%EOF)");
+    wrong(Phrase("the PostScript does not end (%%EOF)"));
   if (postscript.documents > 0 && postscript.pages == 0)
-    wrong("no page comments: pages cannot be counted, and nothing can be drawn on them");
+    wrong(Phrase("no page comments: pages cannot be counted, and nothing can be drawn on them"));
 }
 
 /// Which of several PostScript jobs is meant; empty when there is only one.
 std::string Which(const JobReport& report, std::size_t job) {
   if (report.looks.size() < 2) return "";
-  return "PostScript job " + std::to_string(job + 1) + " of " +
-         std::to_string(report.looks.size()) + ": ";
+  return Phrase("PostScript job %1 of %2",
+                {std::to_string(job + 1), std::to_string(report.looks.size())}) +
+         ": ";
 }
 
 void CheckPages(const JobReport& report, std::vector<std::string>* findings) {
-  if (!report.looks.empty() && DrawnPages(report) == 0) findings->push_back("no page is printed");
+  if (!report.looks.empty() && DrawnPages(report) == 0)
+    findings->push_back(Phrase("no page is printed"));
   for (std::size_t i = 0; i < report.looks.size(); ++i) {
     const PageLook& look = report.looks[i];
     const std::string which = Which(report, i);
     if (!look.fault.empty() && look.whole)
-      findings->push_back(which + "the printer stops " +
-                          (look.pages == 0 ? std::string("before the first page")
-                                           : "after page " + std::to_string(look.pages)) +
-                          ": " + look.fault);
+      findings->push_back(which +
+                          (look.pages == 0
+                               ? Phrase("the printer stops before the first page: %1", {look.fault})
+                               : Phrase("the printer stops after page %1: %2",
+                                        {std::to_string(look.pages), look.fault})));
     // What follows the end of a document is often no more than comments.
     if (look.pages == 0 && look.whole && look.fault.empty() && report.job.jobs[i].documents > 0 &&
         DrawnPages(report) > 0)
-      findings->push_back(which + "no page is printed");
+      findings->push_back(which + Phrase("no page is printed"));
     if (!look.hidden.empty()) {
       const bool all = look.hidden.size() == look.pages;
-      findings->push_back(which + "the watermark behind the page cannot be seen on " +
-                          (all ? std::string("any page") : "page " + PageList(look.hidden)) +
-                          ", where the document paints its own ground; put it over the page "
-                          "(WMPlace=Overlay)");
+      findings->push_back(
+          which + Phrase("the watermark behind the page cannot be seen on %1, where the document "
+                         "paints its own ground; put it over the page (WMPlace=Overlay)",
+                         {all ? Phrase("any page") : Phrase("page %1", {PageList(look.hidden)})}));
     }
   }
 }

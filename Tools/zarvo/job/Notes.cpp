@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Tools/zarvo/job/Notes.h"
+#include "Platform/Phrase.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -38,9 +39,10 @@ void AddJobNotes(const JobReport& report, std::vector<PageNote>* notes) {
     }
   }
   const Statement* pin = Find(report.header, "JOB_PASSWORD");
-  if (pin != nullptr && pin->value != "set") notes->push_back({1, "secure, but no PIN is set"});
+  if (pin != nullptr && pin->value != "set")
+    notes->push_back({1, Phrase("secure, but no PIN is set")});
   if (report.job.postscript.copies > 1)
-    notes->push_back({1, std::to_string(report.job.postscript.copies) + " copies"});
+    notes->push_back({1, Phrase("%1 copies", {std::to_string(report.job.postscript.copies)})});
 }
 
 /// Each exception tells its pages first; they are the first member that names a range.
@@ -56,7 +58,7 @@ void AddExceptions(const Explanation& ticket, std::vector<PageNote>* notes) {
       if (begins && !text.empty()) notes->push_back({page, text});
       if (begins) {
         page = std::max(1UL, std::strtoul(all[k].value.c_str(), nullptr, 10));
-        text = "other settings for the pages " + all[k].Words();
+        text = Phrase("other settings for the pages %1", {all[k].Words()});
       } else if (!text.empty()) {
         text += ", " + all[k].name + " " + all[k].Words();
       }

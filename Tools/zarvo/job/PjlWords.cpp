@@ -255,6 +255,18 @@ Explanation ExplainPjl(const std::vector<std::string>& lines) {
   return std::move(explainer.explanation);
 }
 
+std::vector<std::string> PjlTexts() {
+  std::vector<std::string> texts;
+  for (const std::span<const Attribute> attributes :
+       {std::span<const Attribute>(kComments), std::span<const Attribute>(kSettings)}) {
+    for (const Attribute& attribute : attributes) {
+      texts.emplace_back(attribute.words);
+      for (const Code& code : attribute.codes) texts.emplace_back(code.words);
+    }
+  }
+  return texts;
+}
+
 std::string SizeWords(long width, long height) {
   const std::string millimetres =
       std::to_string((width + 50) / 100) + " x " + std::to_string((height + 50) / 100) + " mm";

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Tools/zarvo/job/SheetPlan.h"
+#include "Platform/Phrase.h"
 
 #include <algorithm>
 #include <charconv>
@@ -23,7 +24,7 @@ struct Exception {
 };
 
 void Append(std::string* list, const std::string& text) {
-  *list += (list->empty() ? "" : ", ") + text;
+  *list += (list->empty() ? "" : "\n") + text;
 }
 
 bool IsPaper(const std::string& code) { return code.starts_with("media"); }
@@ -57,9 +58,9 @@ std::vector<Exception> ReadExceptions(const Explanation& ticket) {
       continue;
     } else if (IsPaper(s->code)) {
       // Every paper says its size; it tells nothing unless it is another one.
-      if (s->code != "media-size") Append(&exceptions.back().stock, s->name + " " + s->Words());
+      if (s->code != "media-size") Append(&exceptions.back().stock, s->name + ": " + s->Words());
     } else {
-      Append(&exceptions.back().others, s->name + " " + s->Words());
+      Append(&exceptions.back().others, s->name + ": " + s->Words());
     }
   }
   return exceptions;
@@ -112,7 +113,7 @@ class Planner {
         report_.ticket.statements.begin(), report_.ticket.statements.end(), [](const auto& s) {
           return s.code == "separator-sheets-type" && s.value == "slip-sheets";
         });
-    if (slips) AddBlank(PlannedSide::Kind::kSlipSheet, "slip sheet after the set", 1);
+    if (slips) AddBlank(PlannedSide::Kind::kSlipSheet, Phrase("slip sheet after the set"), 1);
     plan_.sheets = sheet_;
     return std::move(plan_);
   }
@@ -140,7 +141,7 @@ class Planner {
       side.height = height_;
       if (exception != nullptr) {
         side.stock = exception->stock;
-        side.exception = exception->others.empty() ? "other paper" : exception->others;
+        side.exception = exception->others.empty() ? Phrase("other paper") : exception->others;
       }
       if (plan_.booklet) side.turn = report_.job.postscript.booklet_reversed ? 90 : 270;
       plan_.sides.push_back(std::move(side));

@@ -26,9 +26,9 @@ struct PlannedSide {
       0;  ///< of the set, from 1; an insert of several sheets takes as many numbers
   bool front = true;
   unsigned count = 1;     ///< sheets that are all alike
-  std::string stock;      ///< its paper in words, where it is not the job's
+  std::string stock;      ///< its paper in words, a line each, where it is not the job's
   std::string text;       ///< what a sheet is on which nothing is printed
-  std::string exception;  ///< what else is other than for the rest of the job
+  std::string exception;  ///< what else is other than for the rest of the job, a line each
   int width = 612;        ///< points, as the page lies in the printer
   int height = 792;
   int turn = 0;  ///< how far the page is turned to stand upright: 0, 90 (to the right), 270

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Tools/zarvo/job/Sheets.h"
+#include "Platform/Phrase.h"
 
 #include <cstdlib>
 #include <span>
@@ -26,7 +27,7 @@ void ReadCover(std::span<const Statement> members, SpecialSheet* sheet) {
       sheet->blank = member.value == "print-none" || member.value == "no-cover";
     if (TellsThePaper(member.code)) sheet->text += ", " + member.Words();
   }
-  if (sheet->blank) sheet->text += ", not printed";
+  if (sheet->blank) sheet->text += ", " + Phrase("not printed");
 }
 
 /// Each member of the set begins with the page after which it comes.
@@ -34,12 +35,15 @@ void ReadInserts(std::span<const Statement> members, std::vector<SpecialSheet>* 
   SpecialSheet* sheet = nullptr;
   for (const Statement& member : members) {
     if (member.code == "insert-after-page-number") {
-      sheets->push_back({SpecialSheet::Place::kInsert, Count(member.value), 1, true, "insert"});
+      sheets->push_back(
+          {SpecialSheet::Place::kInsert, Count(member.value), 1, true, Phrase("insert")});
       sheet = &sheets->back();
     } else if (sheet != nullptr && member.code == "insert-count") {
       sheet->count = Count(member.value);
-      sheet->text = std::to_string(sheet->count) + (sheet->count == 1 ? " sheet" : " sheets") +
-                    " after page " + std::to_string(sheet->after_page);
+      const std::string after = std::to_string(sheet->after_page);
+      sheet->text = sheet->count == 1
+                        ? Phrase("1 sheet after page %1", {after})
+                        : Phrase("%1 sheets after page %2", {std::to_string(sheet->count), after});
     } else if (sheet != nullptr && TellsThePaper(member.code)) {
       sheet->text += ", " + member.Words();
     }

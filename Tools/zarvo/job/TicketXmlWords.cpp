@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <algorithm>
+#include <cctype>
 #include <charconv>
 #include <cstdlib>
 #include <cstring>
 #include <pugixml.hpp>
 #include <span>
+#include <sstream>
 
 #include "Tools/zarvo/job/Words.h"
 
@@ -255,6 +257,15 @@ const char* FindName(std::span<const CodeName> names, std::string_view text) {
   return nullptr;
 }
 
+std::string KeywordText(const std::string& keyword) {
+  for (const KeywordWords& row : kKeywordWords) {
+    if (row.keyword == keyword) return row.words;
+  }
+  std::string words = keyword;
+  std::replace(words.begin(), words.end(), '-', ' ');
+  return words;
+}
+
 bool Lists(std::string_view keywords, std::string_view word) {
   std::string wanted = " ";
   wanted += word;
@@ -396,15 +407,6 @@ class Explainer {
       Wrong(std::string(parent->words) + ": unknown code " + text);
   }
 
-  static std::string KeywordText(const std::string& keyword) {
-    for (const KeywordWords& row : kKeywordWords) {
-      if (row.keyword == keyword) return row.words;
-    }
-    std::string words = keyword;
-    std::replace(words.begin(), words.end(), '-', ' ');
-    return words;
-  }
-
   std::string Range(const pugi::xml_node& node) {
     const std::string low = node.child_value("lower-bound");
     const std::string high = node.child_value("upper-bound");
@@ -471,6 +473,23 @@ Explanation ExplainTicketXml(std::string_view xml) {
   // What was read before the fault is told all the same.
   if (document.document_element()) explainer.Document(document.document_element());
   return std::move(explainer.explanation);
+}
+
+std::vector<std::string> TicketXmlTexts() {
+  std::vector<std::string> texts;
+  for (const Element& element : kElements) {
+    texts.emplace_back(element.words);
+    // Profiles have names, and numbers have words of their own.
+    if (element.keywords == kProfileKeywords || element.kind == kCodes) continue;
+    std::istringstream keywords{std::string(element.keywords)};
+    for (std::string keyword; keywords >> keyword;)
+      if (std::isalpha(static_cast<unsigned char>(keyword[0])) != 0)
+        texts.push_back(KeywordText(keyword));
+  }
+  for (const std::span<const CodeName> names :
+       {std::span<const CodeName>(kFinishings), std::span<const CodeName>(kOrientations)})
+    for (const CodeName& row : names) texts.emplace_back(row.words);
+  return texts;
 }
 
 }  // namespace zarvo::tool

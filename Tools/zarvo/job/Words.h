@@ -34,6 +34,10 @@ Explanation ExplainPjl(const std::vector<std::string>& lines);
 /// Explains an XML ticket.
 Explanation ExplainTicketXml(std::string_view xml);
 
+/// The names of all statements, and what their codes mean, as far as those are words.
+std::vector<std::string> PjlTexts();
+std::vector<std::string> TicketXmlTexts();
+
 /// The XML ticket as a reader of XML takes it; the printers read the account's mismatched end tag
 /// as it is.
 std::string WithMatchingAccountTags(std::string_view xml);

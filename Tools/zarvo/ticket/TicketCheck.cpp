@@ -11,6 +11,7 @@
 #include "CUPSFilter/Options/OptionList.h"
 #include "CUPSFilter/Options/PinPolicy.h"
 #include "CUPSFilter/Options/TicketGaps.h"
+#include "Platform/Phrase.h"
 #include "Source/CFAdditions.h"
 #include "Source/TicketNames.h"
 #include "Tools/zarvo/ticket/TicketText.h"
@@ -88,7 +89,7 @@ std::vector<TicketFinding> CheckTicket(const Dictionary& ticket, bool whole) {
   std::vector<TicketFinding> findings = CheckTicketKeys(ticket, TypedOptionNames());
   if (whole) {
     for (const TicketGap& gap : FindGaps(ticket))
-      findings.push_back({gap.key, gap.cause + "; add " + gap.setting});
+      findings.push_back({gap.key, gap.cause + "; " + Phrase("add %1", {gap.setting})});
   }
   if (const std::string fault = SecretFault(ticket); !fault.empty())
     findings.push_back({key::kJobType, fault});
