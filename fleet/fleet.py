@@ -31,7 +31,7 @@ from machines import enter_network, wait_until  # noqa: E402
 from spoolers import Fleet  # noqa: E402
 
 CLIENTS = 4
-BEAT, MINUTE = 0.2, 15  # seconds: looking, and enabling members
+BEAT, MINUTE = 0.2, 15  # seconds: looking, and what timers do every minute
 ON_THE_WAY = 400  # so many jobs at most, that faults find the fleet at work from the first to the last
 LARGE = 32 << 20
 FAULT = re.compile(r"(server\d+|front|printer-\w+|transfer|disk \d+) at (\d+) for (\d+)$")
@@ -144,7 +144,7 @@ def show(fleet, records, jobs, clear):
 def run(fleet, sender, jobs, faults, expected, table=2):
     """Sends all jobs and waits until they are out and each fault is over; gives the result. A table is shown
     every so many seconds."""
-    begun = shown = enabled = changed = time.monotonic()
+    begun = shown = tended = changed = time.monotonic()
     last, height = 0, 0
     extra = iter(range(9_000_000, 9_999_999))
     with concurrent.futures.ThreadPoolExecutor(CLIENTS) as pool:
@@ -167,9 +167,9 @@ def run(fleet, sender, jobs, faults, expected, table=2):
                     break
                 for fault in faults:
                     fault.look(fleet, len(records), send_large)
-                if now > enabled + MINUTE and fleet.front.machine.is_on:
-                    enabled = now
-                    for told in fleet.enable_members():
+                if now > tended + MINUTE and fleet.front.machine.is_on:
+                    tended = now
+                    for told in fleet.look_after():
                         print(told)
                         height = 0
                 if now > shown + table:

@@ -188,6 +188,12 @@ class Fleet(contextlib.ExitStack):
                     self._read[queue] = journal.tell()
         return [record for queue in queues or self._queues for record in self._records[queue]]
 
-    def enable_members(self):
-        """What a timer does on a front every minute, with less patience: no job here takes long to send."""
-        return self.front.run(FLEET / "front/enable-members", PATIENCE).splitlines()
+    def look_after(self):
+        """What timers do every minute, on the front with less patience, as no job here takes long to send. Gives
+        what they have told."""
+        told = self.front.run(FLEET / "front/enable-members", PATIENCE).splitlines()
+        for server in self.servers:
+            if server.machine.is_on:
+                told += server.machine.run("env", f"CUPS_SERVER={server.socket}", FLEET / "server/reclaim",
+                                           server.machine.address).splitlines()
+        return told
