@@ -6,6 +6,7 @@
 
 #include "CUPSFilter/Booklet/CommentReader.h"
 #include "CUPSFilter/CopyPass/DocumentShape.h"
+#include "Platform/Text.h"
 
 namespace zarvo {
 namespace {
@@ -29,10 +30,6 @@ constexpr FeatureComments kFeatures[] = {
     {"%RBIBeginNonPPDFeature:", "%RBIEndNonPPDFeature"},
 };
 constexpr std::size_t kMostFeatures = 64 * 1024;
-
-bool Contains(std::string_view line, std::string_view text) {
-  return line.find(text) != std::string_view::npos;
-}
 
 class StructureScan {
  public:

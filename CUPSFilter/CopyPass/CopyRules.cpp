@@ -15,6 +15,7 @@
 #include "CUPSFilter/Watermark/WatermarkText.h"
 #include "CUPSFilter/Watermark/outputPICT.h"
 #include "Platform/Log.h"
+#include "Platform/Text.h"
 #include "Source/CFAdditions.h"
 #include "Source/TicketNames.h"
 
@@ -39,10 +40,6 @@ constexpr std::string_view kNoPages = "%%Pages: 0";
 /// the spooler embeds what it does not understand.
 constexpr std::string_view kDosFigure = "\xC5\xD0\xD3\xC6";
 constexpr std::string_view kNotUnderstood = "%%BeginDocument: nondsc";
-
-bool Contains(std::string_view line, std::string_view text) {
-  return line.find(text) != std::string_view::npos;
-}
 
 bool BeginsCountedData(std::string_view line) {
   return line.starts_with("%%BeginBinary:") ||

@@ -2,6 +2,7 @@
 #include "CUPSFilter/CopyPass/DocumentShape.h"
 
 #include "CUPSFilter/CopyPass/CopyRules.h"
+#include "Platform/Text.h"
 
 namespace zarvo {
 namespace {
@@ -25,10 +26,6 @@ constexpr Embedded kEmbedded[] = {
 
 /// Nobody embeds as deeply; a hostile job may.
 constexpr std::size_t kDeepest = 64;
-
-bool Contains(std::string_view line, std::string_view text) {
-  return line.find(text) != std::string_view::npos;
-}
 
 /// The kind that a comment after "%%Begin" or "%%End" names, or 0.
 char KindOf(std::string_view name) {

@@ -1,25 +1,18 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Tools/zarvo/job/DocumentFacts.h"
-#include "Platform/Phrase.h"
 
 #include <algorithm>
 #include <charconv>
 #include <cstdlib>
 #include <cstring>
 
+#include "Platform/Phrase.h"
+#include "Platform/Text.h"
+
 namespace zarvo::tool {
 namespace {
 
 constexpr std::size_t kLongestName = 200;
-
-bool Contains(std::string_view line, std::string_view text) {
-  return line.find(text) != std::string_view::npos;
-}
-
-std::string_view WithoutLineEnd(std::string_view line) {
-  while (!line.empty() && (line.back() == '\n' || line.back() == '\r')) line.remove_suffix(1);
-  return line;
-}
 
 /// Whether the line is the header of a document, not of a font or a procedure set within one.
 bool IsDocumentHeader(std::string_view line) {

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "CUPSFilter/CopyPass/psgets.h"
+#include "Platform/Text.h"
 
 namespace zarvo::tool {
 namespace {
@@ -15,15 +16,6 @@ namespace {
 constexpr std::string_view kExitSequence = "\033%-12345X";
 constexpr char kEndOfTransmission = '\4';
 constexpr std::size_t kLongestLine = 64 * 1024;
-
-bool Contains(std::string_view line, std::string_view text) {
-  return line.find(text) != std::string_view::npos;
-}
-
-std::string_view WithoutLineEnd(std::string_view line) {
-  while (!line.empty() && (line.back() == '\n' || line.back() == '\r')) line.remove_suffix(1);
-  return line;
-}
 
 class Reader {
  public:

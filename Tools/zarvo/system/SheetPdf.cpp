@@ -15,7 +15,7 @@ namespace zarvo::tool {
 namespace {
 
 /// A number for a page description; whole and half points are enough.
-std::string Number(double points) {
+std::string InPoints(double points) {
   const long halves = static_cast<long>(points * 2);
   return std::to_string(halves / 2) + (halves % 2 != 0 ? ".5" : "");
 }
@@ -104,11 +104,11 @@ class Sheets {
     // Whole points, so that a picture of so many dots an inch shows the page itself unchanged.
     const double margin =
         lines.empty() ? 0 : std::ceil(size * (1.3 * static_cast<double>(lines.size()) + 1));
-    std::string matrix = "1 0 0 1 " + Number(-box.llx) + " " + Number(margin - box.lly);
+    std::string matrix = "1 0 0 1 " + InPoints(-box.llx) + " " + InPoints(margin - box.lly);
     if (side.turn == 270)
-      matrix = "0 1 -1 0 " + Number(height + box.lly) + " " + Number(margin - box.llx);
+      matrix = "0 1 -1 0 " + InPoints(height + box.lly) + " " + InPoints(margin - box.llx);
     if (side.turn == 90)
-      matrix = "0 -1 1 0 " + Number(-box.lly) + " " + Number(margin + width + box.llx);
+      matrix = "0 -1 1 0 " + InPoints(-box.lly) + " " + InPoints(margin + width + box.llx);
     std::string content = "q " + matrix + " cm /Page Do Q\n";
     if (!lines.empty()) content += Margin(lines, size, shown_width, margin);
     QPDFObjectHandle forms = QPDFObjectHandle::newDictionary();
@@ -118,10 +118,10 @@ class Sheets {
 
   static std::string Margin(const std::vector<std::string>& lines, double size, double width,
                             double margin) {
-    std::string content = "q 0.95 1 1 rg 0 0 " + Number(width) + " " + Number(margin) +
-                          " re f 0.4 G 0 " + Number(margin) + " m " + Number(width) + " " +
-                          Number(margin) + " l S BT 0 g /Text " + Number(size) + " Tf " +
-                          Number(size * 1.3) + " TL " + Number(size) + " " + Number(margin) +
+    std::string content = "q 0.95 1 1 rg 0 0 " + InPoints(width) + " " + InPoints(margin) +
+                          " re f 0.4 G 0 " + InPoints(margin) + " m " + InPoints(width) + " " +
+                          InPoints(margin) + " l S BT 0 g /Text " + InPoints(size) + " Tf " +
+                          InPoints(size * 1.3) + " TL " + InPoints(size) + " " + InPoints(margin) +
                           " Td\n";
     for (const std::string& line : lines) content += PdfText(line) + " '\n";
     return content + "ET Q\n";
@@ -132,10 +132,11 @@ class Sheets {
     const double width = side.width;
     const double height = side.height;
     const double size = std::clamp(width / 45, 6.0, 30.0);
-    std::string content =
-        "0.95 1 1 rg 0 0 " + Number(width) + " " + Number(height) + " re f 0.4 G [6 4] 0 d 12 12 " +
-        Number(width - 24) + " " + Number(height - 24) + " re S BT 0.4 g /Text " + Number(size) +
-        " Tf " + Number(size * 1.3) + " TL " + Number(36) + " " + Number(height / 2) + " Td\n";
+    std::string content = "0.95 1 1 rg 0 0 " + InPoints(width) + " " + InPoints(height) +
+                          " re f 0.4 G [6 4] 0 d 12 12 " + InPoints(width - 24) + " " +
+                          InPoints(height - 24) + " re S BT 0.4 g /Text " + InPoints(size) +
+                          " Tf " + InPoints(size * 1.3) + " TL " + InPoints(36) + " " +
+                          InPoints(height / 2) + " Td\n";
     for (const std::string& line : Folded({side.text}, size, width - 72))
       content += PdfText(line) + " '\n";
     AddPage(width, height, content + "ET\n", QPDFObjectHandle::newDictionary());
