@@ -31,7 +31,7 @@ int main(int argc, char** argv) {
   QApplication::setApplicationDisplayName("Zarvo Desk");
   QApplication::setApplicationVersion(ZARVO_VERSION);
   QApplication::setDesktopFileName("zarvo-desk");
-  QApplication::setWindowIcon(QIcon(":/zarvo-desk.svg"));
+  QApplication::setWindowIcon(QIcon::fromTheme("zarvo-desk", QIcon(":/zarvo-desk.svg")));
   const zarvo::desk::Translations translations(QLocale(), &app);
 
   const auto tr = [](const char* text) { return QCoreApplication::translate("main", text); };

@@ -308,7 +308,7 @@
     </message>
     <message>
       <source>Banner page</source>
-      <translation>Deckblatt</translation>
+      <translation>Bannerseite</translation>
     </message>
     <message>
       <source>Billing code, up to 16 bytes</source>
@@ -417,6 +417,14 @@
     <message>
       <source>Choose first what is other than for the job.</source>
       <translation>Zuerst wählen, was anders als beim Auftrag ist.</translation>
+    </message>
+    <message>
+      <source>Choose one in the list first.</source>
+      <translation>Wählen Sie zuerst etwas in der Liste.</translation>
+    </message>
+    <message>
+      <source>Choose one of the pictures first.</source>
+      <translation>Wählen Sie zuerst eines der Bilder.</translation>
     </message>
     <message>
       <source>Close</source>
@@ -591,6 +599,10 @@
       <translation>%v von %m gezeichnet</translation>
     </message>
     <message>
+      <source>Drop a document here, or choose Open.</source>
+      <translation>Legen Sie hier ein Dokument ab, oder wählen Sie „Öffnen“.</translation>
+    </message>
+    <message>
       <source>E-mail address</source>
       <translation>E-Mail-Adresse</translation>
     </message>
@@ -657,6 +669,10 @@
     <message>
       <source>Find a setting</source>
       <translation>Eine Einstellung suchen</translation>
+    </message>
+    <message>
+      <source>Find one by its title</source>
+      <translation>Nach Titel suchen</translation>
     </message>
     <message>
       <source>Finish</source>
@@ -916,7 +932,7 @@
     </message>
     <message>
       <source>House tickets</source>
-      <translation>Hausvorlagen</translation>
+      <translation>Hausaufträge</translation>
     </message>
     <message>
       <source>How far the pages lie turned, for the watermark</source>
@@ -981,6 +997,10 @@
     <message>
       <source>Keep on the printer, do not print</source>
       <translation>Am Drucker behalten, nicht drucken</translation>
+    </message>
+    <message>
+      <source>Keep the changes of this watermark</source>
+      <translation>Änderungen dieses Wasserzeichens behalten</translation>
     </message>
     <message>
       <source>Keep the settings under a name</source>
@@ -1080,7 +1100,7 @@
     </message>
     <message>
       <source>Message on the banner page</source>
-      <translation>Text auf dem Trennblatt</translation>
+      <translation>Text auf der Bannerseite</translation>
     </message>
     <message>
       <source>Message to the operator</source>
@@ -1173,6 +1193,10 @@
     <message>
       <source>No time is set</source>
       <translation>Keine Zeit gesetzt</translation>
+    </message>
+    <message>
+      <source>None is kept yet. Choose settings in the other groups, type a name below and keep them.</source>
+      <translation>Noch ist nichts aufbewahrt. Wählen Sie Einstellungen in den anderen Gruppen, geben Sie unten einen Namen ein und behalten Sie sie.</translation>
     </message>
     <message>
       <source>Normal</source>
@@ -1894,6 +1918,10 @@
       <translation>Größe</translation>
     </message>
     <message>
+      <source>Size of the picture</source>
+      <translation>Größe des Bildes</translation>
+    </message>
+    <message>
       <source>Size of the sheets</source>
       <translation>Größe der Blätter</translation>
     </message>
@@ -1982,8 +2010,8 @@
       <translation>Unter dem Namen des Dokuments ablegen</translation>
     </message>
     <message>
-      <source>Store this text</source>
-      <translation>Diesen Text speichern</translation>
+      <source>Store this text as a new one</source>
+      <translation>Diesen Text als neues speichern</translation>
     </message>
     <message>
       <source>Stored as a form</source>
@@ -2015,7 +2043,7 @@
     </message>
     <message>
       <source>Text on the banner page</source>
-      <translation>Text auf dem Deckblatt</translation>
+      <translation>Text auf der Bannerseite</translation>
     </message>
     <message>
       <source>That watermark on the first page only</source>
@@ -2163,7 +2191,7 @@
     </message>
     <message>
       <source>Ticket that is kept under this name, below all other settings</source>
-      <translation>Hausticket mit diesem Namen, unter allen anderen Einstellungen</translation>
+      <translation>Hausauftrag mit diesem Namen, unter allen anderen Einstellungen</translation>
     </message>
     <message>
       <source>To</source>
@@ -2262,12 +2290,28 @@
       <translation>Art</translation>
     </message>
     <message>
+      <source>Type a name first.</source>
+      <translation>Geben Sie zuerst einen Namen ein.</translation>
+    </message>
+    <message>
+      <source>Type a number and a name first.</source>
+      <translation>Geben Sie zuerst eine Nummer und einen Namen ein.</translation>
+    </message>
+    <message>
+      <source>Type a number that can be dialed first.</source>
+      <translation>Geben Sie zuerst eine wählbare Nummer ein.</translation>
+    </message>
+    <message>
       <source>Type pages, or select them among the sheets.</source>
       <translation>Seiten eingeben oder unter den Blättern markieren.</translation>
     </message>
     <message>
       <source>Type the PIN that you will give at the printer.</source>
       <translation>Geben Sie die PIN ein, die Sie am Drucker eingeben werden.</translation>
+    </message>
+    <message>
+      <source>Type the text first.</source>
+      <translation>Geben Sie zuerst den Text ein.</translation>
     </message>
     <message>
       <source>Uncollated</source>

@@ -308,7 +308,7 @@
     </message>
     <message>
       <source>Banner page</source>
-      <translation>Page de garde</translation>
+      <translation>Page de bannière</translation>
     </message>
     <message>
       <source>Billing code, up to 16 bytes</source>
@@ -417,6 +417,14 @@
     <message>
       <source>Choose first what is other than for the job.</source>
       <translation>Choisissez d’abord ce qui diffère du travail.</translation>
+    </message>
+    <message>
+      <source>Choose one in the list first.</source>
+      <translation>Choisissez d’abord dans la liste.</translation>
+    </message>
+    <message>
+      <source>Choose one of the pictures first.</source>
+      <translation>Choisissez d’abord une des images.</translation>
     </message>
     <message>
       <source>Close</source>
@@ -591,6 +599,10 @@
       <translation>Dessin %v sur %m</translation>
     </message>
     <message>
+      <source>Drop a document here, or choose Open.</source>
+      <translation>Déposez un document ici, ou choisissez Ouvrir.</translation>
+    </message>
+    <message>
       <source>E-mail address</source>
       <translation>Adresse électronique</translation>
     </message>
@@ -657,6 +669,10 @@
     <message>
       <source>Find a setting</source>
       <translation>Chercher un réglage</translation>
+    </message>
+    <message>
+      <source>Find one by its title</source>
+      <translation>Chercher par titre</translation>
     </message>
     <message>
       <source>Finish</source>
@@ -983,6 +999,10 @@
       <translation>Garder sur l’imprimante, ne pas imprimer</translation>
     </message>
     <message>
+      <source>Keep the changes of this watermark</source>
+      <translation>Garder les changements de ce filigrane</translation>
+    </message>
+    <message>
       <source>Keep the settings under a name</source>
       <translation>Garder les réglages sous un nom</translation>
     </message>
@@ -1173,6 +1193,10 @@
     <message>
       <source>No time is set</source>
       <translation>Aucune heure fixée</translation>
+    </message>
+    <message>
+      <source>None is kept yet. Choose settings in the other groups, type a name below and keep them.</source>
+      <translation>Rien n’est encore gardé. Choisissez des réglages dans les autres groupes, tapez un nom ci-dessous et gardez-les.</translation>
     </message>
     <message>
       <source>Normal</source>
@@ -1894,6 +1918,10 @@
       <translation>Format</translation>
     </message>
     <message>
+      <source>Size of the picture</source>
+      <translation>Taille de l’image</translation>
+    </message>
+    <message>
       <source>Size of the sheets</source>
       <translation>Taille des feuilles</translation>
     </message>
@@ -1982,8 +2010,8 @@
       <translation>Le garder sous le nom du document</translation>
     </message>
     <message>
-      <source>Store this text</source>
-      <translation>Enregistrer ce texte</translation>
+      <source>Store this text as a new one</source>
+      <translation>Garder ce texte comme nouveau</translation>
     </message>
     <message>
       <source>Stored as a form</source>
@@ -2262,12 +2290,28 @@
       <translation>Type</translation>
     </message>
     <message>
+      <source>Type a name first.</source>
+      <translation>Tapez d’abord un nom.</translation>
+    </message>
+    <message>
+      <source>Type a number and a name first.</source>
+      <translation>Tapez d’abord un numéro et un nom.</translation>
+    </message>
+    <message>
+      <source>Type a number that can be dialed first.</source>
+      <translation>Tapez d’abord un numéro à composer.</translation>
+    </message>
+    <message>
       <source>Type pages, or select them among the sheets.</source>
       <translation>Tapez des pages, ou sélectionnez-les parmi les feuilles.</translation>
     </message>
     <message>
       <source>Type the PIN that you will give at the printer.</source>
       <translation>Tapez le code PIN que vous donnerez à l’imprimante.</translation>
+    </message>
+    <message>
+      <source>Type the text first.</source>
+      <translation>Tapez d’abord le texte.</translation>
     </message>
     <message>
       <source>Uncollated</source>

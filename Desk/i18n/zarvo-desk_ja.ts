@@ -33,7 +33,7 @@
     </message>
     <message>
       <source>%1 and nothing else; choose another one</source>
-      <translation>%1以外は使えません。別のものにしてください</translation>
+      <translation>%1（それ以外は使えません）。別のものにしてください</translation>
     </message>
     <message>
       <source>%1 cannot be read.</source>
@@ -407,11 +407,19 @@
     </message>
     <message>
       <source>Choose a watermark first.</source>
-      <translation>先に透かしを選んでください。</translation>
+      <translation>先にウォーターマークを選んでください。</translation>
     </message>
     <message>
       <source>Choose first what is other than for the job.</source>
       <translation>先にジョブと異なる設定を選んでください。</translation>
+    </message>
+    <message>
+      <source>Choose one in the list first.</source>
+      <translation>先に一覧から選んでください。</translation>
+    </message>
+    <message>
+      <source>Choose one of the pictures first.</source>
+      <translation>先に画像を 1 つ選んでください。</translation>
     </message>
     <message>
       <source>Close</source>
@@ -586,6 +594,10 @@
       <translation>描画中 %v / %m</translation>
     </message>
     <message>
+      <source>Drop a document here, or choose Open.</source>
+      <translation>ここに文書をドロップするか、「開く」を選んでください。</translation>
+    </message>
+    <message>
       <source>E-mail address</source>
       <translation>メールアドレス</translation>
     </message>
@@ -652,6 +664,10 @@
     <message>
       <source>Find a setting</source>
       <translation>設定を検索</translation>
+    </message>
+    <message>
+      <source>Find one by its title</source>
+      <translation>タイトルで検索</translation>
     </message>
     <message>
       <source>Finish</source>
@@ -982,6 +998,10 @@
       <translation>プリンターに保存し、印刷しない</translation>
     </message>
     <message>
+      <source>Keep the changes of this watermark</source>
+      <translation>このウォーターマークの変更を保存</translation>
+    </message>
+    <message>
       <source>Keep the settings under a name</source>
       <translation>設定に名前を付けて登録</translation>
     </message>
@@ -1063,7 +1083,7 @@
     </message>
     <message>
       <source>Make or change a watermark</source>
-      <translation>透かしの作成と変更</translation>
+      <translation>ウォーターマークの作成と変更</translation>
     </message>
     <message>
       <source>Mapping method</source>
@@ -1172,6 +1192,10 @@
     <message>
       <source>No time is set</source>
       <translation>時刻の指定なし</translation>
+    </message>
+    <message>
+      <source>None is kept yet. Choose settings in the other groups, type a name below and keep them.</source>
+      <translation>まだ保存されたものはありません。ほかのグループで設定を選び、下に名前を入力して保存してください。</translation>
     </message>
     <message>
       <source>Normal</source>
@@ -1429,7 +1453,7 @@
     </message>
     <message>
       <source>Picture for a watermark</source>
-      <translation>透かし用の画像</translation>
+      <translation>ウォーターマーク用の画像</translation>
     </message>
     <message>
       <source>Portrait</source>
@@ -1896,6 +1920,10 @@
       <translation>サイズ</translation>
     </message>
     <message>
+      <source>Size of the picture</source>
+      <translation>画像の大きさ</translation>
+    </message>
+    <message>
       <source>Size of the sheets</source>
       <translation>用紙の表示サイズ</translation>
     </message>
@@ -1984,8 +2012,8 @@
       <translation>文書名で保存</translation>
     </message>
     <message>
-      <source>Store this text</source>
-      <translation>この文字を登録</translation>
+      <source>Store this text as a new one</source>
+      <translation>この文字を新しく保存</translation>
     </message>
     <message>
       <source>Stored as a form</source>
@@ -2268,12 +2296,28 @@
       <translation>種類</translation>
     </message>
     <message>
+      <source>Type a name first.</source>
+      <translation>先に名前を入力してください。</translation>
+    </message>
+    <message>
+      <source>Type a number and a name first.</source>
+      <translation>先に番号と名前を入力してください。</translation>
+    </message>
+    <message>
+      <source>Type a number that can be dialed first.</source>
+      <translation>先にダイヤルできる番号を入力してください。</translation>
+    </message>
+    <message>
       <source>Type pages, or select them among the sheets.</source>
       <translation>ページを入力するか、用紙の中から選んでください。</translation>
     </message>
     <message>
       <source>Type the PIN that you will give at the printer.</source>
       <translation>プリンターで入力する暗証番号を決めてください。</translation>
+    </message>
+    <message>
+      <source>Type the text first.</source>
+      <translation>先に文字を入力してください。</translation>
     </message>
     <message>
       <source>Uncollated</source>

@@ -127,6 +127,13 @@ void Renderer::SetSettings(const RenderSettings& settings, const QString& ppd) {
   start_.start(kSettleMilliseconds);
 }
 
+void Renderer::Redraw() {
+  ++round_;
+  ahead_.reset();
+  whole_.reset();
+  start_.start(kSettleMilliseconds);
+}
+
 void Renderer::SetWanted(const std::vector<std::uint64_t>& pages, int dots) {
   if (pages == wanted_ && dots == dots_) return;
   wanted_ = pages;

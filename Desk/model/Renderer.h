@@ -54,6 +54,8 @@ class Renderer : public QObject {
   const QString& file() const { return file_; }
   /// How it is printed. Equal settings change nothing.
   void SetSettings(const RenderSettings& settings, const QString& ppd);
+  /// Draws all anew: what the ticket names has changed.
+  void Redraw();
   /// The pages that are looked at, in the order in which they are wanted, and how fine.
   void SetWanted(const std::vector<std::uint64_t>& pages, int dots);
 

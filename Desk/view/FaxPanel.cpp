@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
 // Fax: who gets it, and the cover sheet. The cover itself is the first of the sheets.
-#include <QHBoxLayout>
 #include <QListWidget>
 #include <QPushButton>
 #include <algorithm>
@@ -29,33 +28,30 @@ class FaxPanel : public Panel {
     list_->setMinimumHeight(90);
     Row(list_);
     auto* const remove = Button("remove-recipient", tr("Remove"), [this] { Remove(); });
-    connect(list_, &QListWidget::currentRowChanged, this,
-            [remove](int row) { remove->setEnabled(row >= 0); });
-    remove->setEnabled(false);
-    Row(remove);
+    const auto choose = [remove](int row) {
+      Allow(remove, row >= 0, tr("Choose one in the list first."));
+    };
+    connect(list_, &QListWidget::currentRowChanged, this, choose);
+    choose(-1);
     book_ = new QComboBox(this);
     book_->setObjectName("address-book");
+    book_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     Row(tr("Address book"), book_);
-    Row(Button("add-from-book", tr("Add from the address book"), [this] { AddFromBook(); }));
+    from_book_ =
+        Button("add-from-book", tr("Add from the address book"), [this] { AddFromBook(); });
     typed_ = new QLineEdit(this);
     typed_->setObjectName("typed-number");
     typed_->setPlaceholderText("+44 20 7946 0018");
-    name_ = new QLineEdit(this);
-    name_->setObjectName("typed-name");
     Row(tr("Number"), typed_);
     dialed_ = new QLabel(this);
     dialed_->setObjectName("dialed");
     dialed_->setWordWrap(true);
     Row(dialed_);
+    name_ = new QLineEdit(this);
+    name_->setObjectName("typed-name");
     Row(tr("Name"), name_);
-    auto* const buttons = new QWidget(this);
-    auto* const row = new QHBoxLayout(buttons);
-    row->setContentsMargins(0, 0, 0, 0);
     add_ = Button("add-typed", tr("Add this number"), [this] { AddTyped(); });
     keep_ = Button("keep-typed", tr("Keep in the address book"), [this] { Keep(); });
-    row->addWidget(add_);
-    row->addWidget(keep_);
-    Row(buttons);
     connect(typed_, &QLineEdit::textChanged, this, [this] { Judge(); });
     connect(name_, &QLineEdit::textChanged, this, [this] { Judge(); });
     Group(tr("Cover sheet"));
@@ -95,13 +91,6 @@ class FaxPanel : public Panel {
   }
 
  private:
-  QPushButton* Button(const char* name, const QString& text, const std::function<void()>& press) {
-    auto* const button = new QPushButton(text, this);
-    button->setObjectName(name);
-    connect(button, &QPushButton::clicked, this, press);
-    return button;
-  }
-
   /// A text of the cover with what goes along with it.
   void CoverText(const char* path, const QString& label, const char* heading,
                  const QString& heading_text, bool sender) {
@@ -128,7 +117,8 @@ class FaxPanel : public Panel {
       book_->addItem(IsGroupCard(record.card) ? tr("%1 (group)").arg(NameOf(record))
                                               : NameOf(record));
     if (records_.empty()) book_->addItem(tr("The address book is empty"));
-    book_->setEnabled(!records_.empty());
+    for (QWidget* each : {static_cast<QWidget*>(book_), static_cast<QWidget*>(from_book_)})
+      Allow(each, !records_.empty(), tr("The address book is empty"));
   }
 
   /// What would be dialed is shown while it is typed.
@@ -139,8 +129,9 @@ class FaxPanel : public Panel {
     dialed_->setText(number.empty()
                          ? tr("There is nothing in this to dial.")
                          : tr("The printer dials %1").arg(QString::fromStdString(number)));
-    add_->setEnabled(!number.empty());
-    keep_->setEnabled(!number.empty() && !name_->text().trimmed().isEmpty());
+    Allow(add_, !number.empty(), tr("Type a number that can be dialed first."));
+    Allow(keep_, !number.empty() && !name_->text().trimmed().isEmpty(),
+          tr("Type a number and a name first."));
   }
 
   void FillList() {
@@ -240,6 +231,7 @@ class FaxPanel : public Panel {
   QLineEdit* typed_;
   QLineEdit* name_;
   QLabel* dialed_;
+  QPushButton* from_book_;
   QPushButton* add_;
   QPushButton* keep_;
 };

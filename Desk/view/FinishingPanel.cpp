@@ -28,6 +28,10 @@ class StapleButton : public QToolButton {
     QToolButton::paintEvent(event);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
+    if (isChecked()) {
+      painter.setPen(QPen(palette().color(QPalette::Highlight), 3));
+      painter.drawRoundedRect(QRectF(rect()).adjusted(2, 2, -2, -2), 3, 3);
+    }
     const QRectF sheet(rect().adjusted(11, 10, -11, -10));
     painter.setPen(palette().color(QPalette::ButtonText));
     painter.setBrush(Qt::white);
@@ -155,6 +159,7 @@ class FinishingPanel : public Panel {
     const bool can = CanFinish(With(want));
     button->setEnabled(can);
     button->setToolTip(can ? name : name + "\n" + Refusal());
+    button->setStatusTip(can ? QString() : Refusal());
     button->setAccessibleDescription(can ? QString() : Refusal());
   }
 
@@ -178,6 +183,7 @@ class FinishingPanel : public Panel {
         const int index = static_cast<int>(i);
         box->setItemText(index, can ? rows[i].first : rows[i].first + QStringLiteral(" \u26A0"));
         box->setItemData(index, can ? QString() : Refusal(), Qt::ToolTipRole);
+        box->setItemData(index, can ? QString() : Refusal(), Qt::AccessibleDescriptionRole);
         box->setItemData(index, can ? QVariant() : QVariant(0), Qt::UserRole - 1);  // disabled
       }
       if (field == &Finishing::holes) ShowOnly(box, FinishingOf(document_->ticket()).punch != 0);

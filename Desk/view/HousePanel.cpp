@@ -70,6 +70,19 @@ class HousePanel : public Panel {
  public:
   explicit HousePanel(const PanelContext& context) : Panel(context.document), context_(context) {
     Group(tr("House tickets"));
+    search_ = new QLineEdit(this);
+    search_->setObjectName("house-search");
+    search_->setPlaceholderText(tr("Find one by its title"));
+    search_->setAccessibleName(tr("Find one by its title"));
+    search_->setClearButtonEnabled(true);
+    connect(search_, &QLineEdit::textChanged, this, [this] { Search(); });
+    Row(search_);
+    none_ = new QLabel(this);
+    none_->setWordWrap(true);
+    none_->setText(
+        tr("None is kept yet. Choose settings in the other groups, type a name below and "
+           "keep them."));
+    Row(none_);
     gallery_ = new QListWidget(this);
     gallery_->setObjectName("gallery");
     gallery_->setAccessibleName(tr("House tickets"));
@@ -84,7 +97,7 @@ class HousePanel : public Panel {
     use_ = Button("use-house", tr("Use these settings"), [this] { Use(); });
     connect(gallery_, &QListWidget::itemActivated, this, [this] { Use(); });
     connect(gallery_, &QListWidget::currentRowChanged, this,
-            [this](int row) { use_->setEnabled(row >= 0); });
+            [this](int row) { Allow(use_, row >= 0, tr("Choose one of the pictures first.")); });
     Group(tr("Keep the settings under a name"));
     name_ = new QLineEdit(this);
     name_->setObjectName("house-name");
@@ -100,15 +113,6 @@ class HousePanel : public Panel {
   }
 
  private:
-  QPushButton* Button(const char* name, const QString& text, const std::function<void()>& press) {
-    auto* const button = new QPushButton(text, this);
-    button->setObjectName(name);
-    button->setEnabled(false);
-    connect(button, &QPushButton::clicked, this, press);
-    Row(button);
-    return button;
-  }
-
   void Fill() {
     gallery_->clear();
     tool::HouseStores stores;
@@ -137,6 +141,18 @@ class HousePanel : public Panel {
         if (!failure.empty()) item->setFlags(Qt::NoItemFlags);
       }
     }
+    Allow(use_, false, tr("Choose one of the pictures first."));
+    none_->setVisible(gallery_->count() == 0);
+    Search();
+  }
+
+  void Search() {
+    const QString wanted = search_->text().trimmed();
+    for (int i = 0; i < gallery_->count(); ++i) {
+      QListWidgetItem* const item = gallery_->item(i);
+      item->setHidden(!item->text().contains(wanted, Qt::CaseInsensitive) &&
+                      !item->toolTip().contains(wanted, Qt::CaseInsensitive));
+    }
   }
 
   void Use() {
@@ -149,7 +165,7 @@ class HousePanel : public Panel {
     if (fault.empty()) fault = ResolveHouseTicket(name, FindIn(stores.All()), &house);
     if (!fault.empty()) return context_.tell(QString::fromStdString(fault));
     name_->setText(QString::fromStdString(name));
-    document_->Replace(house.ticket, use_->text().toStdString());
+    document_->Replace(house.ticket, use_->accessibleName().toStdString());
   }
 
   void Judge() {
@@ -157,7 +173,8 @@ class HousePanel : public Panel {
     const std::string fault = name.empty() ? "" : HouseTicketNameFault(name);
     fault_->setText(Localized(fault));
     fault_->setVisible(!fault.empty());
-    save_->setEnabled(!name.empty() && fault.empty());
+    Allow(save_, !name.empty() && fault.empty(),
+          name.empty() ? tr("Type a name first.") : Localized(fault));
   }
 
   void Save() {
@@ -178,6 +195,8 @@ class HousePanel : public Panel {
 
   PanelContext context_;
   QString broken_;
+  QLineEdit* search_;
+  QLabel* none_;
   QListWidget* gallery_;
   QLineEdit* name_;
   QLabel* fault_;

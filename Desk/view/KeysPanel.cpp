@@ -73,7 +73,12 @@ class AllKeysPanel : public Panel {
     tree_->setAccessibleName(tr("All settings"));
     tree_->setHeaderLabels({tr("Setting"), tr("Value")});
     tree_->setMinimumHeight(420);
-    tree_->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+    tree_->header()->setStretchLastSection(false);
+    tree_->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    tree_->header()->resizeSection(1, 110);
+    connect(tree_, &QTreeWidget::itemActivated, this, [this](QTreeWidgetItem* item) {
+      if (item->flags().testFlag(Qt::ItemIsEditable)) tree_->editItem(item, 1);
+    });
     tree_->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
                            QAbstractItemView::SelectedClicked);
     tree_->setItemDelegate(new ValueDelegate(tree_));
@@ -99,7 +104,7 @@ class AllKeysPanel : public Panel {
     if (name.startsWith(key::kPrefix)) name.remove(0, static_cast<int>(std::strlen(key::kPrefix)));
     auto* const item = parent != nullptr ? new QTreeWidgetItem(parent) : new QTreeWidgetItem(tree_);
     item->setText(0, Localized(DisplayName(key)));
-    for (const int column : {0, 1}) item->setToolTip(column, name);
+    for (const int column : {0, 1}) item->setToolTip(column, item->text(0) + "\n" + name);
     item->setData(1, kPath, path);
     if (key.type == KeyType::kList) return item;
     if (key.type == KeyType::kDictionary) {

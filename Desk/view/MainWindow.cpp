@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Desk/view/MainWindow.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QActionGroup>
 #include <QCloseEvent>
@@ -16,6 +17,7 @@
 #include <QPushButton>
 #include <QScrollArea>
 #include <QSettings>
+#include <QShortcut>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QStyle>
@@ -25,6 +27,7 @@
 #include "Desk/model/GtkSettings.h"
 #include "Desk/view/PrintDialog.h"
 #include "Desk/view/Translations.h"
+#include "Tools/zarvo/ticket/TicketCheck.h"
 
 namespace zarvo::desk {
 
@@ -145,6 +148,16 @@ QWidget* MainWindow::MakeSheets() {
   return area;
 }
 
+/// The letters by which the menus and the tools are reached.
+QString MainWindow::MenuLetters() {
+  QString letters;
+  for (const QString& text :
+       {tr("&File"), tr("&Edit"), tr("&View"), tr("&All sheets"), tr("&One side"),
+        tr("As a &reader"), tr("&Open\u2026"), tr("&Undo"), tr("&Redo"), tr("&Print")})
+    letters += text.mid(text.indexOf('&') + 1, 1);
+  return letters;
+}
+
 int MainWindow::WidestTitle() const {
   int widest = 0;
   for (const PanelEntry& entry : panels_)
@@ -161,9 +174,11 @@ QWidget* MainWindow::MakeSettings() {
   groups_->setAccessibleName(tr("Groups of settings"));
   groups_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   pages_ = new QStackedWidget(area);
-  panels_ = MakePanels({&document_, [this] { return grid_->SelectedPages(); },
-                        [this](const QString& text) { Tell(text); }});
+  panels_ =
+      MakePanels({&document_, [this] { return grid_->SelectedPages(); },
+                  [this](const QString& text) { Tell(text); }, [this] { renderer_->Redraw(); }});
   for (const PanelEntry& entry : panels_) {
+    entry.panel->GiveMnemonics(MenuLetters());
     entry.panel->setObjectName(QString("panel-") + entry.name);
     auto* const scroll = new QScrollArea(pages_);
     scroll->setWidgetResizable(true);
@@ -178,8 +193,17 @@ QWidget* MainWindow::MakeSettings() {
   connect(groups_, &QListWidget::currentRowChanged, pages_, &QStackedWidget::setCurrentIndex);
   groups_->setCurrentRow(0);
   pages_->setMinimumWidth(330);
+  findings_ = new QLabel(area);
+  findings_->setObjectName("findings");
+  findings_->setWordWrap(true);
+  findings_->setTextFormat(Qt::PlainText);
+  findings_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  findings_->setContentsMargins(6, 6, 6, 6);
+  auto* const column = new QVBoxLayout;
+  column->addWidget(pages_, 1);
+  column->addWidget(findings_);
   layout->addWidget(groups_);
-  layout->addWidget(pages_, 1);
+  layout->addLayout(column, 1);
   return area;
 }
 
@@ -276,6 +300,29 @@ void MainWindow::MakeActions() {
   });
   bar->addWidget(queues_);
   bar->addAction(print_);
+  const auto key = [this](const QKeySequence& keys, QWidget* where, auto act) {
+    connect(new QShortcut(keys, where, nullptr, nullptr, Qt::WidgetWithChildrenShortcut),
+            &QShortcut::activated, this, act);
+  };
+  key(Qt::Key_Escape, big_, [this] { ShowView(0); });
+  key(Qt::Key_Escape, message_, [this] {
+    message_->hide();
+    views_->currentWidget()->setFocus();
+  });
+  key(Qt::Key_F6, this, [this] { NextArea(); });
+}
+
+/// From the sheets to the groups of settings, to the fields, and round again.
+void MainWindow::NextArea() {
+  Panel* const panel = panels_[static_cast<std::size_t>(groups_->currentRow())].panel;
+  const QWidget* const now = focusWidget();
+  if (now == groups_) {
+    panel->FocusFirst();
+  } else if (panel->isAncestorOf(now)) {
+    views_->currentWidget()->setFocus();
+  } else {
+    groups_->setFocus();
+  }
 }
 
 void MainWindow::ShowView(int view) {
@@ -298,6 +345,8 @@ void MainWindow::Tell(const QString& text) {
   if (text.isEmpty() || message_ == nullptr) return;
   message_text_->setText(Localized(text));
   message_->show();
+  QAccessibleEvent alert(message_text_, QAccessible::Alert);
+  QAccessible::updateAccessibility(&alert);
 }
 
 void MainWindow::OpenDocument(const QString& file) {
@@ -385,6 +434,7 @@ bool MainWindow::MayClose() {
 
 void MainWindow::Changed() {
   for (const PanelEntry& entry : panels_) entry.panel->Refresh();
+  ShowFindings();
   undo_->setEnabled(document_.CanUndo());
   redo_->setEnabled(document_.CanRedo());
   undo_->setToolTip(tr("Undo: %1").arg(QString::fromStdString(document_.UndoName())));
@@ -392,12 +442,23 @@ void MainWindow::Changed() {
   print_->setEnabled(!renderer_->file().isEmpty() && !wanted_queue_.isEmpty());
   const QString settings =
       ticket_file_.isEmpty() ? QString() : " \u2013 " + QFileInfo(ticket_file_).fileName();
-  setWindowTitle((title_.isEmpty() ? QString() : title_ + settings + "[*] \u2013 ") + "Zarvo Desk");
+  setWindowTitle((title_.isEmpty() ? QString() : title_ + settings + " \u2013 ") + "Zarvo Desk[*]");
   setWindowModified(document_.IsChanged());
   RenderSettings render;
   const Failure failure = MakeRenderSettings(document_.ticket(), renderer_option_, &render);
   if (!failure.empty()) return Tell(QString::fromStdString(failure));
   renderer_->SetSettings(render, ppd_);
+}
+
+/// What is wrong with the settings as they are.
+void MainWindow::ShowFindings() {
+  constexpr int kMost = 3;
+  QStringList lines;
+  for (const TicketFinding& finding : tool::CheckTicket(document_.ticket()))
+    if (lines.size() < kMost) lines << QStringLiteral("\u26A0 ") + Localized(finding.text);
+  lines.removeDuplicates();
+  findings_->setText(lines.join('\n'));
+  findings_->setVisible(!lines.isEmpty());
 }
 
 void MainWindow::PlanChanged() {

@@ -57,6 +57,9 @@ class MainWindow : public QMainWindow {
   QWidget* MakeSettings();
   QWidget* MakeSheets();
   int WidestTitle() const;
+  static QString MenuLetters();
+  void NextArea();
+  void ShowFindings();
   void Changed();
   void PlanChanged();
   void AskQueues();
@@ -83,6 +86,7 @@ class MainWindow : public QMainWindow {
   QSlider* zoom_;
   QProgressBar* progress_;
   QLabel* summary_;
+  QLabel* findings_;
   QWidget* message_;
   QLabel* message_text_;
   QMenu* recent_;

@@ -48,7 +48,7 @@ class PagesPanel : public Panel {
     Row(list_);
     remove_ = Button("remove-special", tr("Remove it"), [this] { Remove(); });
     connect(list_, &QListWidget::currentRowChanged, this,
-            [this](int row) { remove_->setEnabled(row >= 0); });
+            [this](int row) { Allow(remove_, row >= 0, tr("Choose one in the list first.")); });
     OnRefresh([this] { FillList(); });
     Judge();
   }
@@ -95,8 +95,7 @@ class PagesPanel : public Panel {
   QComboBox* Box(const char* name, const QString& label, const TicketKey* key) {
     auto* const box = new QComboBox(this);
     box->setObjectName(name);
-    box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    box->setMinimumContentsLength(12);
+    box->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     box->addItem(tr("As the job"), 0);
     for (const CodeWord& word : key->words)
       box->addItem(WordFor(word.word, key->name), static_cast<int>(word.code));
@@ -104,21 +103,12 @@ class PagesPanel : public Panel {
     return box;
   }
 
-  QPushButton* Button(const char* name, const QString& text, const std::function<void()>& press) {
-    auto* const button = new QPushButton(text, this);
-    button->setObjectName(name);
-    connect(button, &QPushButton::clicked, this, press);
-    Row(button);
-    return button;
-  }
-
   void Judge() {
     const bool fine = ReadPageRanges(pages_->text().toStdString()).has_value();
     const QString why = fine ? QString() : tr("Select pages, or type some such as 5-8, 12.");
     for (QPushButton* button : {exception_, insert_}) {
       if (button == nullptr) continue;
-      button->setEnabled(fine);
-      button->setToolTip(why);
+      Allow(button, fine, why);
     }
   }
 
@@ -195,7 +185,7 @@ class PagesPanel : public Panel {
         item->setData(Qt::UserRole, QString("%1/%2").arg(name).arg(i));
       }
     }
-    remove_->setEnabled(false);
+    Allow(remove_, false, tr("Choose one in the list first."));
   }
 
   static QString InWords(const Dictionary& entry, bool insert) {
@@ -233,7 +223,7 @@ class PagesPanel : public Panel {
   void Remove() {
     if (const QListWidgetItem* item = list_->currentItem())
       document_->Clear(item->data(Qt::UserRole).toString().toStdString(),
-                       remove_->text().toStdString());
+                       remove_->accessibleName().toStdString());
   }
 
   PanelContext context_;

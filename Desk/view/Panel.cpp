@@ -2,8 +2,9 @@
 #include "Desk/view/Panel.h"
 
 #include <QCoreApplication>
-#include <QSignalBlocker>
 #include <QStandardItemModel>
+#include <QStatusTipEvent>
+#include <algorithm>
 #include <iterator>
 
 #include "Desk/model/Words.h"
@@ -22,6 +23,47 @@ void Mark(QComboBox* box, int index, const QString& text, const QString& objecti
   item->setData(objection, Qt::AccessibleDescriptionRole);
 }
 
+/// Shows a line at the bottom of the window, and takes it away when it is empty.
+void TellBelow(QWidget* from, const QString& text) {
+  QStatusTipEvent tip(text);
+  QCoreApplication::sendEvent(from, &tip);
+}
+
+/// The text with a letter marked that is not taken, the first of a word where there is one. Scripts
+/// without such letters have one added, as is usual for them.
+QString WithMnemonic(const QString& text, QString* taken) {
+  const auto is_free = [&](QChar c) {
+    return c.isLetter() && c.unicode() < 0x80 && !taken->contains(c, Qt::CaseInsensitive);
+  };
+  QString plain = text;
+  plain.replace("&", "&&");
+  for (const bool first : {true, false}) {
+    for (qsizetype i = 0; i < plain.size(); ++i) {
+      if (!is_free(plain[i]) || (first && i > 0 && plain[i - 1].isLetter())) continue;
+      taken->append(plain[i]);
+      return plain.insert(i, '&');
+    }
+  }
+  if (std::any_of(plain.begin(), plain.end(), [](QChar c) { return c.unicode() > 0x2e80; })) {
+    for (char letter = 'A'; letter <= 'Z'; ++letter) {
+      if (!is_free(QChar(letter))) continue;
+      taken->append(letter);
+      return plain + QString("(&%1)").arg(letter);
+    }
+  }
+  return plain;
+}
+
+/// A label of one line, or of as many as it takes in the width that labels have.
+void FitLabel(QLabel* label, const QString& text) {
+  constexpr int kWidest = 150;
+  label->setWordWrap(false);
+  label->setText(text);
+  if (label->sizeHint().width() <= kWidest) return;
+  label->setWordWrap(true);
+  label->setMinimumSize(kWidest, label->heightForWidth(kWidest));
+}
+
 }  // namespace
 
 QString WordFor(const char* word, const char* key) { return Localized(DisplayWord(word, key)); }
@@ -38,6 +80,36 @@ void Panel::Refresh() {
   filling_ = false;
 }
 
+void Panel::GiveMnemonics(const QString& taken) {
+  QString letters = taken;
+  for (QWidget* child : findChildren<QWidget*>()) {
+    if (auto* const label = qobject_cast<QLabel*>(child); label && label->buddy() != nullptr)
+      FitLabel(label, WithMnemonic(label->text(), &letters));
+    auto* const button = qobject_cast<QAbstractButton*>(child);
+    // A field's own parts, and what a label leads to already.
+    if (button == nullptr || button->objectName().isEmpty() || button->text().isEmpty() ||
+        form_->labelForField(button) != nullptr)
+      continue;
+    button->setAccessibleName(button->text());
+    button->setText(WithMnemonic(button->text(), &letters));
+  }
+}
+
+QPushButton* Panel::Button(const char* name, const QString& text,
+                           const std::function<void()>& press) {
+  auto* const button = new QPushButton(text, this);
+  button->setObjectName(name);
+  connect(button, &QPushButton::clicked, this, press);
+  Row(button);
+  return button;
+}
+
+void Panel::Allow(QWidget* control, bool can, const QString& why) {
+  control->setEnabled(can);
+  control->setToolTip(can ? QString() : why);
+  control->setAccessibleDescription(can ? QString() : why);
+}
+
 void Panel::Group(const QString& title) {
   auto* const label = new QLabel("<b>" + title.toHtmlEscaped() + "</b>", this);
   label->setContentsMargins(0, form_->rowCount() == 0 ? 0 : 12, 0, 2);
@@ -49,7 +121,6 @@ void Panel::Row(QWidget* widget) { form_->addRow(widget); }
 void Panel::Row(const QString& label, QWidget* widget) {
   auto* const text = new QLabel(label, this);
   text->setBuddy(widget);
-  text->setWordWrap(true);
   widget->setAccessibleName(label);
   form_->addRow(text, widget);
 }
@@ -88,13 +159,16 @@ QComboBox* Panel::Choices(const char* name, const QString& label, std::vector<Ch
                           std::function<int(const Dictionary&)> current) {
   auto* const box = new QComboBox(this);
   box->setObjectName(name);
-  box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  box->setMinimumContentsLength(12);
+  box->setSizeAdjustPolicy(QComboBox::AdjustToContents);
   for (const Choice& choice : choices) box->addItem(choice.text);
   connect(box, &QComboBox::activated, this, [=, this](int index) {
     if (index >= 0 && !filling_)
       document_->Change(label.toStdString(), choices[static_cast<std::size_t>(index)].put);
   });
+  // Who goes through the choices by keys is told as well as who points at them.
+  connect(box, &QComboBox::highlighted, this,
+          [=](int index) { TellBelow(box, box->itemData(index, Qt::ToolTipRole).toString()); });
+  connect(box, &QComboBox::activated, this, [box] { TellBelow(box, {}); });
   OnRefresh([=, this] {
     for (std::size_t i = 0; i < choices.size(); ++i) {
       const std::string objection = Objection(document_->ticket(), choices[i].put);
@@ -110,15 +184,20 @@ QCheckBox* Panel::Switch(const char* path, const QString& label) {
   auto* const box = new QCheckBox(label, this);
   box->setObjectName(path);
   const bool number = KeyAt(path)->type == KeyType::kNumber;
+  const auto on_value = number ? Value(zarvo::Number(std::int32_t{1})) : Value::Boolean(true);
   connect(box, &QCheckBox::clicked, this, [=, this](bool on) {
     if (!on) {
       document_->Clear(path, label.toStdString());
     } else {
-      document_->Set(path, number ? Value(zarvo::Number(std::int32_t{1})) : Value::Boolean(true),
-                     label.toStdString());
+      document_->Set(path, on_value, label.toStdString());
     }
   });
   OnRefresh([=, this] {
+    const QString objection = Localized(
+        Objection(document_->ticket(), [&](Dictionary* ticket) { PutAt(ticket, path, on_value); }));
+    box->setToolTip(objection);
+    box->setStatusTip(objection);
+    box->setAccessibleDescription(objection);
     box->setChecked(number ? document_->NumberAt(path).value_or(0) == 1
                            : document_->BooleanAt(path));
   });

@@ -13,6 +13,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QSpinBox>
 #include <QWidget>
 #include <functional>
@@ -36,6 +37,13 @@ class Panel : public QWidget {
   /// Fills every field anew.
   virtual void Refresh();
 
+  /// Takes the keyboard to its first field.
+  void FocusFirst() { focusNextPrevChild(true); }
+
+  /// Gives every field and button a letter to be reached by with Alt, no two the same one. None is
+  /// of `taken`.
+  void GiveMnemonics(const QString& taken);
+
  protected:
   struct Choice {
     QString text;
@@ -58,6 +66,9 @@ class Panel : public QWidget {
   QDateTimeEdit* Date(const char* path, const QString& label);
   /// A line that says why something is as it is; hidden while the text is empty.
   QLabel* Hint(const char* name, std::function<QString(const Dictionary&)> text);
+  QPushButton* Button(const char* name, const QString& text, const std::function<void()>& press);
+  /// Enables it, or says why not to who points at it and who is read to.
+  static void Allow(QWidget* control, bool can, const QString& why);
   void Row(QWidget* widget);
   void Row(const QString& label, QWidget* widget);
   void OnRefresh(std::function<void()> refresh) { refresh_.push_back(std::move(refresh)); }

@@ -197,6 +197,18 @@ void SheetGrid::showEvent(QShowEvent* event) {
   AskForVisible();
 }
 
+void SheetGrid::paintEvent(QPaintEvent* event) {
+  QListView::paintEvent(event);
+  if (!model_->renderer()->file().isEmpty()) return;
+  QPainter painter(viewport());
+  painter.setPen(palette().color(QPalette::PlaceholderText));
+  QFont large = font();
+  large.setPointSizeF(large.pointSizeF() * 1.4);
+  painter.setFont(large);
+  painter.drawText(viewport()->rect().adjusted(40, 40, -40, -40),
+                   Qt::AlignCenter | Qt::TextWordWrap, tr("Drop a document here, or choose Open."));
+}
+
 void SheetGrid::wheelEvent(QWheelEvent* event) {
   if (event->modifiers().testFlag(Qt::ControlModifier)) {
     emit ZoomAsked(event->angleDelta().y() > 0 ? 1 : -1);
@@ -278,6 +290,9 @@ void BigView::LayOut() {
     bar->setPageStep(room);
     bar->setSingleStep(40);
   };
+  QStringList words;
+  for (const int row : Rows()) words << SideWords(model_->Side(row), model_->plan().two_sided);
+  setAccessibleDescription(words.join('\n'));
   fit(horizontalScrollBar(), width, viewport()->width());
   fit(verticalScrollBar(), height, viewport()->height());
   viewport()->update();

@@ -55,6 +55,7 @@ class SheetGrid : public QListView {
   void resizeEvent(QResizeEvent* event) override;
   void showEvent(QShowEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
 
  signals:
   void ZoomAsked(int steps);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// Watermarks: one of those that are stored, and making new ones.
+// Watermarks: one of those that are stored, changing it, and making new ones.
 #include <QColorDialog>
 #include <QFileDialog>
 #include <QProcess>
@@ -21,6 +21,7 @@ class WatermarkPanel : public Panel {
     Group(tr("Watermark"));
     marks_ = new QComboBox(this);
     marks_->setObjectName("Watermark");
+    marks_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     connect(marks_, &QComboBox::activated, this, [this](int index) {
       const QString name = marks_->itemData(index).toString();
       document_->Change(tr("Watermark").toStdString(), [&](Dictionary* ticket) {
@@ -40,34 +41,25 @@ class WatermarkPanel : public Panel {
     text_ = new QLineEdit(this);
     text_->setObjectName("new-mark");
     Row(tr("Text"), text_);
-    size_ = Spin("new-mark-size", tr("Size"), 6, 400, 120, tr(" points"));
-    angle_ = Spin("new-mark-angle", tr("Angle"), -180, 180, 45, "\u00B0");
-    color_ = new QPushButton("#c0c0c0", this);
+    size_ = Spin("new-mark-size", tr("Size"), 6, 2000, 120, tr(" points"));
+    angle_ = Spin("new-mark-angle", tr("Angle"), -360, 360, 45, "\u00B0");
+    color_ = new QPushButton(this);
     color_->setObjectName("new-mark-color");
     connect(color_, &QPushButton::clicked, this, [this] {
       const QColor color = QColorDialog::getColor(QColor(color_->text()), this);
-      if (color.isValid()) color_->setText(color.name());
+      if (color.isValid()) SetColor(color);
     });
     Row(tr("Colour"), color_);
-    add_ = new QPushButton(tr("Store this text"), this);
-    add_->setObjectName("store-mark");
-    add_->setEnabled(false);
-    connect(text_, &QLineEdit::textChanged, add_,
-            [this](const QString& text) { add_->setEnabled(!text.trimmed().isEmpty()); });
-    connect(add_, &QPushButton::clicked, this, [this] {
-      Run({"watermark", "add-text", "--size=" + QString::number(size_->value()),
-           "--angle=" + QString::number(angle_->value()), "--color=" + color_->text(), "--",
-           text_->text().trimmed()},
-          text_->text().trimmed());
-    });
-    Row(add_);
-    auto* const image = new QPushButton(tr("Store a picture\u2026"), this);
-    image->setObjectName("store-picture");
-    connect(image, &QPushButton::clicked, this, [this] {
+    SetColor(QColor(0xc0, 0xc0, 0xc0));
+    scale_ = Spin("mark-scale", tr("Size of the picture"), 1, 10000, 100, " %");
+    change_ = Button("change-mark", tr("Keep the changes of this watermark"), [this] { Change(); });
+    add_ = Button("store-mark", tr("Store this text as a new one"), [this] { StoreText(""); });
+    connect(text_, &QLineEdit::textChanged, this, [this] { Judge(); });
+    Button("store-picture", tr("Store a picture\u2026"), [this] {
       const QString file = QFileDialog::getOpenFileName(this, tr("Picture for a watermark"));
       if (!file.isEmpty()) Run({"watermark", "add-image", "--", file}, QFileInfo(file).fileName());
     });
-    Row(image);
+    FillMaking({}, true);
     OnRefresh([this] { FillMarks(); });
   }
 
@@ -81,6 +73,64 @@ class WatermarkPanel : public Panel {
     box->setSuffix(suffix);
     Row(label, box);
     return box;
+  }
+
+  void SetColor(const QColor& color) {
+    color_->setText(color.name());
+    QPixmap sample(16, 16);
+    sample.fill(color);
+    color_->setIcon(sample);
+  }
+
+  void Judge() {
+    const bool any = !text_->text().trimmed().isEmpty();
+    Allow(add_, any, tr("Type the text first."));
+    Allow(change_, !chosen_.isEmpty() && (is_image_ || any),
+          chosen_.isEmpty() ? tr("Choose a watermark first.") : tr("Type the text first."));
+  }
+
+  /// Shows how the chosen watermark is made. What is half changed stays while it is the same one.
+  void FillMaking(const QString& name, bool anew) {
+    if (name == chosen_ && !anew) return;
+    const std::string stored = name.toStdString();
+    WatermarkData mark{};
+    const bool known =
+        !name.isEmpty() && loadWatermarkData(kWatermarkCollection, &stored, &mark) == 1;
+    chosen_ = known ? name : QString();
+    is_image_ = known && mark.textString[0] == '\0';
+    file_ = QString::fromUtf8(mark.filePath);
+    font_ = QString::fromUtf8(mark.fontName);
+    // A text that has a name of its own keeps it.
+    label_ = QString::fromUtf8(mark.filename);
+    if (known && is_image_) scale_->setValue(mark.scale);
+    if (known && !is_image_) {
+      text_->setText(QString::fromUtf8(mark.textString));
+      size_->setValue(mark.fontSize);
+      angle_->setValue(mark.angle);
+      SetColor(QColor::fromRgbF(mark.fontColorRed, mark.fontColorGreen, mark.fontColorBlue));
+    }
+    for (QWidget* field : std::initializer_list<QWidget*>{text_, size_, angle_, color_})
+      ShowOnly(field, !is_image_);
+    add_->setVisible(!is_image_);
+    ShowOnly(scale_, is_image_);
+    Judge();
+  }
+
+  void StoreText(const QString& name) {
+    const QString text = text_->text().trimmed();
+    QStringList arguments = {"watermark", "add-text", "--size=" + QString::number(size_->value()),
+                             "--angle=" + QString::number(angle_->value()),
+                             "--color=" + color_->text()};
+    if (!name.isEmpty() && !font_.isEmpty()) arguments << "--font=" + font_;
+    if (!name.isEmpty() && (name != text || !label_.isEmpty())) arguments << "--name=" + name;
+    Run(arguments << "--" << text, name.isEmpty() ? text : name);
+  }
+
+  void Change() {
+    if (!is_image_) return StoreText(chosen_);
+    Run({"watermark", "add-image", "--scale=" + QString::number(scale_->value()),
+         "--name=" + chosen_, "--", file_},
+        chosen_);
   }
 
   void FillMarks() {
@@ -103,11 +153,9 @@ class WatermarkPanel : public Panel {
     }
     marks_->setCurrentIndex(index);
     const bool any = !now.isEmpty();
-    place_->setEnabled(any);
-    first_->setEnabled(any);
-    const QString why = any ? QString() : tr("Choose a watermark first.");
-    place_->setToolTip(why);
-    first_->setToolTip(why);
+    for (QWidget* each : {static_cast<QWidget*>(place_), static_cast<QWidget*>(first_)})
+      Allow(each, any, tr("Choose a watermark first."));
+    FillMaking(now, false);
   }
 
   /// The tool itself stores it, so that it is checked and kept as everywhere.
@@ -123,7 +171,9 @@ class WatermarkPanel : public Panel {
       tool->deleteLater();
       if (status != 0) return context_.tell(said);
       document_->Set(key::kWatermark, Value(name.toStdString()), tr("Watermark").toStdString());
+      FillMaking(name, true);
       Refresh();
+      context_.redraw();
     });
     tool->start(ProgramPath("zarvo"), arguments);
     tool->closeWriteChannel();
@@ -137,7 +187,14 @@ class WatermarkPanel : public Panel {
   QSpinBox* size_;
   QSpinBox* angle_;
   QPushButton* color_;
+  QSpinBox* scale_;
+  QPushButton* change_;
   QPushButton* add_;
+  QString chosen_;  ///< the watermark that the fields show, if it is stored
+  QString label_;
+  QString font_;
+  QString file_;
+  bool is_image_ = false;
 };
 
 }  // namespace

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 // Drives the window as a person does, without a screen.
+#include <QAccessible>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenuBar>
 #include <QProcess>
 #include <QPushButton>
 #include <QSettings>
@@ -20,6 +22,7 @@
 #include "Desk/model/GtkSettings.h"
 #include "Desk/model/PageRanges.h"
 #include "Desk/view/MainWindow.h"
+#include "Desk/view/Translations.h"
 #include "HouseTicket/HouseTicketStore.h"
 #include "Source/CFAdditions.h"
 #include "Tools/zarvo/ticket/HouseText.h"
@@ -111,6 +114,8 @@ class DeskTest : public QObject {
   void print_dialog_of_others();
   void every_key_can_be_reached();
   void what_excludes_what_is_shown();
+  void everybody_data();
+  void everybody();
   void secrets_stay_inside();
   void tasks_data();
   void tasks();
@@ -307,6 +312,73 @@ void DeskTest::what_excludes_what_is_shown() {
   const int later = job->findText("Print it later", Qt::MatchStartsWith);
   QCOMPARE(job->itemData(later, Qt::ToolTipRole).toString(),
            "a delayed job needs a DelayedPrintTime");
+}
+
+void DeskTest::everybody_data() {
+  QTest::addColumn<QString>("panel");
+  for (const char* language : {"en", "de", "fr", "ja"})
+    for (const char* panel : {"house", "paper", "sides", "finishing", "booklet", "pages",
+                              "watermark", "quality", "job", "fax", "changes", "all"})
+      QTest::addRow("%s %s", language, panel) << panel;
+}
+
+/// Every panel in every language, on the smallest screen: what is read to people has a name, what
+/// is off says why, each letter leads to one field, keys go where the eye goes, nothing is cut off.
+void DeskTest::everybody() {
+  QFETCH(QString, panel);
+  const Translations translations(QLocale(QString(QTest::currentDataTag()).section(' ', 0, 0)),
+                                  qApp);
+  MainWindow window(*scratch);
+  window.resize(1366, 768);
+  window.ShowPanel(panel);
+  window.show();
+  window.document().Replace(Read(R"({"JobType": {"JobType": "delayed"}})"), "later");
+  QTest::qWait(0);
+  auto* const page = window.findChild<Panel*>("panel-" + panel);
+  QSet<QString> letters;
+  const auto letter = [&](const QString& text) {
+    const QString mark = QKeySequence::mnemonic(text).toString();
+    QVERIFY2(mark.isEmpty() || !letters.contains(mark), qPrintable(mark + " again: " + text));
+    letters.insert(mark);
+  };
+  for (const QAction* action : window.menuBar()->actions()) letter(action->text());
+  for (const QLabel* label : page->findChildren<QLabel*>()) {
+    if (label->buddy() != nullptr) letter(label->text());
+    const int needed =
+        label->wordWrap() ? label->heightForWidth(label->width()) : label->sizeHint().height();
+    QVERIFY2(
+        !label->isVisible() || (label->height() >= needed &&
+                                (label->wordWrap() || label->width() >= label->sizeHint().width())),
+        qPrintable("cut off: " + label->text()));
+  }
+  QPoint last(-1, -1);
+  for (QWidget* at = page->nextInFocusChain(); at != page; at = at->nextInFocusChain()) {
+    if (!page->isAncestorOf(at) || !at->isVisible() || at->focusPolicy() == Qt::NoFocus ||
+        at->focusProxy() != nullptr || at->objectName().startsWith("qt_"))
+      continue;
+    const QString who = at->objectName() + " " + at->metaObject()->className();
+    const QAccessibleInterface* const told = QAccessible::queryAccessibleInterface(at);
+    QVERIFY2(!told->text(QAccessible::Name).isEmpty(), qPrintable(who));
+    QVERIFY2(at->isEnabled() || !told->text(QAccessible::Description).isEmpty(), qPrintable(who));
+    if (const auto* box = qobject_cast<QComboBox*>(at))
+      QVERIFY2(box->width() >= box->sizeHint().width(), qPrintable("cut off: " + who));
+    if (const auto* button = qobject_cast<QAbstractButton*>(at)) {
+      letter(button->text());
+      QVERIFY2(at->width() >= at->minimumSizeHint().width(), qPrintable(who));
+    }
+    const QPoint place = at->mapTo(page, QPoint(0, 0));
+    QVERIFY2(place.y() > last.y() || (place.y() == last.y() && place.x() > last.x()),
+             qPrintable("out of order: " + who));
+    last = place;
+  }
+  const int room = page->parentWidget()->width();
+  QVERIFY2(room >= page->width(),
+           qPrintable(QString("room for %1, needs %2").arg(room).arg(page->width())));
+  // All the tools are there, and what is wrong is told in words of the language.
+  QVERIFY(!window.findChild<QToolButton*>("qt_toolbar_ext_button")->isVisible());
+  const QString found = window.findChild<QLabel*>("findings")->text();
+  QVERIFY2(found.contains("DelayedPrintTime"), qPrintable(found));
+  QCOMPARE(found.contains("a delayed job"), QTest::currentDataTag()[0] == 'e');
 }
 
 void DeskTest::secrets_stay_inside() {

@@ -50,7 +50,12 @@ class Desk(ZarvoTest):
 
     def test_desktop_data(self):
         """Every kind of document that the entry announces is one that the spooler's filters take."""
-        entry = (SOURCE / "Desk/data/zarvo-desk.desktop").read_text()
+        data = SOURCE / "Desk/data"
+        for command in (["appstreamcli", "validate", "--no-net", data / "zarvo-desk.metainfo.xml"],
+                        ["desktop-file-validate", data / "zarvo-desk.desktop"]):
+            done = subprocess.run(command, capture_output=True, text=True)
+            self.assertEqual(done.returncode, 0, done.stdout + done.stderr)
+        entry = (data / "zarvo-desk.desktop").read_text()
         self.assertIn("Exec=zarvo-desk %f", entry)
         for kind in re.search("MimeType=(.*);", entry)[1].split(";"):
             self.assertRegex(kind, "^(application/(pdf|postscript)|image/|text/plain)")
