@@ -4,6 +4,10 @@
   <context>
     <name>desk</name>
     <message>
+      <source> (gone)</source>
+      <translation> (nicht mehr da)</translation>
+    </message>
+    <message>
       <source> (stopped)</source>
       <translation> (angehalten)</translation>
     </message>
@@ -34,6 +38,10 @@
     <message>
       <source>%1 and nothing else; choose another one</source>
       <translation>%1 und nichts sonst; wählen Sie eine andere</translation>
+    </message>
+    <message>
+      <source>%1 cannot be read, or is damaged. "zarvo doctor" tells more.</source>
+      <translation>%1 kann nicht gelesen werden oder ist beschädigt. Mehr sagt „zarvo doctor“.</translation>
     </message>
     <message>
       <source>%1 cannot be read.</source>
@@ -76,6 +84,13 @@
       <translation>%1: die Auftragsart ist keine Zahl; senden Sie sie als ..d_JobType..n=ZAHL</translation>
     </message>
     <message numerus="yes">
+      <source>%n card(s) of the address book cannot be read: %1</source>
+      <translation>
+        <numerusform>%n Karte des Adressbuchs kann nicht gelesen werden: %1</numerusform>
+        <numerusform>%n Karten des Adressbuchs können nicht gelesen werden: %1</numerusform>
+      </translation>
+    </message>
+    <message numerus="yes">
       <source>%n copies</source>
       <translation>
         <numerusform>%n Exemplar</numerusform>
@@ -87,6 +102,13 @@
       <translation>
         <numerusform>%n Seite</numerusform>
         <numerusform>%n Seiten</numerusform>
+      </translation>
+    </message>
+    <message numerus="yes">
+      <source>%n page(s) cannot be drawn; there may be no room left for temporary files.</source>
+      <translation>
+        <numerusform>%n Seite kann nicht gezeichnet werden; vielleicht ist kein Platz mehr für temporäre Dateien.</numerusform>
+        <numerusform>%n Seiten können nicht gezeichnet werden; vielleicht ist kein Platz mehr für temporäre Dateien.</numerusform>
       </translation>
     </message>
     <message numerus="yes">
@@ -2034,6 +2056,10 @@
       <translation>Oberfläche des Papiers</translation>
     </message>
     <message>
+      <source>Taking the job back…</source>
+      <translation>Der Auftrag wird zurückgenommen …</translation>
+    </message>
+    <message>
       <source>Template</source>
       <translation>Vorlage</translation>
     </message>
@@ -2126,8 +2152,8 @@
       <translation>Das Papier der Seiten</translation>
     </message>
     <message>
-      <source>The printer %1 is gone.</source>
-      <translation>Der Drucker %1 ist nicht mehr da.</translation>
+      <source>The printer %1 is gone. Choose another one.</source>
+      <translation>Der Drucker %1 ist nicht mehr da. Wählen Sie einen anderen.</translation>
     </message>
     <message>
       <source>The printer dials %1</source>

@@ -4,6 +4,13 @@
   <context>
     <name>desk</name>
     <message numerus="yes">
+      <source>%n card(s) of the address book cannot be read: %1</source>
+      <translation>
+        <numerusform>%n card of the address book cannot be read: %1</numerusform>
+        <numerusform>%n cards of the address book cannot be read: %1</numerusform>
+      </translation>
+    </message>
+    <message numerus="yes">
       <source>%n copies</source>
       <translation>
         <numerusform>%n copy</numerusform>
@@ -15,6 +22,13 @@
       <translation>
         <numerusform>%n page</numerusform>
         <numerusform>%n pages</numerusform>
+      </translation>
+    </message>
+    <message numerus="yes">
+      <source>%n page(s) cannot be drawn; there may be no room left for temporary files.</source>
+      <translation>
+        <numerusform>%n page cannot be drawn; there may be no room left for temporary files.</numerusform>
+        <numerusform>%n pages cannot be drawn; there may be no room left for temporary files.</numerusform>
       </translation>
     </message>
     <message numerus="yes">

@@ -4,6 +4,10 @@
   <context>
     <name>desk</name>
     <message>
+      <source> (gone)</source>
+      <translation> (disparue)</translation>
+    </message>
+    <message>
       <source> (stopped)</source>
       <translation> (arrêtée)</translation>
     </message>
@@ -34,6 +38,10 @@
     <message>
       <source>%1 and nothing else; choose another one</source>
       <translation>%1 et rien d’autre ; choisissez-en un autre</translation>
+    </message>
+    <message>
+      <source>%1 cannot be read, or is damaged. "zarvo doctor" tells more.</source>
+      <translation>%1 ne peut pas être lu ou est endommagé. « zarvo doctor » en dit plus.</translation>
     </message>
     <message>
       <source>%1 cannot be read.</source>
@@ -76,6 +84,13 @@
       <translation>%1 : le type de tâche n’est pas un nombre ; envoyez-le par ..d_JobType..n=NOMBRE</translation>
     </message>
     <message numerus="yes">
+      <source>%n card(s) of the address book cannot be read: %1</source>
+      <translation>
+        <numerusform>%n fiche du carnet d’adresses ne peut pas être lue : %1</numerusform>
+        <numerusform>%n fiches du carnet d’adresses ne peuvent pas être lues : %1</numerusform>
+      </translation>
+    </message>
+    <message numerus="yes">
       <source>%n copies</source>
       <translation>
         <numerusform>%n exemplaire</numerusform>
@@ -87,6 +102,13 @@
       <translation>
         <numerusform>%n page</numerusform>
         <numerusform>%n pages</numerusform>
+      </translation>
+    </message>
+    <message numerus="yes">
+      <source>%n page(s) cannot be drawn; there may be no room left for temporary files.</source>
+      <translation>
+        <numerusform>%n page ne peut pas être dessinée ; il n’y a peut-être plus de place pour les fichiers temporaires.</numerusform>
+        <numerusform>%n pages ne peuvent pas être dessinées ; il n’y a peut-être plus de place pour les fichiers temporaires.</numerusform>
       </translation>
     </message>
     <message numerus="yes">
@@ -2034,6 +2056,10 @@
       <translation>État de surface</translation>
     </message>
     <message>
+      <source>Taking the job back…</source>
+      <translation>Le travail est retiré…</translation>
+    </message>
+    <message>
       <source>Template</source>
       <translation>Modèle</translation>
     </message>
@@ -2126,8 +2152,8 @@
       <translation>Le papier des pages</translation>
     </message>
     <message>
-      <source>The printer %1 is gone.</source>
-      <translation>L’imprimante %1 n’est plus là.</translation>
+      <source>The printer %1 is gone. Choose another one.</source>
+      <translation>L’imprimante %1 a disparu. Choisissez-en une autre.</translation>
     </message>
     <message>
       <source>The printer dials %1</source>

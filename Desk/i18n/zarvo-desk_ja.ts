@@ -4,6 +4,10 @@
   <context>
     <name>desk</name>
     <message>
+      <source> (gone)</source>
+      <translation>（なくなりました）</translation>
+    </message>
+    <message>
       <source> (stopped)</source>
       <translation>（停止中）</translation>
     </message>
@@ -34,6 +38,10 @@
     <message>
       <source>%1 and nothing else; choose another one</source>
       <translation>%1（それ以外は使えません）。別のものにしてください</translation>
+    </message>
+    <message>
+      <source>%1 cannot be read, or is damaged. "zarvo doctor" tells more.</source>
+      <translation>%1 を読み取れないか、壊れています。詳しくは「zarvo doctor」で確認できます。</translation>
     </message>
     <message>
       <source>%1 cannot be read.</source>
@@ -76,6 +84,12 @@
       <translation>%1: ジョブの種類が数値ではありません。..d_JobType..n=番号 で送ってください</translation>
     </message>
     <message numerus="yes">
+      <source>%n card(s) of the address book cannot be read: %1</source>
+      <translation>
+        <numerusform>アドレス帳のカード %n 件を読み取れません: %1</numerusform>
+      </translation>
+    </message>
+    <message numerus="yes">
       <source>%n copies</source>
       <translation>
         <numerusform>%n 部</numerusform>
@@ -85,6 +99,12 @@
       <source>%n page(s)</source>
       <translation>
         <numerusform>%n ページ</numerusform>
+      </translation>
+    </message>
+    <message numerus="yes">
+      <source>%n page(s) cannot be drawn; there may be no room left for temporary files.</source>
+      <translation>
+        <numerusform>%n ページを描画できません。一時ファイルの空き容量が足りない可能性があります。</numerusform>
       </translation>
     </message>
     <message numerus="yes">
@@ -2036,6 +2056,10 @@
       <translation>表面の仕上げ</translation>
     </message>
     <message>
+      <source>Taking the job back…</source>
+      <translation>ジョブを取り消しています…</translation>
+    </message>
+    <message>
       <source>Template</source>
       <translation>テンプレート</translation>
     </message>
@@ -2132,8 +2156,8 @@
       <translation>これらのページの用紙</translation>
     </message>
     <message>
-      <source>The printer %1 is gone.</source>
-      <translation>プリンター %1 がなくなりました。</translation>
+      <source>The printer %1 is gone. Choose another one.</source>
+      <translation>プリンター %1 がなくなりました。別のプリンターを選んでください。</translation>
     </message>
     <message>
       <source>The printer dials %1</source>

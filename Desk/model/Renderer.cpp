@@ -84,6 +84,8 @@ class Renderer::Work {
   }
 
   const bool is_ahead;
+  std::vector<std::uint64_t> asked;  ///< pages of the latest request
+  int asked_dots = 0;
   bool waits = false;     ///< for an answer
   bool answered = false;  ///< has given a plan
   bool told = false;      ///< why it failed
@@ -107,6 +109,7 @@ Renderer::~Renderer() = default;
 void Renderer::SetFile(const QString& file) {
   file_ = file;
   pictures_.clear();
+  undrawn_.clear();
   plan_ = {};
   whole_content_.clear();
   ahead_.reset();
@@ -122,6 +125,7 @@ void Renderer::SetSettings(const RenderSettings& settings, const QString& ppd) {
   settings_ = settings;
   ppd_ = ppd;
   ++round_;
+  undrawn_.clear();
   ahead_.reset();
   whole_.reset();
   start_.start(kSettleMilliseconds);
@@ -136,6 +140,7 @@ void Renderer::Redraw() {
 
 void Renderer::SetWanted(const std::vector<std::uint64_t>& pages, int dots) {
   if (pages == wanted_ && dots == dots_) return;
+  if (dots != dots_) undrawn_.clear();
   wanted_ = pages;
   dots_ = dots;
   if (start_.isActive() || failed_) return;
@@ -184,6 +189,8 @@ std::unique_ptr<Renderer::Work> Renderer::Begin(bool ahead,
   request.pages = pages;
   request.ahead = ahead;
   auto work = std::make_unique<Work>(this, ahead);
+  work->asked = pages;
+  work->asked_dots = dots_;
   work->Start(request);
   return work;
 }
@@ -214,6 +221,7 @@ void Renderer::Hear(Work* work, const json& line) {
     } else if (line.contains("drawn")) {
       work->waits = false;
       work->serves = !work->is_ahead;
+      NoteUndrawn(*work);
       AskForMore();
     } else if (line.contains("failure")) {
       work->told = true;
@@ -249,6 +257,18 @@ void Renderer::TakePicture(const json& line) {
   pictures_[page] = {std::move(image), line.at("dots"), round_};
   DropFarPictures();
   emit PictureChanged(page);
+}
+
+void Renderer::NoteUndrawn(const Work& work) {
+  // The whole document does better than some pages, and another size is asked for anew.
+  if (work.is_ahead || work.asked_dots != dots_) return;
+  const std::size_t before = undrawn_.size();
+  for (const std::uint64_t page : work.asked) {
+    if (page <= plan_.plan.pages && !IsFresh(page)) undrawn_.insert(page);
+  }
+  if (undrawn_.size() == before) return;
+  emit Failed(tr("%n page(s) cannot be drawn; there may be no room left for temporary files.",
+                 nullptr, static_cast<int>(undrawn_.size())));
 }
 
 void Renderer::DropFarPictures() {
@@ -288,7 +308,8 @@ std::vector<std::uint64_t> Renderer::Missing(std::size_t most) const {
   std::vector<std::uint64_t> missing;
   for (const std::uint64_t page : wanted_) {
     if (missing.size() == most) break;
-    if (page != 0 && !IsFresh(page) && (plan_.plan.pages == 0 || page <= plan_.plan.pages))
+    if (page != 0 && !IsFresh(page) && !undrawn_.contains(page) &&
+        (plan_.plan.pages == 0 || page <= plan_.plan.pages))
       missing.push_back(page);
   }
   return missing;
@@ -302,6 +323,8 @@ void Renderer::AskForMore() {
       return;
     }
     heard_.start();
+    whole_->asked = pages;
+    whole_->asked_dots = dots_;
     whole_->Write({{"pages", pages}, {"dots", dots_}});
   } else if (whole_ && !ahead_ && settings_.page_by_page && plan_.ahead == false &&
              !whole_content_.empty() && IsPdf(file_)) {

@@ -17,6 +17,7 @@
 #include <QTimer>
 #include <map>
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -97,6 +98,7 @@ class Renderer : public QObject {
   void AskForMore();
   std::vector<std::uint64_t> Missing(std::size_t most) const;
   void GiveUp();
+  void NoteUndrawn(const Work& work);
   void DropFarPictures();
 
   const ScratchFolder& cache_;
@@ -109,6 +111,7 @@ class Renderer : public QObject {
   PlanReport plan_;
   std::string whole_content_;
   std::map<std::uint64_t, Picture_> pictures_;
+  std::set<std::uint64_t> undrawn_;  ///< asked for in vain; they are not asked for again
   std::unique_ptr<Work> ahead_;
   std::unique_ptr<Work> whole_;
   bool failed_ = false;

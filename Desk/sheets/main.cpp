@@ -331,7 +331,8 @@ int Main() {
   // Whoever asked is gone: so is this, and with it what it has started.
   prctl(PR_SET_PDEATHSIG, SIGKILL);
   for (const auto& [resource, most] :
-       {std::pair(RLIMIT_CPU, kProcessorSeconds), std::pair(RLIMIT_AS, kAddressSpace)}) {
+       {std::pair(RLIMIT_CPU, kProcessorSeconds), std::pair(RLIMIT_AS, kAddressSpace),
+        std::pair(RLIMIT_CORE, rlim_t{0})}) {
 #ifdef __SANITIZE_ADDRESS__
     if (resource == RLIMIT_AS) continue;  // the sanitizer reserves terabytes
 #endif

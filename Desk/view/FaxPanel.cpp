@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // Fax: who gets it, and the cover sheet. The cover itself is the first of the sheets.
+#include <QDir>
 #include <QListWidget>
 #include <QPushButton>
 #include <algorithm>
@@ -113,6 +114,14 @@ class FaxPanel : public Panel {
   void FillBook() {
     book_->clear();
     records_ = AddressBookRecords();
+    const auto own = std::count_if(records_.begin(), records_.end(),
+                                   [](const auto& record) { return record.shared_book.empty(); });
+    const auto cards =
+        QDir(QString::fromStdString(AddressBookFolder())).entryList({"*.vcf"}, QDir::Files).size();
+    if (cards > own)
+      context_.tell(tr("%n card(s) of the address book cannot be read: %1", nullptr,
+                       static_cast<int>(cards - own))
+                        .arg(QString::fromStdString(AddressBookFolder())));
     for (const AddressBookRecord& record : records_)
       book_->addItem(IsGroupCard(record.card) ? tr("%1 (group)").arg(NameOf(record))
                                               : NameOf(record));

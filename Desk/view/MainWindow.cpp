@@ -13,7 +13,6 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
-#include <QProcess>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QSettings>
@@ -31,14 +30,11 @@
 
 namespace zarvo::desk {
 
-using nlohmann::json;
-
 namespace {
 
 constexpr int kMostRecent = 10;
 constexpr int kWidths[] = {60, 80, 110, 140, 170, 210, 260, 320, 400, 520, 680};
-constexpr int kUsualWidth = 4;       // of them
-constexpr int kQueuesEvery = 15000;  // milliseconds
+constexpr int kUsualWidth = 4;  // of them
 
 }  // namespace
 
@@ -88,6 +84,7 @@ MainWindow::MainWindow(const ScratchFolder& scratch, QWidget* parent)
   connect(renderer_, &Renderer::Failed, this, [this](const QString& text) {
     progress_->hide();
     Tell(QFileInfo(renderer_->file()).fileName() + ": " + text);
+    of_plan_ = true;
   });
   document_.Listen([this] { Changed(); });
   connect(grid_->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
@@ -105,13 +102,9 @@ MainWindow::MainWindow(const ScratchFolder& scratch, QWidget* parent)
   splitter->restoreState(settings.value("window/splitter").toByteArray());
   zoom_->setValue(settings.value("window/zoom", kUsualWidth).toInt());
   if (!settings.contains("window/geometry")) resize(1280, 720);
-  wanted_queue_ = settings.value("queue").toString();
   FillRecent();
   Changed();
-  AskQueues();
-  auto* const poll = new QTimer(this);
-  connect(poll, &QTimer::timeout, this, &MainWindow::AskQueues);
-  poll->start(kQueuesEvery);
+  queues_->AskQueues();
 }
 
 QWidget* MainWindow::MakeSheets() {
@@ -289,15 +282,14 @@ void MainWindow::MakeActions() {
   auto* const space = new QWidget(bar);
   space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
   bar->addWidget(space);
-  queues_ = new QComboBox(bar);
-  queues_->setObjectName("queues");
-  queues_->setAccessibleName(tr("Printer"));
-  queues_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-  connect(queues_, &QComboBox::activated, this, [this] {
-    wanted_queue_ = queues_->currentData().toString();
-    QSettings().setValue("queue", wanted_queue_);
-    FetchPpd();
-  });
+  queues_ = new QueueBox(scratch_, bar);
+  connect(queues_, &QueueBox::QueueChanged, this, [this] { print_->setEnabled(CanPrint()); });
+  connect(queues_, &QueueBox::Told, this, &MainWindow::Tell);
+  connect(queues_, &QueueBox::PpdFetched, this,
+          [this](const QString& ppd, const QString& renderer) {
+            renderer_option_ = renderer.toStdString();
+            SetPpd(ppd);
+          });
   bar->addWidget(queues_);
   bar->addAction(print_);
   const auto key = [this](const QKeySequence& keys, QWidget* where, auto act) {
@@ -347,6 +339,7 @@ void MainWindow::Tell(const QString& text) {
   message_->show();
   QAccessibleEvent alert(message_text_, QAccessible::Alert);
   QAccessible::updateAccessibility(&alert);
+  of_plan_ = false;
 }
 
 void MainWindow::OpenDocument(const QString& file) {
@@ -398,14 +391,14 @@ void MainWindow::OpenTicket(const QString& file) {
 
 void MainWindow::OpenGtkSettings(const QString& file, bool remove) {
   QFile settings(file);
-  if (!settings.open(QIODevice::ReadOnly)) {
+  if (!QFileInfo(file).isFile() || !settings.open(QIODevice::ReadOnly)) {
     Tell(tr("%1 cannot be read.").arg(file));
     return;
   }
   constexpr qint64 kMost = 1 << 20;
   GtkSettings read = ReadGtkSettings(settings.read(kMost).toStdString());
   if (remove) settings.remove();
-  if (!read.queue.empty()) wanted_queue_ = QString::fromStdString(read.queue);
+  if (!read.queue.empty()) queues_->Want(QString::fromStdString(read.queue));
   document_.Reset(std::move(read.ticket));
 }
 
@@ -439,7 +432,7 @@ void MainWindow::Changed() {
   redo_->setEnabled(document_.CanRedo());
   undo_->setToolTip(tr("Undo: %1").arg(QString::fromStdString(document_.UndoName())));
   redo_->setToolTip(tr("Redo: %1").arg(QString::fromStdString(document_.RedoName())));
-  print_->setEnabled(!renderer_->file().isEmpty() && !wanted_queue_.isEmpty());
+  print_->setEnabled(CanPrint());
   const QString settings =
       ticket_file_.isEmpty() ? QString() : " \u2013 " + QFileInfo(ticket_file_).fileName();
   setWindowTitle((title_.isEmpty() ? QString() : title_ + settings + " \u2013 ") + "Zarvo Desk[*]");
@@ -480,71 +473,10 @@ void MainWindow::PlanChanged() {
   for (const std::string& text : report.findings) faults << QString::fromStdString(text);
   if (!faults.isEmpty()) {
     Tell(faults.mid(0, 6).join('\n'));
-  } else if (!plan.sides.empty()) {
+    of_plan_ = true;
+  } else if (!plan.sides.empty() && of_plan_) {
     message_->hide();
   }
-}
-
-void MainWindow::Ask(const json& question, std::function<void(const json&)> hear) {
-  auto* const process = new ChildProgram(this);
-  process->setStandardErrorFile(QProcess::nullDevice());
-  connect(process, &QProcess::finished, this, [=] {
-    json answer = json::parse(process->readAllStandardOutput().toStdString(), nullptr, false);
-    process->deleteLater();
-    if (!answer.is_object())
-      answer = {{"failure", tr("The spooler cannot be asked.").toStdString()}};
-    hear(answer);
-  });
-  connect(process, &QProcess::errorOccurred, this, [=](QProcess::ProcessError error) {
-    if (error != QProcess::FailedToStart) return;
-    process->deleteLater();
-    hear({{"failure", tr("The program zarvosheets is missing.").toStdString()}});
-  });
-  process->start(ProgramPath("zarvosheets"), {});
-  process->write(QByteArray::fromStdString(question.dump() + "\n"));
-}
-
-void MainWindow::AskQueues() {
-  Ask({{"queues", true}}, [this](const json& answer) {
-    const QString before = queues_->currentData().toString();
-    queues_->clear();
-    if (answer.contains("failure")) {
-      queues_->addItem(tr("No printers"));
-      queues_->setToolTip(QString::fromStdString(answer.at("failure")));
-      queues_->setEnabled(false);
-      print_->setEnabled(false);
-      return;
-    }
-    queues_->setEnabled(true);
-    queues_->setToolTip({});
-    int chosen = -1;
-    int usual = 0;
-    for (const json& queue : answer.at("queues")) {
-      const QString name = QString::fromStdString(queue.at("name"));
-      QString text = name;
-      if (queue.at("state") == 5) text += tr(" (stopped)");
-      if (!queue.at("accepting").get<bool>()) text += tr(" (takes no jobs)");
-      queues_->addItem(text, name);
-      const int index = queues_->count() - 1;
-      queues_->setItemData(index, QString::fromStdString(queue.at("info")), Qt::ToolTipRole);
-      if (name == wanted_queue_) chosen = index;
-      if (queue.at("default").get<bool>()) usual = index;
-    }
-    if (queues_->count() == 0) {
-      queues_->addItem(tr("No printers"));
-      queues_->setEnabled(false);
-      wanted_queue_.clear();
-    } else if (chosen < 0 && !wanted_queue_.isEmpty() && before == wanted_queue_) {
-      Tell(tr("The printer %1 is gone.").arg(wanted_queue_));
-    }
-    queues_->setCurrentIndex(chosen < 0 ? usual : chosen);
-    const QString now = queues_->currentData().toString();
-    if (now != before || now != wanted_queue_) {
-      wanted_queue_ = now;
-      FetchPpd();
-    }
-    print_->setEnabled(!renderer_->file().isEmpty() && !wanted_queue_.isEmpty());
-  });
 }
 
 void MainWindow::SetPpd(const QString& ppd) {
@@ -552,27 +484,9 @@ void MainWindow::SetPpd(const QString& ppd) {
   Changed();
 }
 
-void MainWindow::FetchPpd() {
-  if (wanted_queue_.isEmpty()) return;
-  const std::string file = scratch_.File("queue-" + std::to_string(qHash(wanted_queue_)) + ".ppd");
-  Ask({{"queue", wanted_queue_.toStdString()}, {"ppd", file}}, [this](const json& answer) {
-    if (answer.contains("failure")) {
-      Tell(wanted_queue_ + ": " + QString::fromStdString(answer.at("failure")));
-      return;
-    }
-    if (!answer.at("ours").get<bool>())
-      Tell(tr("Jobs of %1 do not pass through the filter of these settings; most of them will have "
-              "no effect.")
-               .arg(wanted_queue_));
-    ppd_ = QString::fromStdString(answer.at("ppd"));
-    renderer_option_ = answer.at("renderer");
-    Changed();
-  });
-}
-
 void MainWindow::Print() {
-  if (wanted_queue_.isEmpty() || renderer_->file().isEmpty()) return;
-  auto* const dialog = new PrintDialog(document_, renderer_->file(), wanted_queue_, this);
+  if (!CanPrint()) return;
+  auto* const dialog = new PrintDialog(document_, renderer_->file(), queues_->queue(), this);
   dialog->setAttribute(Qt::WA_DeleteOnClose);
   connect(dialog, &PrintDialog::Finished, this, &MainWindow::PrintFinished);
   dialog->open();

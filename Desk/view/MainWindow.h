@@ -2,7 +2,6 @@
 // The window: the sheets beside the settings.
 #pragma once
 
-#include <QComboBox>
 #include <QLabel>
 #include <QListWidget>
 #include <QMainWindow>
@@ -13,6 +12,7 @@
 
 #include "Desk/model/TicketDocument.h"
 #include "Desk/view/Panels.h"
+#include "Desk/view/QueueBox.h"
 #include "Desk/view/SheetViews.h"
 
 namespace zarvo::desk {
@@ -31,10 +31,11 @@ class MainWindow : public QMainWindow {
   /// A title other than the file's name, and not in the list of recent files: for what another
   /// program has made only to be looked at.
   void SetPassing(const QString& title);
-  void SelectQueue(const QString& queue) { wanted_queue_ = queue; }
+  void SelectQueue(const QString& queue) { queues_->Want(queue); }
   /// A PPD file without a queue.
   void SetPpd(const QString& ppd);
   void Print();
+  QueueBox& queues() { return *queues_; }
 
   TicketDocument& document() { return document_; }
   Renderer& renderer() { return *renderer_; }
@@ -62,10 +63,7 @@ class MainWindow : public QMainWindow {
   void ShowFindings();
   void Changed();
   void PlanChanged();
-  void AskQueues();
-  void FetchPpd();
-  /// Asks the helper program; `hear` gets the answer, or an object with "failure".
-  void Ask(const nlohmann::json& question, std::function<void(const nlohmann::json&)> hear);
+  bool CanPrint() const { return !renderer_->file().isEmpty() && !queues_->queue().isEmpty(); }
   void FillRecent();
   void ShowView(int view);
   void Zoom(int steps);
@@ -82,7 +80,7 @@ class MainWindow : public QMainWindow {
   QListWidget* groups_;
   QStackedWidget* pages_;
   std::vector<PanelEntry> panels_;
-  QComboBox* queues_;
+  QueueBox* queues_;
   QSlider* zoom_;
   QProgressBar* progress_;
   QLabel* summary_;
@@ -96,8 +94,8 @@ class MainWindow : public QMainWindow {
   std::vector<QAction*> view_actions_;
   QString title_;
   bool passing_ = false;
+  bool of_plan_ = false;  ///< what is told; the next plan takes it away
   QString ticket_file_;
-  QString wanted_queue_;
   QString ppd_;
   std::string renderer_option_;
 };

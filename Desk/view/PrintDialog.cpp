@@ -15,7 +15,9 @@
 namespace zarvo::desk {
 namespace {
 
-constexpr int kAskEvery = 700;  // milliseconds
+constexpr int kAskEvery = 700;     // milliseconds
+constexpr int kStopWithin = 3000;  // milliseconds, for the command to take the job back
+constexpr int kMostMisses = 15;    // a spooler that begins anew is back before
 
 /// "zarvo why" tells a state in words; these are the same in the program's language.
 struct State {
@@ -73,9 +75,11 @@ PrintDialog::PrintDialog(const TicketDocument& document, const QString& file, co
   connect(&poll_, &QTimer::timeout, this, &PrintDialog::AskWhy);
 }
 
-/// Half a document must not be left at the spooler.
 void PrintDialog::reject() {
-  if (print_ == nullptr) QDialog::reject();
+  if (print_ == nullptr) return QDialog::reject();
+  Say(tr("Taking the job back\u2026"));
+  print_->terminate();
+  QTimer::singleShot(kStopWithin, print_, &QProcess::kill);
 }
 
 void PrintDialog::Say(const QString& state, const QString& details) {
@@ -92,7 +96,9 @@ void PrintDialog::Print(bool force) {
   QStringList arguments = {"print", "--queue=" + queue_, "--title=" + QFileInfo(file_).fileName()};
   if (force) arguments << "--force";
   arguments << "--" << file_ << "-";
-  connect(print_, &QProcess::finished, this, &PrintDialog::Sent);
+  connect(print_, &QProcess::finished, this, [this](int status, QProcess::ExitStatus how) {
+    Sent(how == QProcess::NormalExit ? status : -1);
+  });
   connect(print_, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
     if (error == QProcess::FailedToStart) Sent(-1);
   });
@@ -145,8 +151,13 @@ void PrintDialog::HeardWhy() {
   why_ = nullptr;
   if (told.is_discarded() || !told.contains("state")) {
     Say(tr("The spooler does not tell what becomes of the job."), errors);
-    return;  // it is asked again
+    if (++misses_ < kMostMisses) return;  // it is asked again
+    poll_.stop();
+    progress_->hide();
+    emit Finished(false);
+    return;
   }
+  misses_ = 0;
   QStringList details;
   for (const json& notice : told.at("notices"))
     details << QString::fromStdString(notice.get<std::string>());

@@ -30,6 +30,7 @@ class PrintDialog : public QDialog {
   /// The job's name at the spooler; empty until it has one.
   const QString& job() const { return job_; }
 
+  /// While the job is being sent, ends that: half a document must not be left at the spooler.
   void reject() override;
 
  signals:
@@ -54,6 +55,7 @@ class PrintDialog : public QDialog {
   QProcess* print_ = nullptr;
   QProcess* why_ = nullptr;
   QTimer poll_;
+  int misses_ = 0;  ///< answers in a row that told nothing
 };
 
 }  // namespace zarvo::desk

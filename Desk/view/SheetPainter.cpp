@@ -137,7 +137,8 @@ void PaintPicture(QPainter* painter, const QRectF& place, const QImage& picture)
 }  // namespace
 
 QSizeF UprightSize(const tool::PlannedSide& side) {
-  return side.turn == 0 ? QSizeF(side.width, side.height) : QSizeF(side.height, side.width);
+  const QSizeF size(std::max(side.width, 1), std::max(side.height, 1));
+  return side.turn == 0 ? size : size.transposed();
 }
 
 QString SideTitle(const tool::PlannedSide& side, bool two_sided) {

@@ -12,11 +12,12 @@ namespace zarvo::desk {
 
 constexpr int kMargin = 12;
 constexpr int kPointsPerInch = 72;
+constexpr int kMostDots = 5000;  // of a picture's side: below 128 MB, the toolkit's own limit
 
 namespace {
 
 int DotsFor(double pixels, double points) {
-  return std::clamp(static_cast<int>(pixels * kPointsPerInch / points), 10, 600);
+  return static_cast<int>(std::clamp(pixels * kPointsPerInch / points, 10.0, 600.0));
 }
 
 }  // namespace
@@ -263,18 +264,20 @@ std::vector<int> BigView::Rows() const {
 double BigView::Scale() const {
   const double ratio = devicePixelRatioF();
   double wanted = zoom_ * logicalDpiX();
+  double width = 0;
+  double height = 1;
+  for (const int row : Rows()) {
+    width += UprightSize(model_->Side(row)).width();
+    height = std::max(height, UprightSize(model_->Side(row)).height());
+  }
   if (zoom_ <= 0) {
-    double width = 0;
-    double height = 1;
-    for (const int row : Rows()) {
-      width += UprightSize(model_->Side(row)).width();
-      height = std::max(height, UprightSize(model_->Side(row)).height());
-    }
     const QSize room = viewport()->size() - QSize(2 * kMargin, 2 * kMargin);
     wanted = kPointsPerInch * std::min(room.width() / std::max(width, 1.0), room.height() / height);
   }
-  // Whole dots per inch, so that pictures are drawn dot for dot.
-  return DotsFor(wanted * ratio, kPointsPerInch) / ratio / kPointsPerInch;
+  // Whole dots per inch, so that pictures are drawn dot for dot; of a poster no more than fit.
+  return std::min(DotsFor(wanted * ratio, kPointsPerInch),
+                  DotsFor(kMostDots, std::max(width, height))) /
+         ratio / kPointsPerInch;
 }
 
 void BigView::LayOut() {

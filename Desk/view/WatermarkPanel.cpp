@@ -2,12 +2,14 @@
 // Watermarks: one of those that are stored, changing it, and making new ones.
 #include <QColorDialog>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QProcess>
 #include <QPushButton>
 
 #include "Desk/model/Renderer.h"
 #include "Desk/view/Panels.h"
 #include "Source/CFAdditions.h"
+#include "Source/Preferences.h"
 #include "Source/TicketNames.h"
 #include "Source/WatermarkSupport.h"
 
@@ -137,6 +139,7 @@ class WatermarkPanel : public Panel {
     const QString now = QString::fromStdString(document_->TextAt(key::kWatermark));
     Array names;
     loadWatermarkList(kWatermarkCollection, nullptr, &names);
+    TellDamage(names.empty());
     marks_->clear();
     marks_->addItem(tr("None"), QString());
     for (const Value& each : names) {
@@ -156,6 +159,16 @@ class WatermarkPanel : public Panel {
     for (QWidget* each : {static_cast<QWidget*>(place_), static_cast<QWidget*>(first_)})
       Allow(each, any, tr("Choose a watermark first."));
     FillMaking(now, false);
+  }
+
+  /// A store that is there and gives nothing is told of once.
+  void TellDamage(bool nothing) {
+    const std::string path = CopyPreferenceFileURL(kWatermarkCollection).value_or("");
+    const bool damaged = nothing && QFileInfo::exists(QString::fromStdString(path));
+    if (damaged && !damaged_)
+      context_.tell(tr("%1 cannot be read, or is damaged. \"zarvo doctor\" tells more.")
+                        .arg(QString::fromStdString(path)));
+    damaged_ = damaged;
   }
 
   /// The tool itself stores it, so that it is checked and kept as everywhere.
@@ -180,6 +193,7 @@ class WatermarkPanel : public Panel {
   }
 
   PanelContext context_;
+  bool damaged_ = false;  // the store
   QComboBox* marks_;
   QComboBox* place_;
   QCheckBox* first_;

@@ -14,6 +14,7 @@
 
 #include "CUPSFilter/Options/OptionList.h"
 #include "Platform/Log.h"
+#include "Platform/Process.h"
 #include "Platform/UniqueFd.h"
 #include "Tools/zarvo/Command.h"
 #include "Tools/zarvo/job/JobKind.h"
@@ -56,7 +57,7 @@ int SendFile(const PrintJob& job, int number, int file) {
   char block[1 << 16];
   ssize_t count = 0;
   int error = 0;
-  while (status == HTTP_STATUS_CONTINUE) {
+  while (status == HTTP_STATUS_CONTINUE && NotedTermination() == 0) {
     count = read(file, block, sizeof block);
     if (count < 0 && errno == EINTR) continue;
     if (count < 0) error = errno;
@@ -64,9 +65,13 @@ int SendFile(const PrintJob& job, int number, int file) {
     status = cupsWriteRequestData(CUPS_HTTP_DEFAULT, block, static_cast<std::size_t>(count));
   }
   const ipp_status_t finished = cupsFinishDocument(CUPS_HTTP_DEFAULT, job.queue.c_str());
-  if (error == 0 && status == HTTP_STATUS_CONTINUE && finished <= IPP_STATUS_OK_CONFLICTING)
+  const bool stopped = NotedTermination() != 0;
+  if (error == 0 && !stopped && status == HTTP_STATUS_CONTINUE &&
+      finished <= IPP_STATUS_OK_CONFLICTING)
     return kExitOk;
-  const int fault = error != 0 ? Fail(name, std::strerror(error)) : SpoolerFault(job.queue);
+  const int fault = stopped      ? kExitFailure
+                    : error != 0 ? Fail(name, std::strerror(error))
+                                 : SpoolerFault(job.queue);
   cupsCancelJob2(CUPS_HTTP_DEFAULT, job.queue.c_str(), number, 0);  // half a file must not print
   return fault;
 }
@@ -80,6 +85,7 @@ int Send(const PrintJob& job, const std::string& text) {
   OptionList list = OptionList::Parse(text.c_str());
   if (job.copies > 0) list.Add("copies", std::to_string(job.copies).c_str());
   AddDefaults(job.queue, &list);
+  NoteTermination();  // whoever stops the command wants no half a job either
   const std::string title = job.title.empty() ? BaseName(job.file) : job.title;
   const int number =
       cupsCreateJob(CUPS_HTTP_DEFAULT, job.queue.c_str(), title.c_str(), list.size(), list.data());
