@@ -1,5 +1,5 @@
 # The front door; everything else is CMake (see CMakePresets.json).
-.PHONY: corpus build setup demo test bench pictures screenshots install clean format check-format lint asan fuzz load fleet test-fleet deb test-packages test-debian
+.PHONY: corpus build setup demo test bench pictures screenshots install clean format check-format lint asan asan-build fuzz load fleet test-fleet deb test-packages test-debian
 JOBS ?= $(shell nproc)
 SOURCES = $(shell git ls-files '*.cpp' '*.h')
 
@@ -46,10 +46,12 @@ corpus: setup
 
 # The tests once more, every program with the address and undefined-behaviour sanitizers. Tests leave
 # out by themselves what the sanitizers do and the programs forbid: looking into their own process.
-asan:
+asan: asan-build
+	@ctest --preset asan -j $(JOBS)
+
+asan-build:
 	@cmake --preset asan >/dev/null
 	@cmake --build --preset asan -j $(JOBS)
-	@ctest --preset asan -j $(JOBS)
 
 # The pictures in docs/, drawn by what has been built.
 pictures: build
