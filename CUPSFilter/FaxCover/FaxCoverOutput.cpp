@@ -21,9 +21,7 @@ constexpr std::size_t kMaxPdfBytes = 256u << 20;
 constexpr int kLetterHeight = 792;
 constexpr int kHelperFailed = 1;  // and has logged why
 
-void LogLeftOut(const std::string& why) {
-  LogLine("ERROR: The fax cover sheet was left out: %s", why.c_str());
-}
+void LogLeftOut(const std::string& why) { LogLine("ERROR: %s%s", kCoverLeftOut, why.c_str()); }
 
 /// Copies what is left of `input`. False when it is longer than `max_bytes` or than there is room
 /// for, or when either side fails.

@@ -18,6 +18,9 @@
 
 namespace zarvo {
 
+/// The log line of a cover that is not drawn; the reason follows.
+inline constexpr char kCoverLeftOut[] = "The fax cover sheet was left out: ";
+
 /// A job's cover sheet once it is drawn. A job may have any number of document headers, and each
 /// gets the cover; drawing it takes two programs and a second.
 struct FaxCoverDocument {

@@ -43,6 +43,9 @@ void SetUpRecipient(CLI::App& app, Action* action);
 void SetUpFax(CLI::App& app, Action* action);
 void SetUpWhy(CLI::App& app, Action* action);
 void SetUpDoctor(CLI::App& app, Action* action);
+void SetUpMetrics(CLI::App& app, Action* action);
+void SetUpAccounting(CLI::App& app, Action* action);
+void SetUpStore(CLI::App& app, Action* action);
 void SetUpManual(CLI::App& app, Action* action);
 
 /// Tells on standard error what went wrong (where, why, what to do; the last may be empty) and

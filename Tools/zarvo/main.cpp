@@ -143,6 +143,15 @@ std::span<const Command> Commands() {
        "zarvo why\nzarvo why office-3\nzarvo why 3 --json", &SetUpWhy},
       {"doctor", "Check the installation and say what to do", "zarvo doctor\nzarvo doctor --json",
        &SetUpDoctor},
+      {"store", "Make a package of watermarks, fonts, house tickets and shared recipients",
+       "zarvo store pack --name house-store --version 7 --maintainer 'Ada <ada@example.org>'",
+       &SetUpStore},
+      {"metrics", "Write figures about jobs and queues for Prometheus",
+       "zarvo metrics --output zarvo.prom --state figures.json", &SetUpMetrics},
+      {"accounting", "Write a line for each job that has ended",
+       "zarvo accounting --log jobs.log --state jobs.json\n"
+       "jq -s 'map(.sheets) | add' jobs.log",
+       &SetUpAccounting},
       {"manual", "Write manual pages and shell completion",
        "zarvo manual --man man1\nzarvo manual --completion fish > zarvo.fish", &SetUpManual},
   };

@@ -76,6 +76,12 @@ put 5550199; sync sync; zarvo recipient list
 """
 
 
+# The alerts that come with it, tried by Prometheus' own tool.
+ALERTS = """apt-get install -y -qq --no-install-recommends prometheus >/dev/null
+sed s:ALERTS]:/root/fleet/figures/alerts.yml]: /root/alerts_test.yml >/root/alerts.yml
+promtool check rules /root/fleet/figures/alerts.yml; promtool test rules /root/alerts.yml"""
+
+
 def changes(text):
     """The numbers of changed and failed tasks of each run of the playbook."""
     return [(int(changed), int(failed)) for changed, failed in
@@ -110,6 +116,9 @@ def main():
         again = run(system, PLAY.format("servers", NO_QUEUES))
         told = run(system, USE.format(play=PLAY.format("servers", "")), own_network=True)
         contacts = run(system, CONTACTS, own_network=True)
+        shutil.copy(SOURCE / "tests/data/alerts_test.yml", system.root / "root")
+        run(system, f"set -e\n{ALERTS}")
+    print("the alerts fire as they should")
     made, unchanged, (queues, unchanged_queues) = changes(first), changes(again), changes(told)
     print(f"bare system: {made[0][0]} changes, again {unchanged[0][0]}; queues: {queues[0]}, again "
           f"{unchanged_queues[0]}")

@@ -66,6 +66,21 @@ Dictionary TicketOfJob(const OptionList& options, const std::string& ppd_file,
   return ApplyHouseTicket(house, std::move(says), kept);
 }
 
+OptionList OptionsOfJob(ipp_t* attributes, std::string* queue) {
+  OptionList options;
+  for (ipp_attribute_t* known = ippFirstAttribute(attributes); known != nullptr;
+       known = ippNextAttribute(attributes)) {
+    const char* name = ippGetName(known);
+    if (name == nullptr || ippGetGroupTag(known) != IPP_TAG_JOB) continue;
+    std::string value(ippAttributeString(known, nullptr, 0), '\0');
+    ippAttributeString(known, value.data(), value.size() + 1);
+    if (std::string_view(name) == "job-printer-uri") *queue = value.substr(value.rfind('/') + 1);
+    const bool setting = !std::string_view(name).starts_with("job-") || IsStandardAttribute(name);
+    if (setting && !IsOfJobAlone(name)) options.Add(name, value.c_str());
+  }
+  return options;
+}
+
 std::string OptionsOfSpoolerJob(int number, OptionList* options, std::string* queue) {
   ipp_t* request = ippNewRequest(IPP_OP_GET_JOB_ATTRIBUTES);
   ippSetVersion(request, 2, 0);  // answers of older versions leave collections out
@@ -77,16 +92,7 @@ std::string OptionsOfSpoolerJob(int number, OptionList* options, std::string* qu
   const IppMessage answer(cupsDoRequest(CUPS_HTTP_DEFAULT, request, "/"));
   if (!answer || ippGetStatusCode(answer.get()) > IPP_STATUS_OK_CONFLICTING)
     return cupsLastErrorString();
-  for (ipp_attribute_t* known = ippFirstAttribute(answer.get()); known != nullptr;
-       known = ippNextAttribute(answer.get())) {
-    const char* name = ippGetName(known);
-    if (name == nullptr || ippGetGroupTag(known) != IPP_TAG_JOB) continue;
-    std::string value(ippAttributeString(known, nullptr, 0), '\0');
-    ippAttributeString(known, value.data(), value.size() + 1);
-    if (std::string_view(name) == "job-printer-uri") *queue = value.substr(value.rfind('/') + 1);
-    const bool setting = !std::string_view(name).starts_with("job-") || IsStandardAttribute(name);
-    if (setting && !IsOfJobAlone(name)) options->Add(name, value.c_str());
-  }
+  *options = OptionsOfJob(answer.get(), queue);
   return queue->empty() ? "the spooler does not tell what it was sent with" : "";
 }
 

@@ -19,6 +19,9 @@ Dictionary TicketOfJob(const OptionList& options, const std::string& ppd_file,
                        const ResolvedHouseTicket& house, std::vector<std::string>* others,
                        std::vector<std::string>* kept);
 
+/// What a job was sent with, of its attributes, as options; `queue` gets its queue.
+OptionList OptionsOfJob(ipp_t* attributes, std::string* queue);
+
 /// What a job was sent with, from the spooler, as options; `queue` gets its queue. Gives why that
 /// cannot be had, or an empty text.
 std::string OptionsOfSpoolerJob(int number, OptionList* options, std::string* queue);
