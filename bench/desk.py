@@ -39,7 +39,7 @@ def main():
             "(The quick brown fox jumps over the lazy dog) show p 10 string cvs show } for showpage } for"
         subprocess.run(["gs", "-q", "-sDEVICE=pdfwrite", "-o", pdf, "-c", pages], check=True)
         request = {"file": pdf, "title": "t", "ppd": str(BIN.parent / "ppd/zarvo.ppd"), "copies": 1, "dots": 24,
-                   "options": "", "converter_options": "pdftops-renderer=pdftops", "pages": [1], "ahead": True}
+                   "options": "", "converter_options": "pdftops-renderer=pdftops", "pages": [1], "ahead": True, "known": ""}
         first, changed, page = [], [], []
         for run in range(RUNS):
             request["cache"] = f"{folder}/{run}"

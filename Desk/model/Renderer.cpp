@@ -86,6 +86,7 @@ class Renderer::Work {
   const bool is_ahead;
   std::vector<std::uint64_t> asked;  ///< pages of the latest request
   int asked_dots = 0;
+  std::string known;      ///< content of the pictures that were there
   bool waits = false;     ///< for an answer
   bool answered = false;  ///< has given a plan
   bool told = false;      ///< why it failed
@@ -168,7 +169,9 @@ void Renderer::Start() {
   if (file_.isEmpty()) return;
   watch_.start(std::clamp(patience_ / 4, 10, 1000));
   heard_.start();
-  if (settings_.page_by_page && IsPdf(file_)) {
+  const bool converted = !whole_content_.empty() && settings_.copies == whole_settings_.copies &&
+                         settings_.converter_options == whole_settings_.converter_options;
+  if (settings_.page_by_page && !converted && IsPdf(file_)) {
     StartAhead();
   } else {
     StartWhole();
@@ -188,9 +191,11 @@ std::unique_ptr<Renderer::Work> Renderer::Begin(bool ahead,
   request.dots = dots_;
   request.pages = pages;
   request.ahead = ahead;
+  if (!ahead) request.known = whole_content_;
   auto work = std::make_unique<Work>(this, ahead);
   work->asked = pages;
   work->asked_dots = dots_;
+  work->known = request.known;
   work->Start(request);
   return work;
 }
@@ -215,7 +220,7 @@ void Renderer::Hear(Work* work, const json& line) {
       emit Progress(QString::fromStdString(line.at("stage")), line.at("done"), line.at("total"));
     } else if (line.contains("plan")) {
       work->answered = true;
-      TakePlan(*work, PlanFromJson(line.at("plan")));
+      TakePlan(work, PlanFromJson(line.at("plan")));
     } else if (line.contains("file")) {
       TakePicture(line);
     } else if (line.contains("drawn")) {
@@ -235,16 +240,28 @@ void Renderer::Hear(Work* work, const json& line) {
   }
 }
 
-void Renderer::TakePlan(const Work& work, PlanReport plan) {
-  // Pictures of the same PostScript are as good as new.
-  if (!work.is_ahead) {
-    if (plan.content == whole_content_) {
-      for (auto& [page, picture] : pictures_) picture.round = round_;
-    }
+void Renderer::TakePlan(Work* work, PlanReport plan) {
+  bool changed = false;
+  if (!work->is_ahead) {
+    changed = !whole_content_.empty() && plan.content != whole_content_;
     whole_content_ = plan.content;
+    whole_settings_ = settings_;
+    planned_ = round_;
+    // Pictures of the same PostScript are as good as new.
+    for (auto& [page, picture] : pictures_) {
+      if (picture.round == round_) picture.content = whole_content_;
+      if (picture.content == whole_content_) picture.round = round_;
+    }
+    if (work->known == whole_content_) work->asked.clear();
   }
   plan_ = std::move(plan);
   emit PlanChanged();
+  // What is looked at goes ahead of drawing all of it.
+  if (changed && whole_.get() == work && settings_.page_by_page && !Missing(1).empty() &&
+      IsPdf(file_)) {
+    whole_.reset();
+    StartAhead();
+  }
 }
 
 void Renderer::TakePicture(const json& line) {
@@ -254,7 +271,8 @@ void Renderer::TakePicture(const json& line) {
   image.load(name, "PNG");
   QFile::remove(name);
   if (image.isNull()) return;
-  pictures_[page] = {std::move(image), line.at("dots"), round_};
+  pictures_[page] = {std::move(image), line.at("dots"), round_,
+                     planned_ == round_ ? whole_content_ : std::string()};
   DropFarPictures();
   emit PictureChanged(page);
 }

@@ -5,8 +5,9 @@
 // whole document through converter, filter and interpreter; it gives the plan and then any page
 // that is asked for. That takes seconds for a long document. So the pages that are looked at go
 // ahead, as a small document of their own, in another one. A picture stays
-// on show until there is a newer one; when the filter's PostScript turns out to be the same as
-// before, as for every setting that only the finisher reads, its pages are not interpreted again.
+// on show until there is a newer one. A change is first put to the filter alone, which takes little
+// time: when its PostScript turns out to be the same as before, as for every setting that only the
+// finisher reads, nothing is drawn again.
 #pragma once
 
 #include <QElapsedTimer>
@@ -85,6 +86,7 @@ class Renderer : public QObject {
     QImage image;
     int dots = 0;
     int round = 0;
+    std::string content;  ///< of the whole document when it was drawn; empty until that is known
   };
 
   void Start();
@@ -92,7 +94,7 @@ class Renderer : public QObject {
   void StartWhole();
   std::unique_ptr<Work> Begin(bool ahead, const std::vector<std::uint64_t>& pages);
   void Hear(Work* work, const nlohmann::json& line);
-  void TakePlan(const Work& work, PlanReport plan);
+  void TakePlan(Work* work, PlanReport plan);
   void TakePicture(const nlohmann::json& line);
   void End(Work* work);
   void AskForMore();
@@ -110,6 +112,8 @@ class Renderer : public QObject {
   int round_ = 0;  ///< of settings; a picture of an older one is stale
   PlanReport plan_;
   std::string whole_content_;
+  int planned_ = -1;               ///< the round that whole_content_ is of
+  RenderSettings whole_settings_;  ///< that the latest plan of the whole document is of
   std::map<std::uint64_t, Picture_> pictures_;
   std::set<std::uint64_t> undrawn_;  ///< asked for in vain; they are not asked for again
   std::unique_ptr<Work> ahead_;

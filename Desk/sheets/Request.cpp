@@ -17,7 +17,7 @@ namespace zarvo::desk {
 using nlohmann::json;
 
 NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE(SheetRequest, file, title, ppd, options, converter_options,
-                                   cache, copies, dots, pages, ahead)
+                                   cache, copies, dots, pages, ahead, known)
 NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE(PlanReport, plan, findings, complaints, notes, marks, content,
                                    ahead)
 

@@ -44,6 +44,8 @@ struct SheetRequest {
   std::vector<std::uint64_t> pages;  ///< that are to be drawn first
   /// Whether only these pages of a PDF file are taken, which is done long before all of them are.
   bool ahead = false;
+  /// PlanReport::content of the pictures that are there; of the same none is drawn first.
+  std::string known;
 };
 
 /// Throws what the library throws when the text is no request.

@@ -198,7 +198,8 @@ class Maker {
   Failure DrawWhole(const std::vector<tool::Complaint>& complaints) {
     const std::string drawn = request_.cache + "/" + content_;
     if (!LoadDrawn(drawn)) {
-      std::jthread first = DrawFirst();
+      std::jthread first;
+      if (content_ != request_.known) first = DrawFirst();
       Stage("draw");
       std::uint64_t done = 0;
       pages_ = tool::DrawPages(
@@ -209,6 +210,10 @@ class Maker {
       KeepDrawn(drawn);
     }
     if (pages_.size() != plan_.pages) TellPlan(complaints, pages_.size());
+    if (content_ == request_.known) {
+      Answer({{"drawn", true}});
+      return Serve();
+    }
     if (Failure failure = Pictures(request_.pages, request_.dots); !failure.empty()) return failure;
     return Serve();
   }

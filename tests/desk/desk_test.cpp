@@ -128,6 +128,7 @@ class DeskTest : public QObject {
   void house_ticket_under_a_new_name();
   void sheets_are_the_previews_data();
   void sheets_are_the_previews();
+  void only_what_changed_is_drawn();
   void hostile_data();
   void hostile();
   void damaged_stores_data();
@@ -479,6 +480,31 @@ void DeskTest::sheets_are_the_previews() {
     QVERIFY(page.load(home->folder.filePath(QString("page-%1.png").arg(number))));
     QCOMPARE(Difference(seen.copy(place), page), QString());
   }
+}
+
+/// What only the finisher reads draws nothing anew, what every page shows each page once.
+void DeskTest::only_what_changed_is_drawn() {
+  const QString pdf = home->folder.filePath("six.pdf");
+  QCOMPARE(QProcess::execute(
+               "gs", {"-q", "-sDEVICE=pdfwrite", "-o", pdf, home->Put("six.ps", Document(6))}),
+           0);
+  window_->SetPpd(qEnvironmentVariable("ZARVO_PPD"));
+  window_->show();
+  window_->OpenDocument(pdf);
+  const auto drawn = [this] {
+    for (std::uint64_t page = 1; page <= 6; ++page)
+      if (!window_->renderer().IsFresh(page)) return false;
+    return !window_->renderer().IsBusy();
+  };
+  QVERIFY(Comes(drawn));
+  QSignalSpy pictures(&window_->renderer(), &Renderer::PictureChanged);
+  Press("staple-5");
+  QVERIFY(!drawn() && Comes(drawn));
+  QCOMPARE(window_->renderer().plan().plan.finishings, tool::FinishingCodes{20});
+  QCOMPARE(pictures.size(), 0);
+  Choose("Watermark", "DRAFT");
+  QVERIFY(!drawn() && Comes(drawn));
+  QCOMPARE(pictures.size(), 6);
 }
 
 void DeskTest::hostile_data() {
