@@ -49,6 +49,7 @@ MainWindow::MainWindow(const ScratchFolder& scratch, QWidget* parent)
   splitter->addWidget(MakeSheets());
   splitter->addWidget(MakeSettings());
   splitter->setStretchFactor(0, 1);
+  splitter->setSizes({10000, 1});  // the sheets take all that the settings leave
   splitter->setChildrenCollapsible(false);
   setCentralWidget(splitter);
   MakeActions();

@@ -53,11 +53,15 @@ void Translations::ReadForms(const QString& file) {
     if (text.isEmpty() || !english.contains(place)) continue;
     QString pattern = QRegularExpression::escape(english);
     // Escaped, a place is "\%1".
-    pattern.replace(QRegularExpression(R"(\\%([1-9]))"), R"((?<p\1>.+?))");
+    const QRegularExpression escaped(R"(\\%([1-9]))");
+    QString loose = pattern;
+    pattern.replace(escaped, R"((?<p\1>(?:(?!, ).)+?))");
+    loose.replace(escaped, R"((?<p\1>.+?))");
     QString letters = english;
     letters.remove(place);
-    forms_.push_back(
-        {QRegularExpression(QRegularExpression::anchoredPattern(pattern)), text, letters.size()});
+    forms_.push_back({QRegularExpression(QRegularExpression::anchoredPattern(pattern)),
+                      QRegularExpression(QRegularExpression::anchoredPattern(loose)), text,
+                      letters.size()});
   }
   std::stable_sort(forms_.begin(), forms_.end(),
                    [](const Form& a, const Form& b) { return a.letters > b.letters; });
@@ -72,9 +76,9 @@ QString Translations::Find(const QString& text) const {
   return title == id ? QString() : translate(kContext, title.constData(), nullptr, -1);
 }
 
-QString Translations::ByForm(const QString& text) const {
+QString Translations::ByForm(const QString& text, bool loose) const {
   for (const Form& form : forms_) {
-    const QRegularExpressionMatch match = form.english.match(text);
+    const QRegularExpressionMatch match = (loose ? form.loose : form.english).match(text);
     if (!match.hasMatch()) continue;
     QString told;
     for (qsizetype i = 0; i < form.text.size(); ++i) {
@@ -95,7 +99,13 @@ QString Translations::Tell(const QString& text) const {
     for (QString& line : lines) line = Tell(line);
     return lines.join('\n');
   }
-  if (const QString found = ByForm(text); !found.isEmpty()) return found;
+  if (const QString found = ByForm(text, false); !found.isEmpty()) return found;
+  if (const QString found = ByPieces(text); found != text) return found;
+  const QString found = ByForm(text, true);
+  return found.isEmpty() ? text : found;
+}
+
+QString Translations::ByPieces(const QString& text) const {
   for (const char* separator : {"; ", ": ", ", "}) {
     QStringList pieces = text.split(separator);
     if (pieces.size() < 2) continue;

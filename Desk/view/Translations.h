@@ -33,11 +33,13 @@ class Translations : public QTranslator {
  private:
   struct Form {
     QRegularExpression english;
-    QString text;  ///< with %1 to %9
+    QRegularExpression loose;  ///< the places may hold lists
+    QString text;              ///< with %1 to %9
     qsizetype letters = 0;
   };
   QString Find(const QString& text) const;
-  QString ByForm(const QString& text) const;
+  QString ByForm(const QString& text, bool loose) const;
+  QString ByPieces(const QString& text) const;
   void ReadForms(const QString& file);
 
   QTranslator printer_;

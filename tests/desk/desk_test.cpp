@@ -30,6 +30,8 @@
 #include "Desk/view/Translations.h"
 #include "HouseTicket/HouseTicketStore.h"
 #include "Source/CFAdditions.h"
+#include "Source/TicketNames.h"
+#include "Source/WatermarkSupport.h"
 #include "Tools/zarvo/ticket/HouseText.h"
 #include "Tools/zarvo/ticket/TicketText.h"
 #include "tests/desk/tickets.h"
@@ -122,6 +124,7 @@ class DeskTest : public QObject {
   void what_excludes_what_is_shown();
   void everybody_data();
   void everybody();
+  void watermark_changed_in_place();
   void secrets_stay_inside();
   void tasks_data();
   void tasks();
@@ -391,6 +394,21 @@ void DeskTest::everybody() {
   const QString found = window.findChild<QLabel*>("findings")->text();
   QVERIFY2(found.contains("DelayedPrintTime"), qPrintable(found));
   QCOMPARE(found.contains("a delayed job"), QTest::currentDataTag()[0] == 'e');
+}
+
+void DeskTest::watermark_changed_in_place() {
+  const std::string name = "DRAFT";
+  WatermarkData mark{};
+  const auto load = [&] { return loadWatermarkData(kWatermarkCollection, &name, &mark) == 1; };
+  QVERIFY(load() && mark.fontSize == 72);
+  Choose("Watermark", "DRAFT");
+  QCOMPARE(Find<QSpinBox>("new-mark-size")->value(), 72);
+  Find<QSpinBox>("new-mark-size")->setValue(90);
+  Type("new-mark", "ENTWURF");
+  Press("change-mark");
+  QTRY_VERIFY_WITH_TIMEOUT(load() && mark.fontSize == 90, kLongest);
+  QCOMPARE(QString(mark.textString), "ENTWURF");
+  QCOMPARE(window_->document().TextAt(key::kWatermark), "DRAFT");  // it has kept its name
 }
 
 void DeskTest::secrets_stay_inside() {
