@@ -186,7 +186,7 @@ QWidget* MainWindow::MakeSettings() {
   groups_->setFixedWidth(WidestTitle() + 2 * groups_->frameWidth() + 24);
   connect(groups_, &QListWidget::currentRowChanged, pages_, &QStackedWidget::setCurrentIndex);
   groups_->setCurrentRow(0);
-  pages_->setMinimumWidth(330);
+  pages_->setMinimumWidth(350);
   findings_ = new QLabel(area);
   findings_->setObjectName("findings");
   findings_->setWordWrap(true);
