@@ -594,7 +594,7 @@
     </message>
     <message>
       <source>Dialled before every number</source>
-      <translation>Vor jeder Nummer gewählt</translation>
+      <translation>Vorwahl</translation>
     </message>
     <message>
       <source>Dialled before every number, up to 4 bytes</source>
