@@ -295,10 +295,10 @@ TEST_F(Store, OnlyWhoMayWriteKeepsOthersOut) {
 }
 
 TEST_F(Store, ATenMegabyteListIsReadInTime) {
+  const std::string entry = "</key><dict><key>filePath</key><string>" + std::string(1000, 'x') +
+                            "</string><key>angle</key><real>9</real></dict>";
   std::string xml = "<plist version=\"1.0\"><dict>";
-  for (int i = 0; i < 10000; ++i)
-    xml += "<key>" + std::to_string(i) + "</key><dict><key>filePath</key><string>" +
-           std::string(1000, 'x') + "</string><key>angle</key><real>9</real></dict>";
+  for (int i = 0; i < 10000; ++i) xml.append("<key>").append(std::to_string(i)).append(entry);
   Write(xml + "</dict></plist>");
   const auto begin = std::clock();
   EXPECT_TRUE(Save("one more"));
