@@ -6,11 +6,15 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
 #include <QDir>
+#include <QDirIterator>
+#include <QDropEvent>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QProcess>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -126,6 +130,7 @@ class DeskTest : public QObject {
   void everybody();
   void watermark_changed_in_place();
   void secrets_stay_inside();
+  void what_is_kept();
   void tasks_data();
   void tasks();
   void house_ticket_under_a_new_name();
@@ -423,6 +428,44 @@ void DeskTest::secrets_stay_inside() {
   const QString file = home->folder.filePath("secret.json");
   QVERIFY(window_->document().Save(file.toStdString()).empty());
   QCOMPARE(QFile::permissions(file) & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
+}
+
+/// A document that was dropped is among the recent ones, and a PIN in no file and no clipboard.
+void DeskTest::what_is_kept() {
+  constexpr char kPin[] = "0391471188";
+  const QString file = home->Put("dropped.ps", Document(2));
+  QMimeData data;
+  data.setUrls({QUrl::fromLocalFile(file)});
+  QDropEvent drop(QPointF(9, 9), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QDragEnterEvent enter(QPoint(9, 9), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  window_->show();
+  QCoreApplication::sendEvent(window_.get(), &enter);
+  QVERIFY(enter.isAccepted());
+  QCoreApplication::sendEvent(window_.get(), &drop);
+  QCOMPARE(window_->renderer().file(), file);
+  Choose("JobType/JobType", "Secure: wait for a PIN");
+  Type("JobType/SecurePrintPassword", kPin);
+  auto* const pin = Find<QLineEdit>("JobType/SecurePrintPassword");
+  pin->selectAll();
+  pin->copy();
+  QVERIFY(!QGuiApplication::clipboard()->text().contains(kPin));
+  QVERIFY(Settle());
+  QVERIFY(window_->close());
+  QSettings settings;
+  settings.sync();
+  QCOMPARE(settings.value("recent").toStringList(), QStringList{file});
+  const QString cache = QFileInfo(QString::fromStdString(scratch->File("x"))).path();
+  int files = 0;
+  for (const QString& folder : {cache, home->folder.path()}) {
+    QDirIterator all(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (all.hasNext()) {
+      QFile one(all.next());
+      QVERIFY(one.open(QIODevice::ReadOnly));
+      QVERIFY2(!one.readAll().contains(kPin), qPrintable(one.fileName()));
+      ++files;
+    }
+  }
+  QVERIFY(files > 3);
 }
 
 void DeskTest::tasks_data() {
