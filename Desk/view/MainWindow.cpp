@@ -186,7 +186,12 @@ QWidget* MainWindow::MakeSettings() {
   groups_->setFixedWidth(WidestTitle() + 2 * groups_->frameWidth() + 24);
   connect(groups_, &QListWidget::currentRowChanged, pages_, &QStackedWidget::setCurrentIndex);
   groups_->setCurrentRow(0);
-  pages_->setMinimumWidth(350);
+  // Pages scroll up and down only: the widest of them, in whatever language and font, says how wide
+  // they are at least.
+  int widest = 330;
+  for (const PanelEntry& entry : panels_)
+    widest = std::max(widest, entry.panel->minimumSizeHint().width());
+  pages_->setMinimumWidth(widest + style()->pixelMetric(QStyle::PM_ScrollBarExtent));
   findings_ = new QLabel(area);
   findings_->setObjectName("findings");
   findings_->setWordWrap(true);

@@ -159,7 +159,9 @@ QComboBox* Panel::Choices(const char* name, const QString& label, std::vector<Ch
                           std::function<int(const Dictionary&)> current) {
   auto* const box = new QComboBox(this);
   box->setObjectName(name);
+  // A choice that is cut off cannot be told from another: the label goes above it instead.
   box->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+  box->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
   for (const Choice& choice : choices) box->addItem(choice.text);
   connect(box, &QComboBox::activated, this, [=, this](int index) {
     if (index >= 0 && !filling_)
