@@ -344,6 +344,26 @@ void DeskTest::everybody_data() {
 
 /// Every panel in every language, on the smallest screen: what is read to people has a name, what
 /// is off says why, each letter leads to one field, keys go where the eye goes, nothing is cut off.
+/// A label or a list of choices of which a part cannot be seen, or nothing.
+QString CutOff(const QWidget* page) {
+  for (const QLabel* label : page->findChildren<QLabel*>()) {
+    const int needed =
+        label->wordWrap() ? label->heightForWidth(label->width()) : label->sizeHint().height();
+    if (label->isVisible() && (label->height() < needed ||
+                               (!label->wordWrap() && label->width() < label->sizeHint().width())))
+      return label->text();
+  }
+  for (const QComboBox* box : page->findChildren<QComboBox*>())
+    if (box->isVisible() &&
+        (box->width() < box->sizeHint().width() ||
+         box->mapTo(page->window(), QPoint(box->width(), 0)).x() >
+             page->parentWidget()
+                 ->mapTo(page->window(), QPoint(page->parentWidget()->width(), 0))
+                 .x()))
+      return box->objectName();
+  return {};
+}
+
 void DeskTest::everybody() {
   QFETCH(QString, panel);
   const Translations translations(QLocale(QString(QTest::currentDataTag()).section(' ', 0, 0)),
@@ -362,15 +382,12 @@ void DeskTest::everybody() {
     letters.insert(mark);
   };
   for (const QAction* action : window.menuBar()->actions()) letter(action->text());
-  for (const QLabel* label : page->findChildren<QLabel*>()) {
+  // What is objected to is marked, which makes a choice longer: the layout follows with the next
+  // events.
+  Comes([page] { return CutOff(page).isEmpty(); });
+  QCOMPARE(CutOff(page), QString());
+  for (const QLabel* label : page->findChildren<QLabel*>())
     if (label->buddy() != nullptr) letter(label->text());
-    const int needed =
-        label->wordWrap() ? label->heightForWidth(label->width()) : label->sizeHint().height();
-    QVERIFY2(
-        !label->isVisible() || (label->height() >= needed &&
-                                (label->wordWrap() || label->width() >= label->sizeHint().width())),
-        qPrintable("cut off: " + label->text()));
-  }
   QPoint last(-1, -1);
   for (QWidget* at = page->nextInFocusChain(); at != page; at = at->nextInFocusChain()) {
     if (!page->isAncestorOf(at) || !at->isVisible() || at->focusPolicy() == Qt::NoFocus ||
@@ -380,8 +397,6 @@ void DeskTest::everybody() {
     const QAccessibleInterface* const told = QAccessible::queryAccessibleInterface(at);
     QVERIFY2(!told->text(QAccessible::Name).isEmpty(), qPrintable(who));
     QVERIFY2(at->isEnabled() || !told->text(QAccessible::Description).isEmpty(), qPrintable(who));
-    if (const auto* box = qobject_cast<QComboBox*>(at))
-      QVERIFY2(box->width() >= box->sizeHint().width(), qPrintable("cut off: " + who));
     if (const auto* button = qobject_cast<QAbstractButton*>(at)) {
       letter(button->text());
       QVERIFY2(at->width() >= at->minimumSizeHint().width(), qPrintable(who));
@@ -411,7 +426,7 @@ void DeskTest::watermark_changed_in_place() {
   Find<QSpinBox>("new-mark-size")->setValue(90);
   Type("new-mark", "ENTWURF");
   Press("change-mark");
-  QTRY_VERIFY_WITH_TIMEOUT(load() && mark.fontSize == 90, kLongest);
+  QVERIFY(Comes([&] { return load() && mark.fontSize == 90; }));
   QCOMPARE(QString(mark.textString), "ENTWURF");
   QCOMPARE(window_->document().TextAt(key::kWatermark), "DRAFT");  // it has kept its name
 }
