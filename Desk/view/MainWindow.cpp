@@ -15,6 +15,7 @@
 #include <QMimeData>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QSettings>
 #include <QShortcut>
 #include <QSplitter>
@@ -35,6 +36,30 @@ namespace {
 constexpr int kMostRecent = 10;
 constexpr int kWidths[] = {60, 80, 110, 140, 170, 210, 260, 320, 400, 520, 680};
 constexpr int kUsualWidth = 4;  // of them
+
+/// A panel that scrolls up and down only, and therefore is never narrower than it needs: what is
+/// objected to is marked while the person works, which makes choices longer.
+class PanelScroll : public QScrollArea {
+ public:
+  explicit PanelScroll(QWidget* panel) {
+    setWidgetResizable(true);
+    setFrameShape(QFrame::NoFrame);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setWidget(panel);
+  }
+
+  QSize minimumSizeHint() const override {
+    QSize size = QScrollArea::minimumSizeHint();
+    size.setWidth(widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width());
+    return size;
+  }
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (watched == widget() && event->type() == QEvent::LayoutRequest) updateGeometry();
+    return QScrollArea::eventFilter(watched, event);
+  }
+};
 
 }  // namespace
 
@@ -174,24 +199,13 @@ QWidget* MainWindow::MakeSettings() {
   for (const PanelEntry& entry : panels_) {
     entry.panel->GiveMnemonics(MenuLetters());
     entry.panel->setObjectName(QString("panel-") + entry.name);
-    auto* const scroll = new QScrollArea(pages_);
-    scroll->setWidgetResizable(true);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scroll->setWidget(entry.panel);
-    pages_->addWidget(scroll);
+    pages_->addWidget(new PanelScroll(entry.panel));
     groups_->addItem(entry.title);
     groups_->item(groups_->count() - 1)->setSizeHint({0, 2 * fontMetrics().height()});
   }
   groups_->setFixedWidth(WidestTitle() + 2 * groups_->frameWidth() + 24);
   connect(groups_, &QListWidget::currentRowChanged, pages_, &QStackedWidget::setCurrentIndex);
   groups_->setCurrentRow(0);
-  // Pages scroll up and down only: the widest of them, in whatever language and font, says how wide
-  // they are at least.
-  int widest = 330;
-  for (const PanelEntry& entry : panels_)
-    widest = std::max(widest, entry.panel->minimumSizeHint().width());
-  pages_->setMinimumWidth(widest + style()->pixelMetric(QStyle::PM_ScrollBarExtent));
   findings_ = new QLabel(area);
   findings_->setObjectName("findings");
   findings_->setWordWrap(true);

@@ -70,7 +70,9 @@ QString WordFor(const char* word, const char* key) { return Localized(DisplayWor
 
 Panel::Panel(TicketDocument* document, QWidget* parent)
     : QWidget(parent), document_(document), form_(new QFormLayout(this)) {
-  form_->setRowWrapPolicy(QFormLayout::WrapLongRows);
+  // Labels stay beside their fields: a layout that puts some above gives rows no height at all
+  // where it is only just wide enough (Qt 6.4).
+  form_->setRowWrapPolicy(QFormLayout::DontWrapRows);
   form_->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
 }
 
@@ -159,7 +161,7 @@ QComboBox* Panel::Choices(const char* name, const QString& label, std::vector<Ch
                           std::function<int(const Dictionary&)> current) {
   auto* const box = new QComboBox(this);
   box->setObjectName(name);
-  // A choice that is cut off cannot be told from another: the label goes above it instead.
+  // A choice that is cut off cannot be told from another.
   box->setSizeAdjustPolicy(QComboBox::AdjustToContents);
   box->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
   for (const Choice& choice : choices) box->addItem(choice.text);
