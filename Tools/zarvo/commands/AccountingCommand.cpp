@@ -43,7 +43,6 @@ struct Options {
 constexpr std::size_t kBatch = 200;
 /// Who looks after printers may read the log.
 constexpr char kReaders[] = "lpadmin";
-constexpr std::size_t kLongestState = 16 << 20;
 constexpr char kTime[] = "%Y-%m-%dT%H:%M:%SZ";
 
 std::string TimeText(std::time_t time) {
@@ -224,28 +223,20 @@ class Log {
 };
 
 int Account(const Options& options) {
-  namespace fs = std::filesystem;
-  const std::string folder = fs::path(options.state).parent_path();
-  std::error_code error;
-  fs::create_directories(folder, error);
-  const FolderLock lock(folder);
-  if (!lock) return Fail(folder, std::strerror(errno), "Run it as root, and once at a time");
-  nlohmann::json state = nlohmann::json::object();
-  if (const std::optional<std::string> text = ReadWholeFile(options.state, kLongestState))
-    state = nlohmann::json::parse(*text, nullptr, false);
-  if (!state.is_object()) state = nlohmann::json::object();
-  HistoryMark mark = HistoryMark::FromJson(state.value("mark", nlohmann::json()));
+  HistoryState state(options.state);
+  if (!state.locked()) return Fail(state.folder(), std::strerror(errno), kWhoMay);
   Log log(options.log);
-  fs::create_directories(fs::path(options.log).parent_path(), error);
-  if (!log.Open(state, &mark)) return Fail(options.log, std::strerror(errno), "Run it as root");
+  std::error_code error;  // opening the log says what is wrong
+  std::filesystem::create_directories(std::filesystem::path(options.log).parent_path(), error);
+  if (!log.Open(state.content, &state.mark))
+    return Fail(options.log, std::strerror(errno), "Run it as root");
 
   const SpoolerConnection spooler = ConnectToSpooler();
   if (!spooler) return Fail("spooler", kNoAnswer);
   std::vector<EndedJob> ended;
-  if (const Failure failure = ListEnded(spooler.get(), mark, &ended); !failure.empty())
+  if (const Failure failure = ListEnded(spooler.get(), state.mark, &ended); !failure.empty())
     return Fail("spooler", failure);
   SettingsFinder finder;
-  int status = kExitOk;
   for (std::size_t done = 0; done < ended.size();) {
     std::string lines;
     for (const std::size_t end = std::min(done + kBatch, ended.size()); done < end; ++done) {
@@ -254,15 +245,13 @@ int Account(const Options& options) {
       if (!failure.empty() && lines.empty() && done == 0)
         return Fail("job " + std::to_string(ended[done].number), failure);
       if (failure.empty()) lines += LineOf(job, &finder);
-      mark.Take(ended[done]);
+      state.mark.Take(ended[done]);
     }
     if (!log.Append(lines)) return Fail(options.log, std::strerror(errno));
-    state["mark"] = mark.ToJson();
-    log.Describe(&state);
-    if (!WriteFileAtomically(options.state, state.dump(), S_IRUSR | S_IWUSR))
-      return Fail(options.state, std::strerror(errno));
+    log.Describe(&state.content);
+    if (!state.Save()) return Fail(options.state, std::strerror(errno));
   }
-  return status;
+  return kExitOk;
 }
 
 }  // namespace

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Tools/zarvo/commands/FinishedJobs.h"
 
+#include <sys/stat.h>
+
 #include <algorithm>
+#include <filesystem>
 #include <string_view>
 
 #include "CUPSFilter/JobNotices.h"
-#include "CUPSFilter/Options/SchedulerRequest.h"
 #include "Tools/zarvo/ticket/JobTicket.h"
 
 namespace zarvo::tool {
@@ -16,22 +18,20 @@ constexpr std::time_t kOverlap = 600;
 /// Asked for at first; the answer comes newest first, and the scheduler works for each job in it.
 constexpr int kFirstAnswer = 256;
 
+constexpr std::size_t kLongestState = 16 << 20;
+
+const std::string& MakeFolder(const std::string& folder) {
+  std::error_code error;  // the lock says why, where there is none
+  std::filesystem::create_directories(folder, error);
+  return folder;
+}
+
 /// Attributes that the scheduler knows without reading a job's file.
 constexpr const char* kListed[] = {"job-id", "job-state", "time-at-completed"};
 
-IppMessage NewRequest(ipp_op_t operation) {
-  IppMessage request(ippNewRequest(operation));
-  ippSetVersion(request.get(), 2, 0);  // answers of older versions leave collections out
-  ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr,
-               "ipp://localhost/");
-  ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
-               cupsUser());
-  return request;
-}
-
 /// At most `limit` jobs that have ended, newest first.
 Failure AskForEnded(http_t* spooler, int limit, std::vector<EndedJob>* jobs, int* count) {
-  IppMessage request = NewRequest(IPP_OP_GET_JOBS);
+  IppMessage request = NewSpoolerRequest(IPP_OP_GET_JOBS);
   ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "which-jobs", nullptr,
                "completed");
   ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "limit", limit);
@@ -98,6 +98,33 @@ HistoryMark HistoryMark::FromJson(const nlohmann::json& json) {
   return mark;
 }
 
+HistoryState::HistoryState(std::string file)
+    : content(nlohmann::json::object()),
+      file_(std::move(file)),
+      folder_(std::filesystem::path(file_).parent_path()),
+      lock_(MakeFolder(folder_)) {
+  if (!lock_) return;
+  if (const std::optional<std::string> text = ReadWholeFile(file_, kLongestState))
+    content = nlohmann::json::parse(*text, nullptr, false);
+  if (!content.is_object()) content = nlohmann::json::object();
+  mark = HistoryMark::FromJson(content.value("mark", nlohmann::json()));
+}
+
+bool HistoryState::Save() {
+  content["mark"] = mark.ToJson();
+  return WriteFileAtomically(file_, content.dump(), S_IRUSR | S_IWUSR);
+}
+
+IppMessage NewSpoolerRequest(ipp_op_t operation) {
+  IppMessage request(ippNewRequest(operation));
+  ippSetVersion(request.get(), 2, 0);  // answers of older versions leave collections out
+  ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr,
+               "ipp://localhost/");
+  ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
+               cupsUser());
+  return request;
+}
+
 const char* OutcomeOf(const FinishedJob& job) {
   const auto& [printed, not_as_asked, canceled, refused, failed] = kOutcomes;
   // The spooler stops a job that a filter refuses, until somebody cancels it.
@@ -126,7 +153,7 @@ Failure ListEnded(http_t* spooler, const HistoryMark& mark, std::vector<EndedJob
 }
 
 Failure DescribeJob(http_t* spooler, const EndedJob& end, FinishedJob* job) {
-  IppMessage request = NewRequest(IPP_OP_GET_JOB_ATTRIBUTES);
+  IppMessage request = NewSpoolerRequest(IPP_OP_GET_JOB_ATTRIBUTES);
   ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", end.number);
   ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
                "all");

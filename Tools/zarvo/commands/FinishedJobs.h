@@ -16,6 +16,8 @@
 #include <vector>
 
 #include "CUPSFilter/Options/OptionList.h"
+#include "CUPSFilter/Options/SchedulerRequest.h"
+#include "Platform/AtomicFile.h"
 #include "Tools/zarvo/system/Spooler.h"
 #include "Tools/zarvo/system/SpoolerJobs.h"
 
@@ -45,6 +47,30 @@ class HistoryMark {
   std::map<int, std::time_t> taken_;  ///< that ended shortly before the newest, by their number
 };
 
+/// Told when the state cannot be had.
+inline constexpr char kWhoMay[] = "Run it as root, and once at a time";
+
+/// What is remembered between runs: a JSON object in a file of the owner's only, with the mark in
+/// it. One process at a time has it; a file that holds anything else is a beginning anew.
+class HistoryState {
+ public:
+  /// Makes the file's folder where it is missing, locks it and reads the file; `locked` says
+  /// whether that could be done, errno otherwise why not.
+  explicit HistoryState(std::string file);
+  bool locked() const { return static_cast<bool>(lock_); }
+  const std::string& folder() const { return folder_; }
+
+  /// Writes it with the mark, at once or not at all; false with errno.
+  bool Save();
+
+  nlohmann::json content;
+  HistoryMark mark;
+
+ private:
+  std::string file_, folder_;
+  FolderLock lock_;
+};
+
 /// What the spooler kept of a job that has ended.
 struct FinishedJob {
   EndedJob end;
@@ -64,6 +90,9 @@ inline constexpr const char* kOutcomes[] = {"printed", "not-as-asked", "canceled
 
 /// One of kOutcomes.
 const char* OutcomeOf(const FinishedJob& job);
+
+/// A request about all queues, in this user's name.
+IppMessage NewSpoolerRequest(ipp_op_t operation);
 
 /// Those that have ended since the mark, the earliest first.
 Failure ListEnded(http_t* spooler, const HistoryMark& mark, std::vector<EndedJob>* jobs);

@@ -17,7 +17,6 @@
 #include <sstream>
 
 #include "CUPSFilter/FaxCover/FaxCoverOutput.h"
-#include "CUPSFilter/Options/SchedulerRequest.h"
 #include "CUPSFilter/Watermark/outputPICT.h"
 #include "Platform/AtomicFile.h"
 #include "Tools/zarvo/Command.h"
@@ -53,7 +52,6 @@ constexpr int kSeconds[] = {1, 2, 5, 10, 30, 60, 300, 1800};
 /// Names of settings come from jobs: past so many all others are one.
 constexpr std::size_t kMostSettings = 100;
 constexpr std::size_t kLongestSetting = 40;
-constexpr std::size_t kLongestState = 16 << 20;
 constexpr char kDropped[] = "zarvo_settings_dropped_total";
 
 /// What a filter tells when a helper did not do its work.
@@ -103,9 +101,10 @@ std::vector<std::string> SettingsIn(const std::string& notice) {
 
 void Count(const FinishedJob& job, SeriesTable* totals) {
   const std::string& queue = job.queue;
+  const std::string_view became = OutcomeOf(job);
   for (const char* outcome : kOutcomes)
     (*totals)[Series("zarvo_jobs_total", {{"queue", queue}, {"outcome", outcome}})] +=
-        std::string_view(outcome) == OutcomeOf(job) ? 1 : 0;
+        outcome == became ? 1 : 0;
   (*totals)[Series("zarvo_sheets_total", {{"queue", queue}})] += job.sheets;
   if (job.started > 0 && job.end.ended >= job.started) {
     const double seconds = static_cast<double>(job.end.ended - job.started);
@@ -147,13 +146,10 @@ void ForEachGroup(ipp_t* answer, ipp_tag_t kind, Take take) {
 }
 
 IppMessage Ask(http_t* spooler, ipp_op_t operation, std::initializer_list<const char*> attributes) {
-  ipp_t* request = ippNewRequest(operation);
-  ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, "ipp://localhost/");
-  ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
-               cupsUser());
-  ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
+  IppMessage request = NewSpoolerRequest(operation);
+  ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
                 static_cast<int>(attributes.size()), nullptr, attributes.begin());
-  return IppMessage(cupsDoRequest(spooler, request, "/"));
+  return IppMessage(cupsDoRequest(spooler, request.release(), "/"));
 }
 
 const char* WordOf(int state) {
@@ -185,7 +181,8 @@ void Look(http_t* spooler, SeriesTable* now) {
   const std::time_t time = std::time(nullptr);
   ForEachGroup(jobs.get(), IPP_TAG_JOB, [&](auto job) {
     const char* uri = ippGetString(job["job-printer-uri"], 0, nullptr);
-    const std::string name = uri != nullptr ? std::strrchr(uri, '/') + 1 : "";
+    std::string name = uri != nullptr ? uri : "";
+    name.erase(0, name.rfind('/') + 1);
     (*now)[Series("zarvo_queue_jobs",
                   {{"queue", name}, {"state", WordOf(ippGetInteger(job["job-state"], 0))}})] += 1;
     if (job["time-at-creation"] == nullptr) return;
@@ -212,29 +209,20 @@ std::string TextOf(const SeriesTable& series) {
 }
 
 int Metrics(const Options& options) {
-  const std::string folder = std::filesystem::path(options.state).parent_path();
-  std::error_code error;
-  std::filesystem::create_directories(folder, error);
-  const FolderLock lock(folder);
-  if (!lock) return Fail(folder, std::strerror(errno), "Run it as root, and once at a time");
-  nlohmann::json state = nlohmann::json::object();
-  if (const std::optional<std::string> text = ReadWholeFile(options.state, kLongestState))
-    state = nlohmann::json::parse(*text, nullptr, false);
-  HistoryMark mark;
+  HistoryState state(options.state);
+  if (!state.locked()) return Fail(state.folder(), std::strerror(errno), kWhoMay);
   SeriesTable totals;
   try {
-    mark = HistoryMark::FromJson(state.value("mark", nlohmann::json()));
-    totals = state.value("totals", SeriesTable());
+    totals = state.content.value("totals", SeriesTable());
   } catch (const nlohmann::json::exception&) {
-    totals.clear();  // begun anew, as counters may
-    mark = HistoryMark();
+    state.mark = HistoryMark();  // begun anew, as counters may
   }
   SeriesTable now;
   const SpoolerConnection spooler = ConnectToSpooler();
   now["zarvo_spooler_up"] = spooler ? 1 : 0;
   if (spooler) {
     std::vector<EndedJob> ended;
-    if (const Failure failure = ListEnded(spooler.get(), mark, &ended); !failure.empty())
+    if (const Failure failure = ListEnded(spooler.get(), state.mark, &ended); !failure.empty())
       return Fail("spooler", failure);
     for (const EndedJob& end : ended) {
       FinishedJob job;
@@ -242,13 +230,10 @@ int Metrics(const Options& options) {
       if (!failure.empty() && &end == ended.data())
         return Fail("job " + std::to_string(end.number), failure);
       if (failure.empty()) Count(job, &totals);
-      mark.Take(end);
+      state.mark.Take(end);
     }
-    if (!ended.empty() &&
-        !WriteFileAtomically(options.state,
-                             nlohmann::json{{"mark", mark.ToJson()}, {"totals", totals}}.dump(),
-                             S_IRUSR | S_IWUSR))
-      return Fail(options.state, std::strerror(errno));
+    state.content["totals"] = totals;
+    if (!ended.empty() && !state.Save()) return Fail(options.state, std::strerror(errno));
     Look(spooler.get(), &now);
   }
   now.merge(totals);

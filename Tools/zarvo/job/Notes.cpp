@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Tools/zarvo/job/Notes.h"
-#include "Platform/Phrase.h"
 
 #include <algorithm>
 #include <cstdlib>
 #include <span>
+
+#include "Platform/Phrase.h"
 
 namespace zarvo::tool {
 namespace {

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Tools/zarvo/job/SheetPlan.h"
-#include "Platform/Phrase.h"
 
 #include <algorithm>
 #include <charconv>
 #include <cstdlib>
 #include <optional>
 #include <span>
+
+#include "Platform/Phrase.h"
 
 namespace zarvo::tool {
 namespace {

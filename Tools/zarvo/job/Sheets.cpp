@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Tools/zarvo/job/Sheets.h"
-#include "Platform/Phrase.h"
 
 #include <cstdlib>
 #include <span>
+
+#include "Platform/Phrase.h"
 
 namespace zarvo::tool {
 namespace {

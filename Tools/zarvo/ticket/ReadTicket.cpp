@@ -21,7 +21,6 @@ namespace zarvo::tool {
 namespace {
 
 // Not the library's ordered kind, which looks through all keys for each new one.
-using Json = nlohmann::json;
 using Keys = std::span<const TicketKey>;
 
 constexpr char kDataKey[] = "$data";
@@ -88,10 +87,11 @@ Value TextValue(const std::string& path, const std::string& text, const TicketKe
   return MakeText(path, text);
 }
 
-Value FromJson(const std::string& path, const Json& json, const TicketKey* key, int depth);
+Value FromJson(const std::string& path, const nlohmann::json& json, const TicketKey* key,
+               int depth);
 
-Dictionary DictionaryFromJson(const std::string& path, const Json& json, Keys keys, bool top,
-                              int depth) {
+Dictionary DictionaryFromJson(const std::string& path, const nlohmann::json& json, Keys keys,
+                              bool top, int depth) {
   Dictionary dictionary;
   for (const auto& [name, member] : json.items()) {
     const TicketKey* key = top ? FindTopLevelKey(name) : FindKey(keys, name);
@@ -107,7 +107,7 @@ Dictionary DictionaryFromJson(const std::string& path, const Json& json, Keys ke
   return dictionary;
 }
 
-Value DataFromJson(const std::string& path, const Json& json) {
+Value DataFromJson(const std::string& path, const nlohmann::json& json) {
   const std::string digits = json.is_string() ? json.get<std::string>() : "?";
   if (digits.size() % 2 != 0 ||
       !std::all_of(digits.begin(), digits.end(), [](char c) { return hex2int(c) >= 0; }))
@@ -118,31 +118,32 @@ Value DataFromJson(const std::string& path, const Json& json) {
   return bytes;
 }
 
-Value FromJson(const std::string& path, const Json& json, const TicketKey* key, int depth) {
+Value FromJson(const std::string& path, const nlohmann::json& json, const TicketKey* key,
+               int depth) {
   if (depth > kMaxTicketDepth) throw Unreadable{path + ": nests too deep"};
   const Keys members = key != nullptr ? key->members : Keys();
   switch (json.type()) {
-    case Json::value_t::string:
+    case nlohmann::json::value_t::string:
       return TextValue(path, json.get<std::string>(), key);
-    case Json::value_t::boolean:
+    case nlohmann::json::value_t::boolean:
       return Value::Boolean(json.get<bool>());
-    case Json::value_t::number_integer:
+    case nlohmann::json::value_t::number_integer:
       return Number(json.get<std::int64_t>());
-    case Json::value_t::number_unsigned:
+    case nlohmann::json::value_t::number_unsigned:
       if (json.get<std::uint64_t>() > static_cast<std::uint64_t>(INT64_MAX)) break;
       return Number(json.get<std::int64_t>());
-    case Json::value_t::array: {
+    case nlohmann::json::value_t::array: {
       Array array;
       // The elements of a list of dictionaries are checked against its members.
       TicketKey element{"", KeyType::kDictionary, ""};
       element.members = members;
-      for (const Json& one : json) {
+      for (const nlohmann::json& one : json) {
         const std::string place = path + "/" + std::to_string(array.size());
         array.push_back(FromJson(place, one, &element, depth + 1));
       }
       return array;
     }
-    case Json::value_t::object:
+    case nlohmann::json::value_t::object:
       if (json.size() == 1 && json.contains(kDataKey)) return DataFromJson(path, json[kDataKey]);
       return DictionaryFromJson(path, json, members, false, depth);
     default:
@@ -152,15 +153,15 @@ Value FromJson(const std::string& path, const Json& json, const TicketKey* key, 
                    json.dump() + " is none of them"};
 }
 
-Json ToJson(const Value& value, const TicketKey* key);
+nlohmann::json ToJson(const Value& value, const TicketKey* key);
 
-Json ToJson(const Dictionary& dictionary, Keys keys) {
-  Json json = Json::object();
+nlohmann::json ToJson(const Dictionary& dictionary, Keys keys) {
+  nlohmann::json json = nlohmann::json::object();
   for (const auto& [name, member] : dictionary) json[name] = ToJson(member, FindKey(keys, name));
   return json;
 }
 
-Json NumberToJson(const Number& number, const TicketKey* key) {
+nlohmann::json NumberToJson(const Number& number, const TicketKey* key) {
   std::int64_t whole = 0;
   if (number.IsReal() || !number.Get(&whole)) {
     double real = 0;
@@ -171,10 +172,10 @@ Json NumberToJson(const Number& number, const TicketKey* key) {
     if (const std::string date = FormatDate(whole); !date.empty()) return date;
   }
   const char* word = key != nullptr ? WordOf(*key, whole) : nullptr;
-  return word != nullptr ? Json(word) : Json(whole);
+  return word != nullptr ? nlohmann::json(word) : nlohmann::json(whole);
 }
 
-Json ToJson(const Value& value, const TicketKey* key) {
+nlohmann::json ToJson(const Value& value, const TicketKey* key) {
   const Keys members = key != nullptr ? key->members : Keys();
   if (const std::string* text = value.AsString()) return *text;
   if (const Number* number = value.AsNumber()) return NumberToJson(*number, key);
@@ -183,7 +184,7 @@ Json ToJson(const Value& value, const TicketKey* key) {
   if (const Array* array = value.AsArray()) {
     TicketKey element{"", KeyType::kDictionary, ""};
     element.members = members;
-    Json json = Json::array();
+    nlohmann::json json = nlohmann::json::array();
     for (const Value& one : *array) json.push_back(ToJson(one, &element));
     return json;
   }
@@ -198,11 +199,11 @@ Json ToJson(const Value& value, const TicketKey* key) {
 
 Failure ReadJson(std::string_view text, Dictionary* ticket) {
   try {
-    const Json json = Json::parse(text);
+    const nlohmann::json json = nlohmann::json::parse(text);
     if (!json.is_object()) throw Unreadable{"a ticket is a group: { \"key\": value, ... }"};
     *ticket = DictionaryFromJson("", json, {}, true, 0);
     return "";
-  } catch (const Json::exception& exception) {
+  } catch (const nlohmann::json::exception& exception) {
     // The library's own name and error number mean nothing to the reader.
     const std::string reason = exception.what();
     const std::size_t end = reason.find("] ");
@@ -294,7 +295,9 @@ Failure ReadTicket(std::string_view text, Dictionary* ticket) {
 
 std::string TicketToJson(const Dictionary& ticket) {
   // Recipients come from address cards of other programs, in whatever encoding.
-  return ToJson(ticket, TopLevelKeys()).dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
+  return ToJson(ticket, TopLevelKeys())
+             .dump(2, ' ', false, nlohmann::json::error_handler_t::replace) +
+         "\n";
 }
 
 }  // namespace zarvo::tool
