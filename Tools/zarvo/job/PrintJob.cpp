@@ -11,8 +11,10 @@
 #include <cstdio>
 #include <cstring>
 #include <memory>
+#include <optional>
 
 #include "CUPSFilter/Options/OptionList.h"
+#include "CUPSFilter/Options/SchedulerRequest.h"
 #include "Platform/Log.h"
 #include "Platform/Process.h"
 #include "Platform/UniqueFd.h"
@@ -49,6 +51,13 @@ std::string BaseName(const std::string& file) {
   return file == "-" ? "(stdin)" : file.substr(file.rfind('/') + 1);
 }
 
+/// The spooler's word on the document, or nothing: the library calls it a success when the
+/// connection breaks before the spooler has said anything.
+std::optional<ipp_status_t> FinishDocument(const std::string& queue) {
+  const IppMessage answer(cupsGetResponse(CUPS_HTTP_DEFAULT, ("/printers/" + queue).c_str()));
+  return answer ? std::optional(ippGetStatusCode(answer.get())) : std::nullopt;
+}
+
 /// Hands the file to the spooler's job of this number.
 int SendFile(const PrintJob& job, int number, int file) {
   const std::string name = job.file == "-" ? "(stdin)" : job.file;
@@ -64,16 +73,22 @@ int SendFile(const PrintJob& job, int number, int file) {
     if (count <= 0) break;
     status = cupsWriteRequestData(CUPS_HTTP_DEFAULT, block, static_cast<std::size_t>(count));
   }
-  const ipp_status_t finished = cupsFinishDocument(CUPS_HTTP_DEFAULT, job.queue.c_str());
+  const bool whole = error == 0 && status == HTTP_STATUS_CONTINUE;
+  const std::optional<ipp_status_t> taken = FinishDocument(job.queue);
   const bool stopped = NotedTermination() != 0;
-  if (error == 0 && !stopped && status == HTTP_STATUS_CONTINUE &&
-      finished <= IPP_STATUS_OK_CONFLICTING)
-    return kExitOk;
-  const int fault = stopped      ? kExitFailure
-                    : error != 0 ? Fail(name, std::strerror(error))
-                                 : SpoolerFault(job.queue);
-  cupsCancelJob2(CUPS_HTTP_DEFAULT, job.queue.c_str(), number, 0);  // half a file must not print
-  return fault;
+  if (whole && !stopped && taken && *taken <= IPP_STATUS_OK_CONFLICTING) return kExitOk;
+  const bool silent = whole && !stopped && !taken;
+  const int fault = stopped || silent ? kExitFailure
+                    : error != 0      ? Fail(name, std::strerror(error))
+                                      : SpoolerFault(job.queue);
+  // Half a file must not print, nor a whole one that is sent again.
+  const bool canceled =
+      cupsCancelJob2(CUPS_HTTP_DEFAULT, job.queue.c_str(), number, 0) <= IPP_STATUS_OK_CONFLICTING;
+  if (!silent) return fault;
+  return Fail(job.queue + "-" + std::to_string(number),
+              "the spooler did not say that it has the document",
+              canceled ? "It was canceled: print again"
+                       : "\"lpstat -o\" lists it, with 0 bytes if the document is missing");
 }
 
 int Send(const PrintJob& job, const std::string& text) {
