@@ -306,14 +306,18 @@ int Process::Wait() {
   return child_->status;
 }
 
-std::chrono::milliseconds ProcessTimeLimit(std::chrono::seconds usual) {
+std::chrono::milliseconds TimeLimit(const char* variable, std::chrono::milliseconds usual) {
   constexpr int kLongest = 3600;
-  const char* value = std::getenv("ZARVO_HELPER_SECONDS");
+  const char* value = std::getenv(variable);
   const std::string_view text = value != nullptr ? value : "";
   int seconds = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), seconds);
   const bool valid = error == std::errc() && end == text.data() + text.size();
   return valid && seconds >= 1 && seconds <= kLongest ? std::chrono::seconds(seconds) : usual;
+}
+
+std::chrono::milliseconds ProcessTimeLimit(std::chrono::seconds usual) {
+  return TimeLimit("ZARVO_HELPER_SECONDS", usual);
 }
 
 void EndChildrenOnTermination() { HandleTermination(&KillGroupsAndDie); }

@@ -73,6 +73,9 @@ class Process {
   std::unique_ptr<Child, Reaper> child_;
 };
 
+/// The whole seconds (1 to 3600) that this variable of the environment names, else `usual`.
+std::chrono::milliseconds TimeLimit(const char* variable, std::chrono::milliseconds usual);
+
 /// How long a child may take in all: `usual`, or the whole seconds (1 to 3600) that the
 /// environment's ZARVO_HELPER_SECONDS names, for servers that are slower or less patient than most.
 std::chrono::milliseconds ProcessTimeLimit(std::chrono::seconds usual);

@@ -14,6 +14,8 @@
 #include <string_view>
 #include <utility>
 
+#include "Platform/Process.h"
+
 namespace zarvo {
 namespace {
 
@@ -138,13 +140,14 @@ IppMessage ReadAnswer(http_t* http) {
   return state == IPP_STATE_DATA ? std::move(answer) : nullptr;
 }
 
-Failure Exchange(http_t* http, int job, const char* user, IppMessage* attributes) {
+Failure Exchange(http_t* http, int job, const char* user, std::chrono::milliseconds limit,
+                 IppMessage* attributes) {
   cupsSetPasswordCB2(&NoPassword, nullptr);
   const IppMessage request(NewRequest(job, user));
   const http_status_t sent = cupsSendRequest(http, request.get(), "/", ippLength(request.get()));
   if (sent != HTTP_STATUS_CONTINUE && sent != HTTP_STATUS_OK) return "it does not take the request";
   IppMessage answer = ReadAnswer(http);
-  if (!answer) return "no whole answer in " + std::to_string(kRequestMilliseconds) + " ms";
+  if (!answer) return "no whole answer in " + std::to_string(limit.count()) + " ms";
   if (ippGetStatusCode(answer.get()) > IPP_STATUS_OK_CONFLICTING)
     return std::string("it answers ") + ippErrorString(ippGetStatusCode(answer.get()));
   ipp_attribute_t* told = ippFindAttribute(answer.get(), "job-id", IPP_TAG_INTEGER);
@@ -160,7 +163,8 @@ bool UnderScheduler() {
 }
 
 Failure RequestJobAttributes(const char* job_id, const char* user, IppMessage* attributes) {
-  const auto end = SteadyClock::now() + std::chrono::milliseconds(kRequestMilliseconds);
+  const auto limit = TimeLimit(kRequestVariable, std::chrono::milliseconds(kRequestMilliseconds));
+  const auto end = SteadyClock::now() + limit;
   const char* named = std::getenv("CUPS_SERVER");
   const std::string server = named != nullptr ? named : "";
   const int port = PortOfScheduler();
@@ -169,14 +173,14 @@ Failure RequestJobAttributes(const char* job_id, const char* user, IppMessage* a
   if (!IsLocal(server) || (port == 0 && !server.starts_with("/")))
     return "CUPS_SERVER and IPP_PORT name no scheduler of this machine";
   const Connection http(httpConnect2(server.c_str(), port, nullptr, AF_UNSPEC,
-                                     HTTP_ENCRYPTION_IF_REQUESTED, 1, kRequestMilliseconds,
-                                     nullptr));
+                                     HTTP_ENCRYPTION_IF_REQUESTED, 1,
+                                     static_cast<int>(limit.count()), nullptr));
   if (http == nullptr || httpAddrLocalhost(httpGetAddress(http.get())) == 0)
     return "it cannot be reached";
   const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(end - SteadyClock::now());
   const Deadline deadline(httpGetFd(http.get()), std::max(left, std::chrono::milliseconds(1)));
   if (!deadline.running()) return "there is no timer";
-  return Exchange(http.get(), job, user, attributes);
+  return Exchange(http.get(), job, user, limit, attributes);
 }
 
 }  // namespace zarvo

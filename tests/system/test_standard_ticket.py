@@ -299,6 +299,18 @@ class Faults(unittest.TestCase):
             with self.subTest(server=server):
                 check(CUPS_SERVER=server, IPP_PORT="1")
 
+    def test_a_busy_scheduler_is_waited_for_where_the_server_says_so(self):
+        answer = ANSWER + JOB_7 + attribute(0x23, b"finishings", struct.pack(">i", 28)) + b"\x03"
+
+        def late(connection):
+            time.sleep(1)
+            connection.sendall(HEADER % (b"200 OK", len(answer)) + answer)
+
+        for seconds, told in (("60", 0), ("0", 1), ("", 1)):
+            with self.subTest(seconds=seconds), socket.create_server(("127.0.0.1", 0)) as server:
+                _, warnings = self.print(ZARVO_SCHEDULER_SECONDS=seconds, **serve_once(server, late))
+                self.assertEqual(len(warnings), told, warnings)
+
     def test_sets_of_ten_thousand(self):
         """What is too much is left out and told."""
         page, keyword, number = b"insert-after-page-number", 0x44, 0x21
