@@ -6,7 +6,8 @@
 
 A fault is what loses its power, at which share of the jobs in per cent, and for how many seconds: serverN,
 front, printer-QUEUE, "transfer" (whichever server is taking a large job), or "disk N" (the disk of serverN
-is full meanwhile; root only). --json FILE keeps the result. The exit status is 1 when a job was lost or wrong.
+is full meanwhile; root only). --json FILE keeps the result. When a job was lost or wrong the exit status is 1,
+and what the printers got instead, with the right ones and the spoolers' logs, stays in a folder that is named.
 """
 
 import argparse
@@ -18,6 +19,7 @@ import json
 import os
 import pathlib
 import re
+import shutil
 import signal
 import sys
 import tempfile
@@ -48,12 +50,18 @@ class Fault:
         self.seconds, self.begun, self.over = int(match[3]), None, False
 
     def look(self, fleet, received, send_large):
-        if self.begun is None and received >= self.after:
+        if self.begun is None and received >= self.after and self._can_begin(fleet):
             self._begin(fleet, send_large)
             self.begun = time.monotonic()
         elif self.begun and not self.over and time.monotonic() > self.begun + self.seconds:
             self._end(fleet)
             self.over = True
+
+    def _can_begin(self, fleet):
+        """What has no power yet from a fault before cannot lose it."""
+        machine = (fleet.printers[self.what[8:]] if self.what.startswith("printer-") else
+                   None if self.what == "transfer" else self._spooler(fleet).machine)
+        return machine is None or machine.is_on
 
     def _spooler(self, fleet):
         return fleet.front if self.what == "front" else fleet.servers[int(re.sub(r"\D", "", self.what)) - 1]
@@ -71,6 +79,8 @@ class Fault:
     def _taking_large_job(fleet, send_large):
         def taking():
             for spooler in fleet.servers:
+                if not spooler.machine.is_on:
+                    continue
                 for file in (spooler.root / "spool").glob("?" * 8):
                     with contextlib.suppress(FileNotFoundError):
                         if LARGE // 32 < file.stat().st_size < LARGE:
@@ -101,7 +111,7 @@ class Sender:
     def __init__(self, fleet, kinds, queues, folder):
         self.fleet, self.kinds, self.queues, self.folder = fleet, kinds, queues, pathlib.Path(folder)
         self.sent, self.refused, self._lock = {}, collections.Counter(), threading.Lock()
-        self.given_up = threading.Event()
+        self.given_up, self.again, self._names = threading.Event(), [], {}
 
     def send(self, number, kind=None, padding=0):
         kind = kind or self.kinds[number % len(self.kinds)]
@@ -113,7 +123,7 @@ class Sender:
             try:
                 # Jobs go to the queues in turn, whatever their kind.
                 queue = self.queues[number // len(self.kinds) % len(self.queues)]
-                self.fleet.front.send(queue, file, options, mark)
+                name = f"{queue}-{self.fleet.front.send(queue, file, options, mark)}"
                 break
             except RuntimeError as error:  # what a user does who is told that it did not work
                 with self._lock:
@@ -122,6 +132,17 @@ class Sender:
         file.unlink()
         with self._lock:
             self.sent[mark] = kind if not padding else "large"
+            self._names[name] = mark, (number, kind, padding)
+
+    def asked_again(self, told):
+        """For a job that the front says it has the name of only: what its sender does then, as arguments of send()."""
+        match = re.match(r"(\S+) of \S+ has come without its document: it has to be sent again", told)
+        if not match or match[1] not in self._names:
+            return None
+        self.fleet.front.run("cancel", match[1])
+        mark, arguments = self._names.pop(match[1])
+        self.again.append(mark)
+        return arguments
 
 
 def show(fleet, records, jobs, clear):
@@ -172,6 +193,8 @@ def run(fleet, sender, jobs, faults, expected, table=2):
                     for told in fleet.look_after():
                         print(told)
                         height = 0
+                        if arguments := sender.asked_again(told):
+                            waiting.append(pool.submit(sender.send, *arguments))
                 if now > shown + table:
                     shown, height = now, show(fleet, records, jobs + len(expected), height)
                 time.sleep(BEAT)
@@ -186,10 +209,25 @@ def run(fleet, sender, jobs, faults, expected, table=2):
     records = fleet.received()
     show(fleet, records, len(sender.sent), height)
     lost, doubled, wrong, cut = judge(sender.sent, expected, records)
+    if lost or wrong:
+        keep_evidence(fleet, sender, expected, lost, wrong)
     return {"jobs": len(sender.sent), "seconds": round(changed - begun), "lost": lost, "doubled": doubled,
-            "wrong": wrong, "cut": cut, "refused": dict(sender.refused),
+            "wrong": wrong, "cut": cut, "sent again": sender.again, "refused": dict(sender.refused),
             "restarted": sum(server.restarted for server in fleet.servers), "faults": [fault.text for fault in faults],
             "pages": sum(record["pages"] for record in records if record["whole"])}
+
+
+def keep_evidence(fleet, sender, expected, lost, wrong):
+    folder = pathlib.Path(tempfile.mkdtemp(prefix="zarvo-fleet-wrong-"))
+    for number, record in enumerate(fleet.received()):
+        if set(record["mark"]) & set(lost + wrong):
+            name = f"{'-'.join(record['mark'])}-{number}-{record['from']}-{'whole' if record['whole'] else 'cut'}.prn"
+            shutil.copy(fleet.kept / record["digest"], folder / name)
+    for kind in {sender.sent[mark] for mark in wrong if mark in sender.sent}:
+        shutil.copy(fleet.kept / expected[kind], folder / f"right-{kind}.prn")
+    for spooler in (fleet.front, *fleet.servers):
+        (folder / f"{spooler.machine.name}.log").write_text(spooler.log() + spooler.run("lpstat", "-o", "-p"))
+    print(f"what came out instead is in {folder}")
 
 
 def learn(fleet, sender, large):
@@ -238,7 +276,7 @@ def main():
         pathlib.Path(options.json).write_text(json.dumps(result, indent=1) + "\n")
     print(f"{result['jobs']} jobs in {result['seconds']} s: {len(result['lost'])} lost, {len(result['wrong'])} wrong, "
           f"{len(result['doubled'])} doubled, {result['cut']} cut off and printed once more")
-    for name in ("lost", "wrong", "doubled", "refused", "restarted"):
+    for name in ("lost", "wrong", "doubled", "sent again", "refused", "restarted"):
         if result[name]:
             print(f"{name}: {result[name]}")
     return int(bool(result["lost"] or result["wrong"]))

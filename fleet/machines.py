@@ -101,8 +101,11 @@ class Machine:
         """At once, in the middle of whatever it does, and without a word to whom it talks with."""
         self._plug("down")
         if self._power:
+            first = self.first_process() if self.is_on else ""
             self._power.kill()
             self._power.wait()
+            # The last of its programs, until when the next could not have its ports.
+            wait_until(lambda: has_ended(first), f"{self.name} does not end")
         self._power = None
 
     @property
@@ -135,7 +138,7 @@ class Machine:
     def first_process(self):
         """From which all others on it come, by its number outside."""
         children = pathlib.Path(f"/proc/{self._power.pid}/task/{self._power.pid}/children").read_text()
-        return children.split()[0]
+        return children.split()[0] if children else ""
 
     def _within(self):
         return [*BOUND, "nsenter", f"--net=/proc/{self._holder.pid}/ns/net", "--"]
@@ -144,6 +147,14 @@ class Machine:
         # The last of all goes down with a network that is gone already.
         subprocess.run(["ip", "link", "set", f"m{self.number}", state], check=state == "up",
                        stderr=subprocess.DEVNULL)
+
+
+def has_ended(process):
+    """Whether a process, by its number, is gone but for what its parent may ask about it."""
+    try:
+        return not process or pathlib.Path(f"/proc/{process}/stat").read_text().rpartition(")")[2].split()[0] == "Z"
+    except OSError:
+        return True
 
 
 def wait_until(holds, what, timeout=60):

@@ -1,13 +1,15 @@
 # SPDX-License-Identifier: Apache-2.0
-"""Plays a printer: printer.py JOURNAL. Takes raw jobs on port 9100, one connection after the other, as printers do.
+"""Plays a printer: printer.py JOURNAL KEPT. Takes raw jobs on port 9100, one connection after the other, as printers do.
 
 Each job becomes a line of JSON in JOURNAL: from (address), bytes, mark, whole, pages and digest. A job's mark is
 J and seven digits; `mark` lists those that are in it, and `digest` is that of the job with every mark blanked,
-so that equal jobs have equal digests. What ends before its last line is not whole.
+so that equal jobs have equal digests. What ends before its last line is not whole. The first job with each digest
+stays in the folder KEPT, under that name, so that a wrong one can be looked at beside the right one.
 """
 
 import hashlib
 import json
+import pathlib
 import re
 import socket
 import sys
@@ -25,7 +27,7 @@ def describe(data, address):
             "pages": len(re.findall(rb"^%%Page: ", data, re.M)), "digest": hashlib.sha256(blank).hexdigest()}
 
 
-def serve(journal):
+def serve(journal, kept):
     with socket.create_server(("", 9100), backlog=8) as listener, open(journal, "a", buffering=1) as lines:
         while True:
             connection, (address, _) = listener.accept()
@@ -38,8 +40,12 @@ def serve(journal):
                 except OSError:
                     pass
             if data:
-                lines.write(json.dumps(describe(bytes(data), address)) + "\n")
+                record = describe(bytes(data), address)
+                file = pathlib.Path(kept, record["digest"])
+                if not file.exists():
+                    file.write_bytes(data)
+                lines.write(json.dumps(record) + "\n")
 
 
 if __name__ == "__main__":
-    serve(sys.argv[1])
+    serve(*sys.argv[1:])

@@ -171,7 +171,13 @@ class Fleet(contextlib.ExitStack):
         return told
 
     def start_printer(self, queue):
-        self.printers[queue].power_on(sys.executable, FLEET / "printer.py", self._journal(queue))
+        self.kept.mkdir(exist_ok=True)
+        self.printers[queue].power_on(sys.executable, FLEET / "printer.py", self._journal(queue), self.kept)
+
+    @property
+    def kept(self):
+        """The folder with the first job of each digest."""
+        return self.folder / "kept"
 
     def _journal(self, queue):
         path = self.folder / f"{queue}.jsonl"
