@@ -2,13 +2,16 @@
 # SPDX-License-Identifier: Apache-2.0
 """zarvo preview, print and doctor: real files, the real spooler, pictures that are measured."""
 
+import contextlib
 import json
 import os
 import pathlib
 import pty
 import re
 import signal
+import socket
 import subprocess
+import threading
 import time
 import unittest
 
@@ -138,7 +141,42 @@ class Preview(ZarvoTest):
                 self.assertIn(cause, self.errors)
 
 
+def way_that_breaks(port):
+    """The port of a way to a spooler on which each connection breaks when a whole document has gone over it,
+    before the spooler's answer."""
+    way = socket.create_server(("127.0.0.1", 0))
+
+    def forward(source, target, is_client):
+        data = b""
+        with contextlib.suppress(OSError), source:
+            while piece := source.recv(1 << 16):
+                data = data[-99:] + piece
+                if is_client and b"%%EOF" in data and data.endswith(b"0\r\n\r\n"):
+                    source.shutdown(socket.SHUT_RDWR)
+                target.sendall(piece)
+            target.shutdown(socket.SHUT_RDWR)
+
+    def serve():
+        while True:
+            client, _ = way.accept()
+            spooler = socket.create_connection(("127.0.0.1", port))
+            for ends in (client, spooler, True), (spooler, client, False):
+                threading.Thread(target=forward, args=ends, daemon=True).start()
+
+    threading.Thread(target=serve, daemon=True).start()
+    return way.getsockname()[1]
+
+
 class Spooler(ZarvoTest):
+    def test_no_answer_is_no_success(self):
+        with PrivateCupsd() as cupsd:
+            cupsd.add_queue("office", PPD, "socket://127.0.0.1:9")
+            cupsd.run("cupsdisable", "office")
+            self.environment["CUPS_SERVER"] = f"127.0.0.1:{way_that_breaks(cupsd.port)}"
+            self.run_zarvo("print", self.path("job.ps", document()), "-d", "office", status=2)
+            self.assertIn("office-1: the spooler did not say that it has the document. It was canceled", self.errors)
+            self.assertEqual(cupsd.run("lpstat", "-o"), "")
+
     def test_print_and_queue(self):
         settings = self.path("s.json", {
             "JobType": {"JobType": "secure", "SecurePrintPassword": "0391"},
