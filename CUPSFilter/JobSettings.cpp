@@ -8,6 +8,7 @@
 
 #include "CUPSFilter/Options/MediaSize.h"
 #include "CUPSFilter/Options/common.h"
+#include "Platform/Phrase.h"
 #include "Source/CFAdditions.h"
 #include "Source/FaxCover.h"
 #include "Source/NearestName.h"
@@ -44,8 +45,9 @@ std::optional<std::string> WatermarkAtIndex(std::int32_t index, JobNotices* noti
   const auto position = static_cast<std::size_t>(index) - 1;
   const std::string* name = position < names.size() ? names[position].AsString() : nullptr;
   if (name != nullptr) return *name;
-  notices->Add("watermark " + std::to_string(index) + " was left out: the store has " +
-               std::to_string(names.size()) + "; \"zarvo watermark list\" shows them");
+  notices->Add(
+      Phrase("watermark %1 was left out: the store has %2; \"zarvo watermark list\" shows them",
+             {std::to_string(index), std::to_string(names.size())}));
   return std::nullopt;
 }
 
@@ -59,9 +61,10 @@ void LoadWatermark(const char* collection, const char* what, const std::string& 
   for (const Value& entry : entries)
     if (const std::string* text = entry.AsString()) names.push_back(*text);
   const std::string nearest = NearestName(name, names);
-  notices->Add(
-      std::string(what) + " \"" + name + "\" was left out: the store has none of that name; " +
-      (nearest.empty() ? "\"zarvo watermark list\" shows them" : "did you mean " + nearest + "?"));
+  notices->Add(Phrase("%1 \"%2\" was left out: the store has none of that name", {what, name}) +
+               "; " +
+               (nearest.empty() ? Phrase("\"zarvo watermark list\" shows them")
+                                : Phrase("did you mean %1?", {nearest})));
 }
 
 /// The cover is drawn much later; its watermark is looked for now, with everything else that may be

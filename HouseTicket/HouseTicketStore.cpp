@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "Platform/AtomicFile.h"
+#include "Platform/Phrase.h"
 #include "Platform/PropertyList.h"
 #include "Source/CFAdditions.h"
 #include "Source/NearestName.h"
@@ -117,16 +118,17 @@ void HouseTicketStore::Remove(std::string_view name) {
   if (const auto entry = entries_.find(name); entry != entries_.end()) entries_.erase(entry);
 }
 
-Failure HouseTicketStore::Change(const Alter& alter) {
+Failure HouseTicketStore::Change(const Alter& alter, std::chrono::milliseconds wait) {
   if (path_.empty())
     return shared_ ? "there is no shared data folder" : "HOME names no folder to keep it in";
   const std::string folder = path_.substr(0, path_.rfind('/'));
   if (!shared_ && !MakeFolders(folder)) return folder + ": " + std::strerror(errno);
-  const FolderLock lock(folder);
+  const FolderLock lock(folder, wait);
   const int error = errno;
   if (!lock)
     return folder + ": " +
-           (error == EAGAIN ? "another program keeps it locked" : std::strerror(error));
+           (error == EAGAIN ? Phrase("another program keeps it locked; try again soon")
+                            : std::strerror(error));
   read_ = true;
   if (std::string fault = Load(); !fault.empty()) return fault;
   if (std::string fault = alter(this); !fault.empty()) return fault;

@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "HouseTicket/HouseTicket.h"
+#include "Platform/AtomicFile.h"
 #include "Platform/Failure.h"
 
 namespace zarvo {
@@ -44,8 +45,8 @@ class HouseTicketStore {
   using Alter = std::function<Failure(HouseTicketStore*)>;
   /// Reads the file anew, lets `alter` change what it holds with the two functions below, and
   /// writes it in one piece; other writers are kept out meanwhile. When that fails the file is
-  /// as it was, and a damaged one is never written over.
-  Failure Change(const Alter& alter);
+  /// as it was, and a damaged one is never written over. `wait` is for those other writers.
+  Failure Change(const Alter& alter, std::chrono::milliseconds wait = FolderLock::kUsualWait);
   /// Fails when the record cannot be kept here.
   Failure Put(const std::string& name, const HouseTicket& house);
   void Remove(std::string_view name);

@@ -171,9 +171,10 @@ std::optional<std::string> ReadWholeFile(int fd, std::size_t max_bytes) {
   return std::nullopt;
 }
 
-FolderLock::FolderLock(const std::string& folder) : path_(folder + '/' + kLockFile) {
+FolderLock::FolderLock(const std::string& folder, std::chrono::milliseconds wait)
+    : path_(folder + '/' + kLockFile) {
   using namespace std::chrono_literals;
-  const auto deadline = std::chrono::steady_clock::now() + 10s;
+  const auto deadline = std::chrono::steady_clock::now() + wait;
   for (;;) {
     UniqueFd file(::open(path_.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, 0600));
     if (!file) return;

@@ -4,6 +4,7 @@
 
 #include <sys/types.h>
 
+#include <chrono>
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -33,14 +34,16 @@ UniqueFd OpenRegularFile(const std::string& path);
 /// Keeps other holders of the same folder's lock out for the life of the object: for changes that
 /// read a file, alter it and write it back. The lock is advisory. It is a file of its own
 /// (kLockFile) that only those can open who may write the folder, and that goes with the object;
-/// one that a killed program has left is taken over. Waits at most ten seconds for another holder.
-/// An object that could not have the lock is false, and errno is set, to EAGAIN when there is still
-/// another holder.
+/// one that a killed program has left is taken over. Waits for another holder as long as it is
+/// told. An object that could not have the lock is false, and errno is set, to EAGAIN when there is
+/// still another holder.
 class FolderLock {
  public:
   static constexpr char kLockFile[] = ".zarvo-lock";
 
-  explicit FolderLock(const std::string& folder);
+  static constexpr std::chrono::milliseconds kUsualWait{10000};
+
+  explicit FolderLock(const std::string& folder, std::chrono::milliseconds wait = kUsualWait);
   ~FolderLock();
   FolderLock(const FolderLock&) = delete;
   FolderLock& operator=(const FolderLock&) = delete;

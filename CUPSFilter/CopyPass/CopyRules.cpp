@@ -15,6 +15,7 @@
 #include "CUPSFilter/Watermark/WatermarkText.h"
 #include "CUPSFilter/Watermark/outputPICT.h"
 #include "Platform/Log.h"
+#include "Platform/Phrase.h"
 #include "Platform/Text.h"
 #include "Source/CFAdditions.h"
 #include "Source/TicketNames.h"
@@ -194,15 +195,15 @@ void CopyRules::TellLostFigure(std::string_view line) {
   if (!hides_showpage_ || !shape_.OwnLine() || !shape_.EndsWithoutPage()) return;
   if (!line.starts_with(kNoPages) || notices_ == nullptr) return;
   notices_->Add(
-      "the figure has no page comments, so the spooler has found no page in it and nothing comes "
-      "out; \"ps2pdf -dEPSCrop\" makes a PDF of it that can be printed");
+      Phrase("the figure has no page comments, so the spooler has found no page in it and nothing "
+             "comes out; \"ps2pdf -dEPSCrop\" makes a PDF of it that can be printed"));
 }
 
 void CopyRules::TellDosFigure() {
   if (notices_ == nullptr) return;
   notices_->Add(
-      "the figure has a preview for DOS around it, which printers do not understand, so nothing "
-      "may come out; \"ps2pdf -dEPSCrop\" makes a PDF of it that can be printed");
+      Phrase("the figure has a preview for DOS around it, which printers do not understand, so "
+             "nothing may come out; \"ps2pdf -dEPSCrop\" makes a PDF of it that can be printed"));
 }
 
 /// Copies a line with all its parts. Only the last one can be followed by counted data.
@@ -250,7 +251,8 @@ void CopyRules::Finish() {
   frame_.End();
   copies_.Finish();
   if (copies_.ChoseNone() && notices_ != nullptr)
-    notices_->Add("page-ranges, page-set: the document has none of these pages, nothing comes out");
+    notices_->Add(
+        Phrase("page-ranges, page-set: the document has none of these pages, nothing comes out"));
   page_hooks_->Finish();
 }
 
@@ -298,8 +300,8 @@ void CopyRules::TakeExit() {
 void CopyRules::TellEarlyEnd() {
   if (std::exchange(early_end_told_, true) || notices_ == nullptr) return;
   notices_->Add(
-      "the document ends the printer's job before its own end; what follows may be missing on "
-      "paper; print it by another program");
+      Phrase("the document ends the printer's job before its own end; what follows may be missing "
+             "on paper; print it by another program"));
 }
 
 bool CopyRules::WatchesEveryLine() const {

@@ -7,6 +7,7 @@
 #include "CUPSFilter/Options/common.h"
 #include "CUPSFilter/Watermark/WatermarkText.h"
 #include "CUPSFilter/Watermark/outputPICT.h"
+#include "Platform/Phrase.h"
 
 namespace zarvo {
 
@@ -22,10 +23,12 @@ int AskedTurn() {
   return orientation == 1 ? kLandscape : orientation;
 }
 
-constexpr char kTurnUnknown[] =
-    "watermark: a page is a picture, which does not tell how it is read, so its mark stands "
-    "upright "
-    "on the paper; when that is wrong, which a preview shows, say WMTurn=90 or WMTurn=270";
+constexpr const char* kTurnUnknown =
+    PhraseText(
+        "watermark: a page is a picture, which does not tell how it is read, so its mark "
+        "stands upright on the paper; when that is wrong, which a preview shows, say "
+        "WMTurn=90 or WMTurn=270")
+        .data();
 
 void WriteFlag(FILE* output, const char* name, bool value) {
   std::fprintf(output, "/%s %s def\n", name, value ? "true" : "false");

@@ -8,6 +8,7 @@
 #include <cstdio>
 #include <string_view>
 
+#include "Platform/Phrase.h"
 #include "Source/WatermarkSupport.h"
 
 namespace zarvo {
@@ -17,9 +18,11 @@ namespace zarvo {
 extern const std::string_view WatermarkProlog;
 
 /// The notice of an image for which the log tells the reason.
-inline constexpr char kImageLeftOut[] =
-    "the watermark's image was left out or is not whole; the log tells why, the administrator can "
-    "store it anew";
+inline constexpr const char* kImageLeftOut =
+    PhraseText(
+        "the watermark's image was left out or is not whole; the log tells why, the "
+        "administrator can store it anew")
+        .data();
 
 /// Writes the record's image as an array of pixel rows that the printer reads into memory. The
 /// image is decoded by the drawing helper and arrives row by row, so memory does not grow with it.

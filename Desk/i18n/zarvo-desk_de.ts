@@ -28,6 +28,18 @@
       <translation>„None“ und was mit „Custom.“ beginnt, bedeutet in Druckdialogen etwas anderes</translation>
     </message>
     <message>
+      <source>"zarvo watermark list" shows them</source>
+      <translation>"zarvo watermark list" zeigt sie</translation>
+    </message>
+    <message>
+      <source>%1 "%2" was left out: the store has none of that name</source>
+      <translation>%1 „%2“ wurde weggelassen: keines dieses Namens ist gespeichert</translation>
+    </message>
+    <message>
+      <source>%1 (by itself: %2)</source>
+      <translation>%1 (von sich aus: %2)</translation>
+    </message>
+    <message>
       <source>%1 (group)</source>
       <translation>%1 (Gruppe)</translation>
     </message>
@@ -78,6 +90,10 @@
     <message>
       <source>%1 sheets after page %2</source>
       <translation>%1 Blätter nach Seite %2</translation>
+    </message>
+    <message>
+      <source>%1, number %2: %3</source>
+      <translation>%1, Nummer %2: %3</translation>
     </message>
     <message>
       <source>%1: the job type is no number; send it as ..d_JobType..n=NUMBER</source>
@@ -2616,6 +2632,10 @@
       <translation>ein gewöhnlicher Auftrag</translation>
     </message>
     <message>
+      <source>another program keeps it locked; try again soon</source>
+      <translation>ein anderes Programm hält es gesperrt; versuchen Sie es gleich noch einmal</translation>
+    </message>
+    <message>
       <source>any page</source>
       <translation>keiner Seite</translation>
     </message>
@@ -2624,8 +2644,16 @@
       <translation>etwas Beliebiges</translation>
     </message>
     <message>
+      <source>around the booklet</source>
+      <translation>um die Broschüre herum</translation>
+    </message>
+    <message>
       <source>behind the page</source>
       <translation>hinter der Seite</translation>
+    </message>
+    <message>
+      <source>did you mean %1?</source>
+      <translation>meinten Sie %1?</translation>
     </message>
     <message>
       <source>fax settings have no effect in a job that is no fax</source>
@@ -2642,6 +2670,10 @@
     <message>
       <source>has no effect without %1; add {"JTMLOptionAll": true} there</source>
       <translation>wirkt nicht ohne %1; ergänzen Sie dort {"JTMLOptionAll": true}</translation>
+    </message>
+    <message>
+      <source>in the middle of the booklet</source>
+      <translation>in der Mitte der Broschüre</translation>
     </message>
     <message>
       <source>insert</source>
@@ -2712,6 +2744,18 @@
       <translation>Seite %1</translation>
     </message>
     <message>
+      <source>page-ranges, page-set: the document has none of these pages, nothing comes out</source>
+      <translation>page-ranges, page-set: das Dokument hat keine dieser Seiten, es kommt nichts heraus</translation>
+    </message>
+    <message>
+      <source>print it again as the reason says</source>
+      <translation>Drucken Sie es noch einmal, wie der Grund es sagt</translation>
+    </message>
+    <message>
+      <source>print it again as the reason says, and remove this one: cancel %1</source>
+      <translation>Drucken Sie es noch einmal, wie der Grund es sagt, und entfernen Sie diesen Auftrag: cancel %1</translation>
+    </message>
+    <message>
       <source>recipient %1 of the fax cannot be read; send it as a group of settings</source>
       <translation>Empfänger %1 des Faxes kann nicht gelesen werden; senden Sie ihn als Gruppe von Einstellungen</translation>
     </message>
@@ -2760,6 +2804,10 @@
       <translation>das XML-Auftragsticket endet nicht</translation>
     </message>
     <message>
+      <source>the document ends the printer's job before its own end; what follows may be missing on paper; print it by another program</source>
+      <translation>das Dokument beendet den Auftrag des Druckers vor seinem eigenen Ende; was folgt, kann auf dem Papier fehlen; drucken Sie es mit einem anderen Programm</translation>
+    </message>
+    <message>
       <source>the end of the job (PJL EOJ) is missing</source>
       <translation>das Ende des Auftrags (PJL EOJ) fehlt</translation>
     </message>
@@ -2772,8 +2820,20 @@
       <translation>das Fax hat keinen lesbaren Empfänger; fügen Sie unter „Fax“ einen hinzu</translation>
     </message>
     <message>
+      <source>the figure has a preview for DOS around it, which printers do not understand, so nothing may come out; "ps2pdf -dEPSCrop" makes a PDF of it that can be printed</source>
+      <translation>die Abbildung hat eine Vorschau für DOS um sich, die Drucker nicht verstehen, so dass vielleicht nichts herauskommt; "ps2pdf -dEPSCrop" macht daraus ein PDF, das gedruckt werden kann</translation>
+    </message>
+    <message>
+      <source>the figure has no page comments, so the spooler has found no page in it and nothing comes out; "ps2pdf -dEPSCrop" makes a PDF of it that can be printed</source>
+      <translation>die Abbildung hat keine Seitenkommentare, darum hat der Spooler keine Seite darin gefunden, und es kommt nichts heraus; "ps2pdf -dEPSCrop" macht daraus ein PDF, das gedruckt werden kann</translation>
+    </message>
+    <message>
       <source>the job header holds a line that is no PJL</source>
       <translation>im Kopf des Auftrags steht eine Zeile, die kein PJL ist</translation>
+    </message>
+    <message>
+      <source>the job was not printed</source>
+      <translation>der Auftrag wurde nicht gedruckt</translation>
     </message>
     <message>
       <source>the printer stops after page %1: %2</source>
@@ -2796,6 +2856,10 @@
       <translation>das Wasserzeichen hinter der Seite ist auf %1 nicht zu sehen, weil das Dokument dort seinen eigenen Grund malt; legen Sie es über die Seite</translation>
     </message>
     <message>
+      <source>the watermark's image was left out or is not whole; the log tells why, the administrator can store it anew</source>
+      <translation>das Bild des Wasserzeichens wurde weggelassen oder ist nicht vollständig; das Protokoll sagt warum, der Verwalter kann es neu speichern</translation>
+    </message>
+    <message>
       <source>true or false</source>
       <translation>ja oder nein</translation>
     </message>
@@ -2810,6 +2874,14 @@
     <message>
       <source>unknown option; did you mean %1?</source>
       <translation>unbekannte Option; meinten Sie %1?</translation>
+    </message>
+    <message>
+      <source>watermark %1 was left out: the store has %2; "zarvo watermark list" shows them</source>
+      <translation>Wasserzeichen %1 wurde weggelassen: gespeichert sind %2; "zarvo watermark list" zeigt sie</translation>
+    </message>
+    <message>
+      <source>watermark: a page is a picture, which does not tell how it is read, so its mark stands upright on the paper; when that is wrong, which a preview shows, say WMTurn=90 or WMTurn=270</source>
+      <translation>Wasserzeichen: eine Seite ist ein Bild, das nicht sagt, wie es gelesen wird; ihr Zeichen steht darum aufrecht auf dem Papier; ist das falsch, was eine Vorschau zeigt, geben Sie WMTurn=90 oder WMTurn=270 an</translation>
     </message>
   </context>
 </TS>

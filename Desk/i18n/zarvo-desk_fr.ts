@@ -28,6 +28,18 @@
       <translation>« None » et ce qui commence par « Custom. » ont un autre sens pour les dialogues d’impression</translation>
     </message>
     <message>
+      <source>"zarvo watermark list" shows them</source>
+      <translation>« zarvo watermark list » les montre</translation>
+    </message>
+    <message>
+      <source>%1 "%2" was left out: the store has none of that name</source>
+      <translation>%1 « %2 » a été omis : aucun de ce nom n'est enregistré</translation>
+    </message>
+    <message>
+      <source>%1 (by itself: %2)</source>
+      <translation>%1 (de lui-même : %2)</translation>
+    </message>
+    <message>
       <source>%1 (group)</source>
       <translation>%1 (groupe)</translation>
     </message>
@@ -78,6 +90,10 @@
     <message>
       <source>%1 sheets after page %2</source>
       <translation>%1 feuilles après la page %2</translation>
+    </message>
+    <message>
+      <source>%1, number %2: %3</source>
+      <translation>%1, numéro %2 : %3</translation>
     </message>
     <message>
       <source>%1: the job type is no number; send it as ..d_JobType..n=NUMBER</source>
@@ -2616,6 +2632,10 @@
       <translation>une tâche ordinaire</translation>
     </message>
     <message>
+      <source>another program keeps it locked; try again soon</source>
+      <translation>un autre programme le verrouille ; réessayez bientôt</translation>
+    </message>
+    <message>
       <source>any page</source>
       <translation>aucune page</translation>
     </message>
@@ -2624,8 +2644,16 @@
       <translation>n’importe quoi</translation>
     </message>
     <message>
+      <source>around the booklet</source>
+      <translation>autour du livret</translation>
+    </message>
+    <message>
       <source>behind the page</source>
       <translation>derrière la page</translation>
+    </message>
+    <message>
+      <source>did you mean %1?</source>
+      <translation>vouliez-vous dire %1 ?</translation>
     </message>
     <message>
       <source>fax settings have no effect in a job that is no fax</source>
@@ -2642,6 +2670,10 @@
     <message>
       <source>has no effect without %1; add {"JTMLOptionAll": true} there</source>
       <translation>est sans effet sans %1 ; ajoutez-y {"JTMLOptionAll": true}</translation>
+    </message>
+    <message>
+      <source>in the middle of the booklet</source>
+      <translation>au milieu du livret</translation>
     </message>
     <message>
       <source>insert</source>
@@ -2712,6 +2744,18 @@
       <translation>page %1</translation>
     </message>
     <message>
+      <source>page-ranges, page-set: the document has none of these pages, nothing comes out</source>
+      <translation>page-ranges, page-set : le document n'a aucune de ces pages, rien ne sort</translation>
+    </message>
+    <message>
+      <source>print it again as the reason says</source>
+      <translation>Imprimez-le à nouveau comme le dit la raison</translation>
+    </message>
+    <message>
+      <source>print it again as the reason says, and remove this one: cancel %1</source>
+      <translation>Imprimez-le à nouveau comme le dit la raison, et supprimez celui-ci : cancel %1</translation>
+    </message>
+    <message>
       <source>recipient %1 of the fax cannot be read; send it as a group of settings</source>
       <translation>le destinataire %1 de la télécopie ne peut être lu ; envoyez-le comme groupe de réglages</translation>
     </message>
@@ -2760,6 +2804,10 @@
       <translation>le ticket XML ne finit pas</translation>
     </message>
     <message>
+      <source>the document ends the printer's job before its own end; what follows may be missing on paper; print it by another program</source>
+      <translation>le document termine le travail de l'imprimante avant sa propre fin ; la suite peut manquer sur le papier ; imprimez-le avec un autre programme</translation>
+    </message>
+    <message>
       <source>the end of the job (PJL EOJ) is missing</source>
       <translation>la fin de la tâche (PJL EOJ) manque</translation>
     </message>
@@ -2772,8 +2820,20 @@
       <translation>la télécopie n’a pas de destinataire lisible ; ajoutez-en un sous « Télécopie »</translation>
     </message>
     <message>
+      <source>the figure has a preview for DOS around it, which printers do not understand, so nothing may come out; "ps2pdf -dEPSCrop" makes a PDF of it that can be printed</source>
+      <translation>la figure est entourée d'un aperçu pour DOS que les imprimantes ne comprennent pas, si bien que rien ne sortira peut-être ; « ps2pdf -dEPSCrop » en fait un PDF imprimable</translation>
+    </message>
+    <message>
+      <source>the figure has no page comments, so the spooler has found no page in it and nothing comes out; "ps2pdf -dEPSCrop" makes a PDF of it that can be printed</source>
+      <translation>la figure n'a pas de commentaires de page, le spouleur n'y a donc trouvé aucune page et rien ne sort ; « ps2pdf -dEPSCrop » en fait un PDF imprimable</translation>
+    </message>
+    <message>
       <source>the job header holds a line that is no PJL</source>
       <translation>l’en-tête contient une ligne qui n’est pas du PJL</translation>
+    </message>
+    <message>
+      <source>the job was not printed</source>
+      <translation>le travail n'a pas été imprimé</translation>
     </message>
     <message>
       <source>the printer stops after page %1: %2</source>
@@ -2796,6 +2856,10 @@
       <translation>le filigrane derrière la page ne se voit pas : %1, où le document peint son propre fond ; mettez-le par-dessus la page</translation>
     </message>
     <message>
+      <source>the watermark's image was left out or is not whole; the log tells why, the administrator can store it anew</source>
+      <translation>l'image du filigrane a été omise ou n'est pas entière ; le journal dit pourquoi, l'administrateur peut l'enregistrer à nouveau</translation>
+    </message>
+    <message>
       <source>true or false</source>
       <translation>oui ou non</translation>
     </message>
@@ -2810,6 +2874,14 @@
     <message>
       <source>unknown option; did you mean %1?</source>
       <translation>option inconnue ; vouliez-vous dire %1 ?</translation>
+    </message>
+    <message>
+      <source>watermark %1 was left out: the store has %2; "zarvo watermark list" shows them</source>
+      <translation>le filigrane %1 a été omis : %2 sont enregistrés ; « zarvo watermark list » les montre</translation>
+    </message>
+    <message>
+      <source>watermark: a page is a picture, which does not tell how it is read, so its mark stands upright on the paper; when that is wrong, which a preview shows, say WMTurn=90 or WMTurn=270</source>
+      <translation>filigrane : une page est une image qui ne dit pas dans quel sens elle se lit, sa marque est donc droite sur le papier ; si c'est faux, ce qu'un aperçu montre, indiquez WMTurn=90 ou WMTurn=270</translation>
     </message>
   </context>
 </TS>

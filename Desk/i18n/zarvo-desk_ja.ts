@@ -28,6 +28,18 @@
       <translation>「None」と「Custom.」で始まる名前は、印刷ダイアログでは別の意味になります</translation>
     </message>
     <message>
+      <source>"zarvo watermark list" shows them</source>
+      <translation>"zarvo watermark list" で一覧できます</translation>
+    </message>
+    <message>
+      <source>%1 "%2" was left out: the store has none of that name</source>
+      <translation>%1「%2」は省かれました: その名前のものは保存されていません</translation>
+    </message>
+    <message>
+      <source>%1 (by itself: %2)</source>
+      <translation>%1 (通常は %2)</translation>
+    </message>
+    <message>
       <source>%1 (group)</source>
       <translation>%1（グループ）</translation>
     </message>
@@ -78,6 +90,10 @@
     <message>
       <source>%1 sheets after page %2</source>
       <translation>%2 ページの後に %1 枚</translation>
+    </message>
+    <message>
+      <source>%1, number %2: %3</source>
+      <translation>%1、%2 番目: %3</translation>
     </message>
     <message>
       <source>%1: the job type is no number; send it as ..d_JobType..n=NUMBER</source>
@@ -2620,6 +2636,10 @@
       <translation>通常のジョブ</translation>
     </message>
     <message>
+      <source>another program keeps it locked; try again soon</source>
+      <translation>別のプログラムがロックしています。少し後でもう一度お試しください</translation>
+    </message>
+    <message>
       <source>any page</source>
       <translation>どのページ</translation>
     </message>
@@ -2628,8 +2648,16 @@
       <translation>任意の値</translation>
     </message>
     <message>
+      <source>around the booklet</source>
+      <translation>冊子の外側</translation>
+    </message>
+    <message>
       <source>behind the page</source>
       <translation>ページの下</translation>
+    </message>
+    <message>
+      <source>did you mean %1?</source>
+      <translation>%1 のことですか?</translation>
     </message>
     <message>
       <source>fax settings have no effect in a job that is no fax</source>
@@ -2646,6 +2674,10 @@
     <message>
       <source>has no effect without %1; add {"JTMLOptionAll": true} there</source>
       <translation>%1 がないと効きません。そこに {"JTMLOptionAll": true} を追加してください</translation>
+    </message>
+    <message>
+      <source>in the middle of the booklet</source>
+      <translation>冊子の中央</translation>
     </message>
     <message>
       <source>insert</source>
@@ -2716,6 +2748,18 @@
       <translation>%1 ページ</translation>
     </message>
     <message>
+      <source>page-ranges, page-set: the document has none of these pages, nothing comes out</source>
+      <translation>page-ranges, page-set: 文書にそのページはなく、何も出力されません</translation>
+    </message>
+    <message>
+      <source>print it again as the reason says</source>
+      <translation>理由に従ってもう一度印刷してください</translation>
+    </message>
+    <message>
+      <source>print it again as the reason says, and remove this one: cancel %1</source>
+      <translation>理由に従ってもう一度印刷し、このジョブは削除してください: cancel %1</translation>
+    </message>
+    <message>
       <source>recipient %1 of the fax cannot be read; send it as a group of settings</source>
       <translation>ファクスの宛先 %1 を読み取れません。設定のグループとして送ってください</translation>
     </message>
@@ -2764,6 +2808,10 @@
       <translation>XML チケットの終わりがありません</translation>
     </message>
     <message>
+      <source>the document ends the printer's job before its own end; what follows may be missing on paper; print it by another program</source>
+      <translation>文書がその終わりより前にプリンターのジョブを終了させるため、続きが印刷されないことがあります。別のプログラムで印刷してください</translation>
+    </message>
+    <message>
       <source>the end of the job (PJL EOJ) is missing</source>
       <translation>ジョブの終わり (PJL EOJ) がありません</translation>
     </message>
@@ -2776,8 +2824,20 @@
       <translation>ファクスに読み取れる宛先がありません。「ファクス」で追加してください</translation>
     </message>
     <message>
+      <source>the figure has a preview for DOS around it, which printers do not understand, so nothing may come out; "ps2pdf -dEPSCrop" makes a PDF of it that can be printed</source>
+      <translation>図に DOS 用プレビューが付いており、プリンターが理解できず何も出力されないことがあります。"ps2pdf -dEPSCrop" で印刷できる PDF になります</translation>
+    </message>
+    <message>
+      <source>the figure has no page comments, so the spooler has found no page in it and nothing comes out; "ps2pdf -dEPSCrop" makes a PDF of it that can be printed</source>
+      <translation>図にページコメントがないためスプーラーがページを見つけられず、何も出力されません。"ps2pdf -dEPSCrop" で印刷できる PDF になります</translation>
+    </message>
+    <message>
       <source>the job header holds a line that is no PJL</source>
       <translation>ジョブのヘッダーに PJL でない行があります</translation>
+    </message>
+    <message>
+      <source>the job was not printed</source>
+      <translation>ジョブは印刷されませんでした</translation>
     </message>
     <message>
       <source>the printer stops after page %1: %2</source>
@@ -2800,6 +2860,10 @@
       <translation>文書が背景を塗っているため、ページの下のウォーターマークは見えません (%1)。ページの上に置いてください</translation>
     </message>
     <message>
+      <source>the watermark's image was left out or is not whole; the log tells why, the administrator can store it anew</source>
+      <translation>透かしの画像が省かれたか不完全です。理由はログにあり、管理者が保存し直せます</translation>
+    </message>
+    <message>
       <source>true or false</source>
       <translation>はい、またはいいえ</translation>
     </message>
@@ -2814,6 +2878,14 @@
     <message>
       <source>unknown option; did you mean %1?</source>
       <translation>不明なオプションです。%1 ですか?</translation>
+    </message>
+    <message>
+      <source>watermark %1 was left out: the store has %2; "zarvo watermark list" shows them</source>
+      <translation>透かし %1 は省かれました: 保存されているのは %2 個です。"zarvo watermark list" で一覧できます</translation>
+    </message>
+    <message>
+      <source>watermark: a page is a picture, which does not tell how it is read, so its mark stands upright on the paper; when that is wrong, which a preview shows, say WMTurn=90 or WMTurn=270</source>
+      <translation>透かし: ページが画像で向きが分からないため、用紙に対して正立で印されます。プレビューで違っていれば WMTurn=90 または WMTurn=270 を指定してください</translation>
     </message>
   </context>
 </TS>

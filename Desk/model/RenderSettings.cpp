@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <map>
+#include <string_view>
 
 #include "Source/CFAdditions.h"
 #include "Source/Fax.h"
@@ -17,6 +18,7 @@ namespace {
 
 constexpr const char* kHiddenPin = "0000";
 constexpr const char* kHiddenAccount = "hidden";
+constexpr std::string_view kWatermarkOptions = "com.zarvo.print.watermark.";
 
 void MaskGroup(Dictionary* group, std::span<const TicketKey> keys) {
   for (auto& [name, value] : *group) {
@@ -26,6 +28,16 @@ void MaskGroup(Dictionary* group, std::span<const TicketKey> keys) {
       value = name == key::job_type::kSecurePrintPassword ? kHiddenPin : kHiddenAccount;
     if (Dictionary* inner = value.AsDictionary()) MaskGroup(inner, key->members);
   }
+}
+
+/// Whether no page but the first has a watermark.
+bool IsMarkedAtFirst(const Dictionary& ticket) {
+  std::int32_t first = 0;
+  CFDictionaryGetNumber(ticket, key::kWatermarkFirstPageOnly, &first);
+  const std::string* name = DictionaryGetString(ticket, key::kWatermark);
+  const bool none = (name == nullptr || name->empty()) &&
+                    DictionaryFind(ticket, key::kListedWatermark) == nullptr;
+  return first != 0 || none;
 }
 
 /// Options of the spooler that are as secret as the ticket's.
@@ -67,6 +79,13 @@ Failure MakeRenderSettings(const Dictionary& ticket, const std::string& renderer
   std::vector<tool::FlatOption> flat;
   if (Failure failure = tool::FlattenTicket(masked, &flat); !failure.empty()) return failure;
   settings->options = tool::OptionText(flat);
+  std::vector<tool::FlatOption> later = flat;
+  settings->marked_at_first = IsMarkedAtFirst(masked);
+  if (settings->marked_at_first)
+    std::erase_if(later, [](const tool::FlatOption& option) {
+      return option.name.starts_with(kWatermarkOptions);
+    });
+  settings->later_options = tool::OptionText(later);
   std::erase_if(flat,
                 [](const tool::FlatOption& option) { return option.name.starts_with("com."); });
   settings->converter_options = tool::OptionText(flat);

@@ -17,6 +17,9 @@ struct RenderSettings {
   std::string options;            ///< all of them
   std::string converter_options;  ///< those that work before the filter
   int copies = 1;
+  /// Those that pages after the first show: without a mark that the first one alone has.
+  std::string later_options;
+  bool marked_at_first = true;  ///< no page but the first has a mark
   /// Whether the pages can be drawn one by one, each by itself: no booklet, no several pages on
   /// one.
   bool page_by_page = true;

@@ -123,17 +123,27 @@ void Renderer::SetFile(const QString& file) {
 
 void Renderer::SetSettings(const RenderSettings& settings, const QString& ppd) {
   if (settings == settings_ && ppd == ppd_) return;
+  const bool later_same = settings.page_by_page && settings_.page_by_page && ppd == ppd_ &&
+                          settings.later_options == settings_.later_options;
   settings_ = settings;
   ppd_ = ppd;
-  ++round_;
+  NewRound(later_same);
   undrawn_.clear();
   ahead_.reset();
   whole_.reset();
   start_.start(kSettleMilliseconds);
 }
 
-void Renderer::Redraw() {
+/// What is drawn is stale, save that of later pages where these are `later_same`.
+void Renderer::NewRound(bool later_same) {
   ++round_;
+  if (!later_same) return;
+  for (auto& [page, picture] : pictures_)
+    if (page > 1 && picture.round == round_ - 1) picture.round = round_;
+}
+
+void Renderer::Redraw() {
+  NewRound(settings_.page_by_page && settings_.marked_at_first);
   ahead_.reset();
   whole_.reset();
   start_.start(kSettleMilliseconds);

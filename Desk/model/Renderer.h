@@ -89,6 +89,7 @@ class Renderer : public QObject {
     std::string content;  ///< of the whole document when it was drawn; empty until that is known
   };
 
+  void NewRound(bool later_same);
   void Start();
   void StartAhead();
   void StartWhole();

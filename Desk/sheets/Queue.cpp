@@ -5,8 +5,10 @@
 
 #include <filesystem>
 
+#include "CUPSFilter/Options/HouseTicketOption.h"
 #include "Tools/zarvo/system/Queues.h"
 #include "Tools/zarvo/system/Spooler.h"
+#include "Tools/zarvo/ticket/TicketText.h"
 
 namespace zarvo::desk {
 
@@ -47,6 +49,10 @@ json FetchQueue(const std::string& queue, const std::string& file) {
   return {{"ppd", file},
           {"renderer", tool::QueueDefault(queue, tool::kRendererOption)},
           {"ours", tool::UsesOurFilter(file)}};
+}
+
+json DescribeDefaults(const std::string& ppd) {
+  return {{"defaults", tool::TicketToJson(QueueDefaults(ppd.c_str()))}};
 }
 
 }  // namespace zarvo::desk

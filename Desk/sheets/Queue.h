@@ -16,4 +16,7 @@ nlohmann::json DescribeQueues();
 /// {"failure"}.
 nlohmann::json FetchQueue(const std::string& queue, const std::string& file);
 
+/// {"defaults": what the PPD's default choices stand for, as the JSON of a ticket}.
+nlohmann::json DescribeDefaults(const std::string& ppd);
+
 }  // namespace zarvo::desk

@@ -356,6 +356,10 @@ int Main() {
       Answer({{"texts", TableTexts()}});
       return tool::kExitOk;
     }
+    if (request.contains("defaults")) {
+      Answer(DescribeDefaults(request.at("defaults")));
+      return tool::kExitOk;
+    }
     if (request.contains("queue")) {
       Answer(FetchQueue(request.at("queue"), request.at("ppd")));
       return tool::kExitOk;

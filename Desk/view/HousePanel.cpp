@@ -15,6 +15,8 @@
 namespace zarvo::desk {
 namespace {
 
+/// The window does nothing else meanwhile, so another program that holds the store is told of soon.
+constexpr std::chrono::milliseconds kLockWait(200);
 constexpr int kIconWidth = 72;
 constexpr int kIconHeight = 72;
 
@@ -186,7 +188,7 @@ class HousePanel : public Panel {
     }
     HouseTicketStore store = HouseTicketStore::Own();
     const Failure failure =
-        store.Change([&](HouseTicketStore* own) { return own->Put(name, house); });
+        store.Change([&](HouseTicketStore* own) { return own->Put(name, house); }, kLockWait);
     if (!failure.empty()) return context_.tell(QString::fromStdString(failure));
     context_.tell(tr("Kept as %1. \"zarvo ticket list\" shows all that are kept.")
                       .arg(name_->text().trimmed()));

@@ -11,8 +11,6 @@
 #include "Desk/view/Panels.h"
 #include "Desk/view/Translations.h"
 #include "Source/TicketNames.h"
-#include "Tools/zarvo/ticket/HouseText.h"
-#include "Tools/zarvo/ticket/TicketText.h"
 
 namespace zarvo::desk {
 namespace {
@@ -114,7 +112,7 @@ class AllKeysPanel : public Panel {
     QStringList words;
     for (const CodeWord& word : key.words) words << WordFor(word.word, key.name);
     if (key.type == KeyType::kBoolean || key.type == KeyType::kAny)
-      words << Truth(true) << Truth(false);
+      words << TruthInWords(true) << TruthInWords(false);
     item->setData(1, kWords, words);
     item->setData(1, kSecret, key.secret);
     item->setFlags(item->flags() | Qt::ItemIsEditable);
@@ -147,18 +145,8 @@ class AllKeysPanel : public Panel {
     if (item->childCount() > 0) return;
     const QString text = value == nullptr ? QString()
                          : key->secret    ? QStringLiteral("\u2022\u2022\u2022\u2022")
-                                          : InWords(*key, *value);
+                                          : ValueInWords(*key, *value);
     if (item->text(1) != text) item->setText(1, text);
-  }
-
-  static QString Truth(bool truth) { return truth ? tr("Yes") : tr("No"); }
-
-  static QString InWords(const TicketKey& key, const Value& value) {
-    if (const bool* truth = value.AsBoolean()) return Truth(*truth);
-    std::int64_t code = 0;
-    if (value.AsNumber() != nullptr && value.AsNumber()->Get(&code))
-      if (const char* word = WordOf(key, code)) return WordFor(word, key.name);
-    return QString::fromStdString(WriteValue(key, value));
   }
 
   /// What people chose by their own words, as the tables have it; a ticket's words will do as well.
@@ -166,7 +154,8 @@ class AllKeysPanel : public Panel {
     for (const CodeWord& word : key.words)
       if (text == WordFor(word.word, key.name)) return word.word;
     for (const bool truth : {true, false})
-      if (text == Truth(truth) && key.type != KeyType::kText) return truth ? "true" : "false";
+      if (text == TruthInWords(truth) && key.type != KeyType::kText)
+        return truth ? "true" : "false";
     return text.toStdString();
   }
 
@@ -209,25 +198,8 @@ class AllKeysPanel : public Panel {
   QTreeWidget* tree_;
 };
 
-/// All that differs from what the queue does by itself.
-class ChangesPanel : public Panel {
- public:
-  explicit ChangesPanel(const PanelContext& context) : Panel(context.document) {
-    Group(tr("What I changed"));
-    Hint("changes", [](const Dictionary& ticket) {
-      QStringList lines;
-      for (const std::string& line :
-           tool::TicketDifferences(Dictionary(), tool::WithoutSecrets(ticket)))
-        lines << QString::fromStdString(line).replace(": - | ", ": ");
-      return lines.isEmpty() ? tr("Nothing: the job is printed as the queue does it by itself.")
-                             : lines.join('\n');
-    })->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-  }
-};
-
 }  // namespace
 
 Panel* MakeAllKeysPanel(const PanelContext& context) { return new AllKeysPanel(context); }
-Panel* MakeChangesPanel(const PanelContext& context) { return new ChangesPanel(context); }
 
 }  // namespace zarvo::desk

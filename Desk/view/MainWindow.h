@@ -98,6 +98,7 @@ class MainWindow : public QMainWindow {
   QString ticket_file_;
   QString ppd_;
   std::string renderer_option_;
+  Dictionary defaults_;  ///< what the queue does by itself
 };
 
 }  // namespace zarvo::desk

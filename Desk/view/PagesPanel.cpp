@@ -49,7 +49,10 @@ class PagesPanel : public Panel {
     remove_ = Button("remove-special", tr("Remove it"), [this] { Remove(); });
     connect(list_, &QListWidget::currentRowChanged, this,
             [this](int row) { Allow(remove_, row >= 0, tr("Choose one in the list first.")); });
-    OnRefresh([this] { FillList(); });
+    OnRefresh([this] {
+      FillList();
+      JudgeChoices();
+    });
     Judge();
   }
 
@@ -110,6 +113,36 @@ class PagesPanel : public Panel {
       if (button == nullptr) continue;
       Allow(button, fine, why);
     }
+  }
+
+  /// What each choice for these pages would be objected to for, before any is made.
+  void JudgeChoices() {
+    using namespace key::special_page;
+    const auto with = [](const char* list_name, const char* name, const Value& value) {
+      return [=](Dictionary* ticket) {
+        Array list;
+        if (const Array* now = DictionaryGetArray(*ticket, list_name)) list = *now;
+        list.emplace_back(
+            Dictionary{{kStartPage, Value(zarvo::Number(std::int32_t{1}))}, {name, value}});
+        ticket->insert_or_assign(list_name, Value(std::move(list)));
+      };
+    };
+    const auto number = [](std::int32_t value) { return Value(zarvo::Number(value)); };
+    const auto stock = [&](const char* name, int value) {
+      return with(key::kExceptionList, kStock, Value(Dictionary{{name, number(value)}}));
+    };
+    for (int i = 1; i < color_->count(); ++i)
+      ObjectToChoice(color_, i, stock(key::stock::kColor, color_->itemData(i).toInt()));
+    for (int i = 1; i < type_->count(); ++i)
+      ObjectToChoice(type_, i, stock(key::stock::kType, type_->itemData(i).toInt()));
+    for (int i = 1; i < sides_->count(); ++i)
+      ObjectToChoice(sides_, i,
+                     with(key::kExceptionList, kSidesImaged, number(sides_->itemData(i).toInt())));
+    for (int i = 1; i < output_->count(); ++i)
+      ObjectToChoice(output_, i,
+                     with(key::kExceptionList, kOutputColor, number(output_->itemData(i).toInt())));
+    ObjectTo(weight_, stock(key::stock::kWeight, std::max(weight_->value(), 1)));
+    ObjectTo(count_, with(key::kInsertList, kQuantity, number(count_->value())));
   }
 
   Dictionary Stock() const {

@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <QStandardItemModel>
 #include <QStatusTipEvent>
+#include <QStyle>
 #include <algorithm>
 #include <iterator>
 
@@ -14,11 +15,14 @@
 namespace zarvo::desk {
 namespace {
 
+/// Stands behind what is objected to.
+QString Warning() { return QStringLiteral(" \u26A0"); }
+
 /// Sets what can be seen of a field's choice: that the ticket's check objects to it, and why.
 void Mark(QComboBox* box, int index, const QString& text, const QString& objection) {
   auto* const model = qobject_cast<QStandardItemModel*>(box->model());
   QStandardItem* const item = model->item(index);
-  item->setText(objection.isEmpty() ? text : text + QStringLiteral(" \u26A0"));
+  item->setText(objection.isEmpty() ? text : text + Warning());
   item->setToolTip(objection);
   item->setData(objection, Qt::AccessibleDescriptionRole);
 }
@@ -112,6 +116,32 @@ void Panel::Allow(QWidget* control, bool can, const QString& why) {
   control->setAccessibleDescription(can ? QString() : why);
 }
 
+void Panel::Object(QWidget* field, const QString& objection) {
+  field->setToolTip(objection);
+  field->setStatusTip(objection);
+  field->setAccessibleDescription(objection);
+  if (auto* const box = qobject_cast<QCheckBox*>(field)) {
+    const bool shown = !box->icon().isNull();
+    if (shown != objection.isEmpty()) return;
+    box->setIcon(shown ? QIcon() : field->style()->standardIcon(QStyle::SP_MessageBoxWarning));
+  } else if (auto* const number = qobject_cast<QSpinBox*>(field)) {
+    const QString plain = number->specialValueText().remove(Warning());
+    number->setSpecialValueText(objection.isEmpty() ? plain : plain + Warning());
+  } else if (auto* const line = qobject_cast<QLineEdit*>(field)) {
+    line->setPlaceholderText(objection.isEmpty() ? QString() : Warning().trimmed());
+  }
+}
+
+void Panel::ObjectTo(QWidget* field, const std::function<void(Dictionary*)>& choice) const {
+  Object(field, Localized(Objection(document_->ticket(), choice)));
+}
+
+void Panel::ObjectToChoice(QComboBox* box, int index,
+                           const std::function<void(Dictionary*)>& choice) const {
+  Mark(box, index, box->itemText(index).remove(Warning()),
+       Localized(Objection(document_->ticket(), choice)));
+}
+
 void Panel::Group(const QString& title) {
   auto* const label = new QLabel("<b>" + title.toHtmlEscaped() + "</b>", this);
   label->setContentsMargins(0, form_->rowCount() == 0 ? 0 : 12, 0, 2);
@@ -197,11 +227,7 @@ QCheckBox* Panel::Switch(const char* path, const QString& label) {
     }
   });
   OnRefresh([=, this] {
-    const QString objection = Localized(
-        Objection(document_->ticket(), [&](Dictionary* ticket) { PutAt(ticket, path, on_value); }));
-    box->setToolTip(objection);
-    box->setStatusTip(objection);
-    box->setAccessibleDescription(objection);
+    ObjectTo(box, [&](Dictionary* ticket) { PutAt(ticket, path, on_value); });
     box->setChecked(number ? document_->NumberAt(path).value_or(0) == 1
                            : document_->BooleanAt(path));
   });
@@ -229,6 +255,8 @@ QLineEdit* Panel::Text(const char* path, const QString& label, bool secret) {
   OnRefresh([=, this] {
     const QString text = QString::fromStdString(document_->TextAt(path));
     if (line->text().normalized(QString::NormalizationForm_C) != text) line->setText(text);
+    if (!secret && text.isEmpty())
+      ObjectTo(line, [&](Dictionary* ticket) { PutAt(ticket, path, Value("1")); });
   });
   Row(label, line);
   return line;
@@ -236,6 +264,7 @@ QLineEdit* Panel::Text(const char* path, const QString& label, bool secret) {
 
 QSpinBox* Panel::Number(const char* path, const QString& label, int least, int most,
                         const QString& suffix) {
+  const TicketKey& key = *KeyAt(path);
   auto* const box = new QSpinBox(this);
   box->setObjectName(path);
   box->setRange(least, most);
@@ -257,6 +286,10 @@ QSpinBox* Panel::Number(const char* path, const QString& label, int least, int m
   OnRefresh([=, this] {
     const std::int64_t value = document_->NumberAt(path).value_or(least);
     box->setValue(static_cast<int>(std::clamp<std::int64_t>(value, least, most)));
+    const auto least_of_all = static_cast<std::int32_t>(std::max<std::int64_t>(least, key.low));
+    const std::int32_t some =
+        document_->Find(path) == nullptr ? std::min(least_of_all + 1, most) : box->value();
+    ObjectTo(box, [&](Dictionary* ticket) { PutAt(ticket, path, Value(zarvo::Number(some))); });
   });
   Row(label, box);
   return box;
@@ -289,6 +322,8 @@ QDateTimeEdit* Panel::Date(const char* path, const QString& label) {
         value != nullptr ? QString::fromStdString(WriteValue(*KeyAt(path), *value)) : QString();
     const QDateTime when = QDateTime::fromString(text, "yyyy-MM-ddTHH:mm");
     edit->setDateTime(when.isValid() ? when : none);
+    if (const auto some = ReadValue(*KeyAt(path), "2040-01-01T00:00"))
+      ObjectTo(edit, [&](Dictionary* ticket) { PutAt(ticket, path, *some); });
   });
   Row(label, edit);
   return edit;

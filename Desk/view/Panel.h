@@ -27,6 +27,10 @@ namespace zarvo::desk {
 /// that key, where it says something else there.
 QString WordFor(const char* word, const char* key = "");
 
+/// A value of that key as people read it; dots for a secret.
+QString ValueInWords(const TicketKey& key, const Value& value);
+QString TruthInWords(bool truth);
+
 class Panel : public QWidget {
   Q_OBJECT
 
@@ -69,6 +73,14 @@ class Panel : public QWidget {
   QPushButton* Button(const char* name, const QString& text, const std::function<void()>& press);
   /// Enables it, or says why not to who points at it and who is read to.
   static void Allow(QWidget* control, bool can, const QString& why);
+  /// Shows that the ticket's check objects to a field's choice, and why; an empty text takes that
+  /// away.
+  static void Object(QWidget* field, const QString& objection);
+  /// The objection to what the field would put into the ticket.
+  void ObjectTo(QWidget* field, const std::function<void(Dictionary*)>& choice) const;
+  /// The same for one choice of a list.
+  void ObjectToChoice(QComboBox* box, int index,
+                      const std::function<void(Dictionary*)>& choice) const;
   void Row(QWidget* widget);
   void Row(const QString& label, QWidget* widget);
   void OnRefresh(std::function<void()> refresh) { refresh_.push_back(std::move(refresh)); }

@@ -17,6 +17,8 @@ struct PanelContext {
   /// The pages that are selected among the sheets.
   std::function<std::vector<std::uint32_t>()> selected_pages;
   std::function<void(const QString&)> tell;
+  /// What the queue does by itself, as a ticket.
+  const Dictionary* defaults;
   /// What is drawn has changed where the ticket does not show it.
   std::function<void()> redraw;
 };

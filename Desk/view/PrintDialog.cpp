@@ -35,6 +35,13 @@ constexpr State kStates[] = {
     {"was canceled", QT_TRANSLATE_NOOP("States", "The job was canceled."), true, false},
     {"was printed", QT_TRANSLATE_NOOP("States", "The job was printed."), true, true}};
 
+/// What "zarvo why" says besides; here so that it is translated.
+[[maybe_unused]] constexpr const char* kSaid[] = {
+    QT_TRANSLATE_NOOP("States", "the job was not printed"),
+    QT_TRANSLATE_NOOP("States", "print it again as the reason says"),
+    QT_TRANSLATE_NOOP("States",
+                      "print it again as the reason says, and remove this one: cancel %1")};
+
 }  // namespace
 
 PrintDialog::PrintDialog(const TicketDocument& document, const QString& file, const QString& queue,
@@ -162,7 +169,7 @@ void PrintDialog::HeardWhy() {
   for (const json& notice : told.at("notices"))
     details << QString::fromStdString(notice.get<std::string>());
   if (const std::string remedy = told.at("remedy"); !remedy.empty())
-    details << QStringLiteral("\u2192 ") + QString::fromStdString(remedy);
+    details << QStringLiteral("\u2192 ") + Localized(remedy);
   for (const State& state : kStates) {
     if (told.at("state") != state.word) continue;
     Say(QCoreApplication::translate("States", state.text), details.join('\n'));

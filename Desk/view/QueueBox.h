@@ -27,6 +27,8 @@ class QueueBox : public QComboBox {
   /// The chosen printer; empty when there is none that can be printed on.
   QString queue() const { return gone_ ? QString() : wanted_; }
   void AskQueues();
+  /// Asks the helper program; `hear` gets the answer, or an object with "failure".
+  void Ask(const nlohmann::json& question, std::function<void(const nlohmann::json&)> hear);
   /// How long the spooler may take to answer, milliseconds.
   void SetPatience(int milliseconds) { patience_ = milliseconds; }
 
@@ -39,8 +41,6 @@ class QueueBox : public QComboBox {
   void Told(const QString& text);
 
  private:
-  /// Asks the helper program; `hear` gets the answer, or an object with "failure".
-  void Ask(const nlohmann::json& question, std::function<void(const nlohmann::json&)> hear);
   void Take(const nlohmann::json& queues);
   void FetchPpd();
 

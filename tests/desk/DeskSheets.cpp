@@ -79,7 +79,8 @@ void DeskTest::sheets_are_the_previews() {
   }
 }
 
-/// What only the finisher reads draws nothing anew, what every page shows each page once.
+/// What only the finisher reads draws nothing anew, what every page shows each page once, and what
+/// the first one shows that one.
 void DeskTest::only_what_changed_is_drawn() {
   const QString pdf = home->folder.filePath("six.pdf");
   QCOMPARE(QProcess::execute(
@@ -102,6 +103,14 @@ void DeskTest::only_what_changed_is_drawn() {
   Choose("Watermark", "DRAFT");
   QVERIFY(!drawn() && Comes(drawn));
   QCOMPARE(pictures.size(), 6);
+  Press("com.zarvo.print.watermark.FirstPageOnly");
+  QVERIFY(!drawn() && Comes(drawn));
+  pictures.clear();
+  Choose("com.zarvo.print.watermark.Option", "Behind the page");
+  QVERIFY(!drawn() && Comes(drawn));
+  Choose("Watermark", "None");
+  QVERIFY(!drawn() && Comes(drawn));
+  QCOMPARE(pictures, (QList<QList<QVariant>>{{quint64{1}}, {quint64{1}}}));
 }
 
 }  // namespace zarvo::desk

@@ -123,49 +123,61 @@ class Planner {
   void AddPages(std::uint64_t to) {
     for (; next_ <= to; ++next_) {
       const Exception* exception = nullptr;
-      if (!plan_.booklet) {
-        for (const Exception& each : exceptions_) {
-          if (each.first <= next_ && next_ <= each.last) exception = &each;
-        }
+      for (const Exception& each : exceptions_) {
+        if (each.first <= next_ && next_ <= each.last) exception = &each;
       }
       const bool two_sided =
           exception != nullptr ? exception->two_sided.value_or(plan_.two_sided) : plan_.two_sided;
       PlannedSide side;
       side.page = next_;
       // A sheet is of one paper, and nothing comes between its sides.
-      side.front = !(two_sided && back_is_free_ && exception == last_);
+      side.front =
+          plan_.booklet ? next_ % 2 == 1 : !(two_sided && back_is_free_ && exception == last_);
       if (side.front) ++sheet_;
       back_is_free_ = side.front && two_sided;
       last_ = exception;
       side.sheet = sheet_;
-      side.width = width_;
-      side.height = height_;
+      GiveSize(&side);
       if (exception != nullptr) {
         side.stock = exception->stock;
         side.exception = exception->others.empty() ? Phrase("other paper") : exception->others;
       }
-      if (plan_.booklet) side.turn = report_.job.postscript.booklet_reversed ? 90 : 270;
       plan_.sides.push_back(std::move(side));
     }
+  }
+
+  void GiveSize(PlannedSide* side) const {
+    side->width = width_;
+    side->height = height_;
+    if (plan_.booklet) side->turn = report_.job.postscript.booklet_reversed ? 90 : 270;
   }
 
   void AddSheets(SpecialSheet::Place place) {
     std::vector<const SpecialSheet*> here;
     for (const SpecialSheet& sheet : plan_.special) {
-      if (sheet.place == place && sheet.blank && !plan_.booklet) here.push_back(&sheet);
+      if (sheet.place == place && sheet.blank) here.push_back(&sheet);
     }
     std::stable_sort(here.begin(), here.end(),
                      [](const auto* a, const auto* b) { return a->after_page < b->after_page; });
     const bool insert = place == SpecialSheet::Place::kInsert;
     for (const SpecialSheet* sheet : here) {
       if (insert) {
-        AddPages(std::min<std::uint64_t>(sheet->after_page, plan_.pages));
+        // The pages of a booklet are laid out for both sides of a sheet: nothing parts these.
+        const std::uint64_t after = sheet->after_page + (plan_.booklet ? sheet->after_page % 2 : 0);
+        AddPages(std::min<std::uint64_t>(after, plan_.pages));
       } else if (place == SpecialSheet::Place::kBack) {
         AddPages(plan_.pages);
       }
-      AddBlank(insert ? PlannedSide::Kind::kInsert : PlannedSide::Kind::kCover, sheet->text,
-               sheet->count);
+      AddBlank(insert ? PlannedSide::Kind::kInsert : PlannedSide::Kind::kCover,
+               sheet->text + FoldedPlace(place), sheet->count);
     }
+  }
+
+  /// Where a cover lies once the sheets are folded: they come outermost first.
+  std::string FoldedPlace(SpecialSheet::Place place) const {
+    if (!plan_.booklet || place == SpecialSheet::Place::kInsert) return "";
+    return ", " + (place == SpecialSheet::Place::kFront ? Phrase("around the booklet")
+                                                        : Phrase("in the middle of the booklet"));
   }
 
   void AddBlank(PlannedSide::Kind kind, const std::string& text, unsigned count) {
@@ -174,20 +186,22 @@ class Planner {
     side.text = text;
     side.count = count;
     side.sheet = sheet_ + 1;
-    side.width = width_;
-    side.height = height_;
+    GiveSize(&side);
     sheet_ += count;
     back_is_free_ = false;
     plan_.sides.push_back(std::move(side));
   }
 
-  /// A cover that is printed takes the first or the last page onto its paper.
+  /// A cover that is printed takes the first or the last page onto its paper, of a booklet the
+  /// whole sheet.
   void MarkPrintedCovers() {
     for (const SpecialSheet& cover : plan_.special) {
-      if (cover.place == SpecialSheet::Place::kInsert || cover.blank || plan_.booklet) continue;
-      const bool front = cover.place == SpecialSheet::Place::kFront;
+      if (cover.place == SpecialSheet::Place::kInsert || cover.blank) continue;
+      const std::uint64_t page = cover.place == SpecialSheet::Place::kFront ? 1 : plan_.pages;
       for (PlannedSide& side : plan_.sides) {
-        if (side.page == (front ? 1 : plan_.pages) && side.page != 0) side.stock = cover.text;
+        if (side.page == 0) continue;
+        if (side.page == page || (plan_.booklet && (side.page + 1) / 2 == (page + 1) / 2))
+          side.stock = cover.text + FoldedPlace(cover.place);
       }
     }
   }
@@ -246,11 +260,12 @@ std::vector<SheetSide> SidesOf(const SheetPlan& plan, const std::vector<DrawnPag
     if (planned.page == 0) {
       side.width = planned.width;
       side.height = planned.height;
+      if (planned.turn != 0) std::swap(side.width, side.height);
     } else if (planned.page <= pages.size()) {
       side.file = pages[planned.page - 1].file;
       side.page = pages[planned.page - 1].page;
     }
-    side.turn = planned.turn;
+    if (planned.page != 0) side.turn = planned.turn;
     sides.push_back(std::move(side));
   }
   AddNotes(notes, plan, &sides);

@@ -51,8 +51,8 @@ struct SheetPlan {
 /// Whether the job is printed on both sides of its sheets.
 bool IsTwoSided(const JobReport& report);
 
-/// The plan of a job of which so many pages come out. In a booklet the pages of the document are
-/// not those of the sheets: there, covers and inserts are only listed as `special`.
+/// The plan of a job of which so many pages come out. In a booklet these are the sides of its
+/// sheets, which is what the printer counts: inserts and exceptions are placed by them.
 SheetPlan PlanSheets(const JobReport& report, std::uint64_t pages);
 
 /// The sides of the plan with the drawn pages on them, for a picture: each blank cover and insert
