@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // What the ticket asks for that the queue would not do by itself.
+#include "Desk/model/Finishing.h"
 #include "Desk/model/Words.h"
 #include "Desk/view/Panels.h"
 #include "Desk/view/Translations.h"
@@ -41,6 +42,7 @@ class ChangesPanel : public Panel {
       const TicketKey* key = FindTopLevelKey(name);
       // What only makes others work says nothing to people.
       if (name == key::kJTMLOptions || (usual != nullptr && *usual == value)) continue;
+      if (name == key::kFinishingOptions && !(FinishingOf(ticket) == Finishing{})) continue;
       if (name == "sides" && ticket.contains(key::kFinishingDuplex)) continue;
       if (key == nullptr) {
         lines << OptionLine(name, value);
@@ -81,14 +83,16 @@ class ChangesPanel : public Panel {
     const Dictionary* members = group.AsDictionary();
     const Dictionary* others = usual != nullptr ? usual->AsDictionary() : nullptr;
     if (members == nullptr) return lines;
-    for (const auto& [name, value] : *members) {
-      const TicketKey* member = FindKey(key.members, name);
-      const Value* other = others != nullptr ? DictionaryFind(*others, name) : nullptr;
-      if (member == nullptr || (other != nullptr && *other == value)) continue;
-      if (value.AsDictionary() != nullptr || value.AsArray() != nullptr) {
-        lines << Members(*member, value, other);
+    for (const TicketKey& member : key.members) {
+      const Value* value = DictionaryFind(*members, member.name);
+      const Value* other = others != nullptr ? DictionaryFind(*others, member.name) : nullptr;
+      if (value == nullptr || (other != nullptr && *other == *value)) continue;
+      if (value->AsDictionary() != nullptr || value->AsArray() != nullptr) {
+        lines << Members(member, *value, other);
+      } else if (DisplayName(member) == DisplayName(key)) {
+        lines << ValueInWords(member, *value);  // the group has just been named so
       } else {
-        lines << Line(*member, value, other);
+        lines << Line(member, *value, other);
       }
     }
     return lines;

@@ -177,10 +177,14 @@ void PaintSide(QPainter* painter, const QRectF& place, const tool::PlannedSide& 
   painter->setRenderHint(QPainter::Antialiasing);
   if (side.page == 0) {
     QFont font = painter->font();
-    font.setPixelSize(std::clamp(static_cast<int>(place.width() / 12), 9, 24));
+    // On one half of a sheet that is folded.
+    const QRectF room =
+        plan.booklet ? QRectF(place.center().x(), place.top(), place.width() / 2, place.height())
+                     : place;
+    font.setPixelSize(std::clamp(static_cast<int>(room.width() / (plan.booklet ? 8 : 12)), 9, 24));
     painter->setFont(font);
     painter->setPen(QColor(0x40, 0x40, 0x40));
-    painter->drawText(place.adjusted(8, 8, -8, -8), Qt::AlignCenter | Qt::TextWordWrap,
+    painter->drawText(room.adjusted(8, 8, -8, -8), Qt::AlignCenter | Qt::TextWordWrap,
                       Localized(side.text));
   }
   if (!side.exception.empty() && look.marks) {

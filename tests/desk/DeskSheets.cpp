@@ -32,6 +32,12 @@ void DeskTest::sheets_are_the_previews_data() {
   QTest::addColumn<QList<int>>("rows");
   QTest::addColumn<int>("width");
   QTest::newRow("booklet") << kTasks[1].ticket << QList<int>{0, 2, 3} << 842;
+  // The cover is the first side, the insert after the two sides of the sheet that it follows.
+  QTest::newRow("booklet with cover and insert")
+      << R"({"BookletLayout": true, "JTMLOptions": {"JTMLOptionAll": true},
+             "SpecialPages.FrontCover": {"SidesImaged": "none"},
+             "SpecialPages.InsertList": [{"StartPage": 1, "Quantity": 2}]})"
+      << QList<int>{1, 2, 4} << 420;
   QTest::newRow("covers") << R"({"SpecialPages.FrontCover": {"SidesImaged": "none"},
                                  "JTMLOptions": {"JTMLOptionAll": true}})"
                           << QList<int>{1, 8} << 210;
@@ -59,6 +65,7 @@ void DeskTest::sheets_are_the_previews() {
     QVERIFY(Comes([&] { return Settle() && grid.model()->rowCount() > rows.back(); }));
     grid.scrollTo(grid.model()->index(row, 0));
     const tool::PlannedSide& side = plan.sides[static_cast<std::size_t>(row)];
+    QVERIFY(side.page != 0);
     QVERIFY(Comes([&] { return Settle() && window_->renderer().IsFresh(side.page); }));
     const QRect place = grid.PlaceOf(row).toRect();
     QVERIFY(grid.viewport()->rect().contains(place));

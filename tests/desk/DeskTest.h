@@ -41,6 +41,15 @@ class Home {
   QTemporaryDir folder;
 };
 
+/// Looks at the command lines and environments of this program's children, and of theirs.
+struct Children {
+  explicit Children(QByteArray wanted) : secret(std::move(wanted)) {}
+  void Look();
+  QByteArray secret;
+  QByteArray leak;  ///< the first that held it
+  int looks = 0;    ///< at one of them
+};
+
 /// A document of A4 pages, each with its number.
 QByteArray Document(int pages);
 
@@ -61,6 +70,7 @@ class DeskTest : public QObject {
   void print_dialog_of_others();
   void every_key_can_be_reached();
   void what_excludes_what_is_shown();
+  void what_is_changed();
   void everybody_data();
   void everybody();
   void watermark_changed_in_place();

@@ -41,7 +41,6 @@ MODES = {
         "./usr/share/bash-completion/completions/zarvo": "-rw-r--r--",
     },
 }
-# It is not put on the bare system: the toolkit is larger than all the rest.
 DESKTOP_MODES = {
     "zarvo-desktop": {
         "./usr/bin/zarvo-desk": "-rwxr-xr-x",
@@ -192,6 +191,16 @@ def use(system):
     check(mode & 0o777 == 0o644, oct(mode))
 
 
+def start_desktop_program(system, desktop):
+    """With all that its package asks for, and no more, it shows a document."""
+    install(system, desktop)
+    system.run("zarvo-desk", "--picture", "/root/window.png", "/root/report.pdf", QT_QPA_PLATFORM="offscreen")
+    picture = (system.root / "root/window.png").read_bytes()
+    check(picture.startswith(b"\x89PNG") and len(picture) > 10000, f"the window: {len(picture)} bytes")
+    system.run("apt-get", "purge", "-y", "-qq", "zarvo-desktop")
+    shutil.rmtree(system.root / "root/.config")  # which window was where
+
+
 def remove(system):
     store = "/var/lib/Zarvo"
     users_own = re.compile(rf"{store}(/com\.zarvo\.printing\.watermarks\.plist)?$")
@@ -204,7 +213,7 @@ def remove(system):
     check("OURS" in kept, "the user's watermark is gone")
 
 
-def use_on_bare_system(packages):
+def use_on_bare_system(packages, desktop):
     """Gives the reason when there cannot be such a system."""
     if os.geteuid() != 0:
         return "a bare system can be made by root only"
@@ -219,6 +228,7 @@ def use_on_bare_system(packages):
         step("apt install of both packages", lambda: install(system, packages))
         step("AppArmor profiles", lambda: check_profile(system))
         use(system)
+        step("zarvo-desk, with its toolkit", lambda: start_desktop_program(system, desktop))
         step("apt purge", lambda: remove(system))
     return ""
 
@@ -229,7 +239,7 @@ def main():
     desktop = {name: next(PACKAGES.glob(f"{name}_*.deb")) for name in DESKTOP_MODES}
     step("the desktop program: the same", lambda: examine(desktop, DESKTOP_MODES))
     step("links of the documents", lambda: check_links(packages["zarvo-filter"]))
-    reason = use_on_bare_system(packages)
+    reason = use_on_bare_system(packages, desktop)
     (PACKAGES / "steps.txt").write_text("\n".join(STEPS) + "\n")
     if reason:
         print(f"SKIPPED: installing on a bare Debian: {reason}")
