@@ -2649,7 +2649,7 @@
     </message>
     <message>
       <source>around the booklet</source>
-      <translation>冊子の外側</translation>
+      <translation>小冊子の外側</translation>
     </message>
     <message>
       <source>behind the page</source>
@@ -2677,7 +2677,7 @@
     </message>
     <message>
       <source>in the middle of the booklet</source>
-      <translation>冊子の中央</translation>
+      <translation>小冊子の中央</translation>
     </message>
     <message>
       <source>insert</source>

@@ -208,22 +208,6 @@ QWidget* MainWindow::MakeSettings() {
   return area;
 }
 
-void MainWindow::ShowView(int view) {
-  view_actions_[static_cast<std::size_t>(view)]->setChecked(true);
-  if (view > 0 && grid_->isVisible() && grid_->currentIndex().isValid())
-    big_->SetRow(grid_->currentIndex().row());
-  big_->SetSpread(view == 2);
-  views_->setCurrentIndex(view == 0 ? 0 : 1);
-  views_->currentWidget()->setFocus();
-}
-
-void MainWindow::Zoom(int steps) { zoom_->setValue(zoom_->value() + steps); }
-
-void MainWindow::ShowPanel(const QString& name) {
-  for (std::size_t i = 0; i < panels_.size(); ++i)
-    if (name == panels_[i].name) groups_->setCurrentRow(static_cast<int>(i));
-}
-
 void MainWindow::Tell(const QString& text) {
   if (text.isEmpty() || message_ == nullptr) return;
   message_text_->setText(Localized(text));
