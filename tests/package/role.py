@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""Makes a bare Debian a print server by the Ansible role, and changes nothing the second time.
+"""Makes bare Debians a print server and a front by the Ansible role, and changes nothing the second time.
 
     role.py FOLDER_OF_PACKAGES
 
@@ -8,6 +8,7 @@ It takes root, debootstrap and a package mirror. Ansible is installed in the bar
 there on itself. Then a job is printed, and recipients come from a CardDAV server.
 """
 
+import contextlib
 import os
 import pathlib
 import re
@@ -21,13 +22,16 @@ sys.path.insert(0, str(SOURCE / "Tools"))
 from bare_debian import BareDebian, own_release  # noqa: E402
 
 PLAY = "cd /root/fleet/ansible && ansible-playbook -i /root/inventory -c local -e ansible_become=false site.yml --limit {0} {1}"
+STORE = "/root/house-store_8_all.deb"
 NO_QUEUES = """-e '{"zarvo_queues": {}}'"""  # as long as no spooler runs
 INVENTORY = """[servers]
-localhost
+{servers}
 [fronts]
+{fronts}
 [all:vars]
 ansible_python_interpreter=/usr/bin/python3
 zarvo_packages={packages}
+zarvo_stores={stores}
 zarvo_queues={{"office": "socket://localhost:9100/?snmp=false&waiteof=false"}}
 """
 LOOPBACK = """set -e
@@ -45,9 +49,18 @@ while True:
 /usr/sbin/cupsd; sleep 2
 {play}
 {play}
-printf '%%!PS-Adobe-3.0\\n%%%%Page: 1 1\\nshowpage\\n' | lp -d office -o JobType=Secure -o JobPIN=Custom.0391
+printf '%%!PS-Adobe-3.0\\n%%%%Page: 1 1\\nshowpage\\n' | lp -d office -o JobType=Secure -o JobPIN=Custom.0391 -o Watermark=HOUSE
+zarvo watermark list
 for i in $(seq 100); do [ ! -s /root/received ] || break; sleep 0.2; done
 cat /root/received"""
+
+# The front's classes, what dialogs are told there, and what a timer calls.
+FRONT = LOOPBACK + """/usr/sbin/cupsd; sleep 2
+{play}
+{play}
+lpstat -c office; lpoptions -p office -l | grep -c ^JobPIN/
+cupsdisable office-10_0_0_2; /usr/local/lib/zarvo-fleet/front/enable-members
+ls /etc/systemd/system/zarvo-members.timer /etc/sysctl.d/zarvo-front.conf"""
 
 # A CardDAV server with one recipient; then he moves, and somebody here tries to change him.
 CONTACTS = LOOPBACK + """mkdir -p /etc/zarvo && cp /root/fleet/contacts/vdirsyncer.conf /etc/zarvo && echo x >/etc/zarvo/carddav-password
@@ -80,6 +93,12 @@ put 5550199; sync sync; zarvo recipient list
 ALERTS = """apt-get install -y -qq --no-install-recommends prometheus >/dev/null
 sed s:ALERTS]:/root/fleet/figures/alerts.yml]: /root/alerts_test.yml >/root/alerts.yml
 promtool check rules /root/fleet/figures/alerts.yml; promtool test rules /root/alerts.yml"""
+# On the machine where the house's store is kept; afterwards it has none, until the role brings it.
+PACK = """set -e
+apt-get install -y -qq --no-install-recommends {packages} >/dev/null
+zarvo watermark add-text HOUSE
+cd /root && zarvo store pack --name house-store --version 8 --maintainer 'Ada <ada@example.org>' >&2
+rm -r /var/lib/Zarvo && apt-get purge -y -qq zarvo-filter zarvo-tools >/dev/null"""
 
 
 def changes(text):
@@ -101,8 +120,9 @@ def main():
     if os.geteuid() != 0 or not shutil.which("debootstrap"):
         sys.exit("a bare system is made by root, with debootstrap")
     packages = sorted(pathlib.Path(sys.argv[1]).resolve().glob("*.deb"))
-    packages = [package for package in packages if not package.name.count("dbgsym")]
-    with tempfile.TemporaryDirectory(prefix="zarvo-debian-") as scratch:
+    packages = [package for package in packages if re.match("zarvo-(filter|tools)_", package.name)]
+    with contextlib.ExitStack() as stack:
+        scratch = stack.enter_context(tempfile.TemporaryDirectory(prefix="zarvo-debian-"))
         system = BareDebian(scratch, own_release())
         system.make()
         run(system, "apt-get update -qq && apt-get install -y -qq --no-install-recommends "
@@ -111,19 +131,36 @@ def main():
         for package in packages:
             shutil.copy(package, system.root / "root")
         names = str([f"/root/{package.name}" for package in packages]).replace("'", '"')
-        system.write("root/inventory", INVENTORY.format(packages=names))
+        front = BareDebian(scratch + "-front", own_release())
+        stack.callback(shutil.rmtree, front.root, ignore_errors=True)
+        subprocess.run(["cp", "-a", scratch, front.root], check=True)
+        run(front, PACK.format(packages=" ".join(f"/root/{package.name}" for package in packages)))
+        shutil.copy(front.root / STORE[1:], system.root / STORE[1:])
+        system.write("root/inventory", INVENTORY.format(packages=names, stores=f'["{STORE}"]', servers="localhost",
+                                                        fronts=""))
+        front.write("root/inventory", INVENTORY.format(packages=names, stores="[]", servers="10.0.0.1\n10.0.0.2",
+                                                       fronts="localhost"))
         first = run(system, PLAY.format("servers", NO_QUEUES))
         again = run(system, PLAY.format("servers", NO_QUEUES))
         told = run(system, USE.format(play=PLAY.format("servers", "")), own_network=True)
         contacts = run(system, CONTACTS, own_network=True)
         shutil.copy(SOURCE / "tests/data/alerts_test.yml", system.root / "root")
         run(system, f"set -e\n{ALERTS}")
+        front_made = [run(front, PLAY.format("fronts", NO_QUEUES)) for _ in range(2)]
+        front_told = run(front, FRONT.format(play=PLAY.format("fronts", "")), own_network=True)
     print("the alerts fire as they should")
+    front_changes = [changes(text)[0] for text in front_made] + changes(front_told)
+    assert front_changes[0][0] > 5 and front_changes[1:] == [(0, 0), (1, 0), (0, 0)], front_changes
+    assert front_told.split()[-11:] == [
+        "members", "of", "class", "office:", "office-10_0_0_1", "office-10_0_0_2", "1", "enabled", "office-10_0_0_2",
+        "/etc/sysctl.d/zarvo-front.conf", "/etc/systemd/system/zarvo-members.timer"], front_told
+    print("another one became a front, and again nothing was left to do")
     made, unchanged, (queues, unchanged_queues) = changes(first), changes(again), changes(told)
     print(f"bare system: {made[0][0]} changes, again {unchanged[0][0]}; queues: {queues[0]}, again "
           f"{unchanged_queues[0]}")
     assert made[0][0] > 5 and unchanged == [(0, 0)] and queues == (1, 0) and unchanged_queues == (0, 0), told
     assert "OID_VAL_JOB_TYPE_SECURE_PRINT" in told, "the printer got no job"
+    assert re.search(r"^ *\d+ +HOUSE ", told, re.M), told
     print("a job was printed through it")
     lines = [line for line in contacts.splitlines() if line.startswith(("ada ", "refused"))]
     assert lines == ["ada  Ada  fax 5550100  mailbox -  shared in faxes", "refused: 2",
