@@ -117,7 +117,11 @@ class Spooler(PrivateCupsd):
         return len(lines), sum(int(line.split()[3]) for line in lines if line.split()[3].isdigit())
 
     def waiting(self):
-        return len(self.run("lpstat", "-o").splitlines())
+        """Jobs that are not done, or "?" where the spooler is too busy to say."""
+        try:
+            return len(self.run("lpstat", "-o").splitlines())
+        except RuntimeError:
+            return "?"
 
 
 class Fleet(contextlib.ExitStack):
