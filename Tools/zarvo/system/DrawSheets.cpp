@@ -114,6 +114,8 @@ std::vector<DrawnPage> DrawPages(const PostScriptFiles& split, const ScratchFold
     PageLook& look = (*looks)[piece.job];
     if (look.fault.empty()) look.fault = piece.fault;
     const std::size_t count = PagesOf(piece, split, scratch);
+    if (count == 0 && piece.told > 0 && look.fault.empty())
+      look.fault = "its pages cannot be read again; is there room for temporary files (TMPDIR)?";
     look.pages += count;
     for (std::size_t i = 0; i < count; ++i) pages.push_back({piece.file, i});
   }

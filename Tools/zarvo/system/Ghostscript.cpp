@@ -68,8 +68,14 @@ Failure Draw(const Drawing& drawing, const ScratchFolder& scratch) {
   }
   run.arguments.insert(run.arguments.end(), drawing.inputs.begin(), drawing.inputs.end());
   std::string log;
-  if (RunChild(run, &log)) return "";
-  return InterpreterError(log);
+  const bool ended_well = RunChild(run, &log);
+  // It ends with 0 even when the last of the file cannot be written, and only says so.
+  if (ended_well && log.find(" on closing " + drawing.device + " device") == std::string::npos)
+    return "";
+  Failure failure = InterpreterError(log);
+  if (failure.find("ioerror") != std::string::npos)
+    failure += "; is there room for temporary files (TMPDIR)?";
+  return failure;
 }
 
 }  // namespace zarvo::tool
