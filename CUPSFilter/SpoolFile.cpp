@@ -8,6 +8,7 @@
 #include <cerrno>
 
 #include "CUPSFilter/JobOutput.h"
+#include "Platform/Process.h"
 #include "Platform/ScratchFolder.h"
 
 namespace zarvo {
@@ -42,14 +43,27 @@ std::unique_ptr<SpoolFile> SpoolFile::Create() {
     unlink(name.c_str());
     name.clear();
   }
-  FILE* stream = fdopen(descriptor, "w+b");
+  return Wrap(UniqueFd(descriptor), std::move(path), std::move(name));
+}
+
+std::unique_ptr<SpoolFile> SpoolFile::CreateInMemory() {
+  UniqueFd file = OpenMemoryFile("");
+  if (!file) return nullptr;
+  std::string path = "/proc/self/fd/" + std::to_string(file.get());
+  return Wrap(std::move(file), std::move(path), "");
+}
+
+std::unique_ptr<SpoolFile> SpoolFile::Wrap(UniqueFd file, std::string path,
+                                           std::string name_to_remove) {
+  FILE* stream = fdopen(file.get(), "w+b");
   if (stream == nullptr) {
-    if (!name.empty()) unlink(name.c_str());
-    close(descriptor);
+    if (!name_to_remove.empty()) unlink(name_to_remove.c_str());
     return nullptr;
   }
+  file.release();
   std::setvbuf(stream, nullptr, _IOFBF, kBufferBytes);
-  return std::unique_ptr<SpoolFile>(new SpoolFile(stream, std::move(path), std::move(name)));
+  return std::unique_ptr<SpoolFile>(
+      new SpoolFile(stream, std::move(path), std::move(name_to_remove)));
 }
 
 bool SpoolFile::CopyTo(JobOutput& output) {

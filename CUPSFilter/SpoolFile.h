@@ -5,6 +5,9 @@
 #include <cstdio>
 #include <memory>
 #include <string>
+#include <utility>
+
+#include "Platform/UniqueFd.h"
 
 namespace zarvo {
 
@@ -32,6 +35,10 @@ class SpoolFile {
   /// says why.
   static std::unique_ptr<SpoolFile> Create();
 
+  /// Makes one that lies in memory and needs no room on any disk, for what is small or bounded by
+  /// its writer. Null when that fails; errno says why.
+  static std::unique_ptr<SpoolFile> CreateInMemory();
+
   SpoolFile(const SpoolFile&) = delete;
   SpoolFile& operator=(const SpoolFile&) = delete;
   ~SpoolFile();
@@ -49,6 +56,8 @@ class SpoolFile {
     void operator()(FILE* stream) const { std::fclose(stream); }
   };
 
+  static std::unique_ptr<SpoolFile> Wrap(UniqueFd file, std::string path,
+                                         std::string name_to_remove);
   SpoolFile(FILE* stream, std::string path, std::string name_to_remove)
       : stream_(stream), path_(std::move(path)), name_to_remove_(std::move(name_to_remove)) {}
 

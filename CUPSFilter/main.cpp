@@ -217,9 +217,10 @@ int RunJob(const Job& job, const char* input_name, JobNotices* notices) {
   std::optional<JobOutput> spooled;
   if (spool) spooled.emplace(spool->stream());
   JobOutput& output = spooled ? *spooled : printer;
+  CopyRules rules(job.settings, job.ticket, output, notices);
+  if (!rules.Prepare()) return kFailure;
   if (job.settings.emitJTML == 1) WriteJTML(output.stream(), job.ticket);
 
-  CopyRules rules(job.settings, job.ticket, output, notices);
   CopyPass pass(input, rules, output);
   const CopyResult result = pass.Run();
   output.Flush();

@@ -7,6 +7,7 @@
 #include <signal.h>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <sys/statvfs.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -89,8 +90,20 @@ std::string TemporaryFolder() {
   return folder != nullptr && *folder != '\0' ? folder : "/tmp";
 }
 
-std::unique_ptr<ScratchFolder> ScratchFolder::Create() {
-  const std::string parent = TemporaryFolder();
+std::string TemporaryFolderWithRoom(std::uint64_t bytes) {
+  constexpr char kMemory[] = "/dev/shm";  // POSIX's shared memory, open to all like /tmp
+  const auto room = [](const std::string& folder, std::uint64_t unknown) {
+    struct statvfs status {};
+    return ::statvfs(folder.c_str(), &status) == 0
+               ? std::uint64_t{status.f_bavail} * status.f_frsize
+               : unknown;
+  };
+  std::string usual = TemporaryFolder();
+  const std::uint64_t left = room(usual, bytes);
+  return left < bytes && room(kMemory, 0) > left ? kMemory : usual;
+}
+
+std::unique_ptr<ScratchFolder> ScratchFolder::Create(const std::string& parent) {
   RemoveLeftFolders(parent);
   // Somebody who clears up may take a folder away before it is locked.
   constexpr int kTries = 10;

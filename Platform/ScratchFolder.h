@@ -11,6 +11,7 @@
 
 #include <sys/types.h>
 
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <vector>
@@ -22,11 +23,15 @@ namespace zarvo {
 /// The folder that TMPDIR names, else /tmp.
 std::string TemporaryFolder();
 
-/// A folder below TemporaryFolder(), for this user's eyes only.
+/// TemporaryFolder(), or a folder in memory where that one has less than `bytes` of room left and
+/// memory has more.
+std::string TemporaryFolderWithRoom(std::uint64_t bytes);
+
+/// A folder for this user's eyes only.
 class ScratchFolder {
  public:
-  /// Makes one. Null, with errno set, when that fails.
-  static std::unique_ptr<ScratchFolder> Create();
+  /// Makes one in `parent`. Null, with errno set, when that fails.
+  static std::unique_ptr<ScratchFolder> Create(const std::string& parent = TemporaryFolder());
 
   ScratchFolder(const ScratchFolder&) = delete;
   ScratchFolder& operator=(const ScratchFolder&) = delete;

@@ -101,7 +101,8 @@ void LogDecoderFailure(const char* path, Process& decoder) {
     LogImageFailure(path, "the decoder gave no image");
 }
 
-Failure FaxCoverDrawing::Start(const FaxCover& cover, std::optional<FaxCoverDrawing>* drawing) {
+Failure FaxCoverDrawing::Start(const FaxCover& cover, bool required,
+                               std::optional<FaxCoverDrawing>* drawing) {
   const std::optional<std::string> description = SerializePropertyList(FaxCoverToDictionary(cover));
   if (!description)
     return "the watermark holds characters that no text may hold; type its text again";
@@ -112,7 +113,9 @@ Failure FaxCoverDrawing::Start(const FaxCover& cover, std::optional<FaxCoverDraw
   const UniqueFd pixels = decoder ? decoder->TakeOutput() : UniqueFd();
   const UniqueFd input = OpenMemoryFile(*description);
   std::optional<Process> page =
-      input ? StartDrawHelper({"faxcover"}, input.get(), pixels.get()) : std::nullopt;
+      input ? StartDrawHelper({"faxcover", required ? "required" : "optional"}, input.get(),
+                              pixels.get())
+            : std::nullopt;
   if (!page)
     return DrawHelperPath() + " cannot be started: " + std::strerror(errno) +
            "; install the package zarvo again";

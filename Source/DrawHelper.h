@@ -43,8 +43,10 @@ void LogDecoderFailure(const char* path, Process& decoder);
 /// A fax cover sheet while helpers draw it: one the page, and one decodes the watermark's image.
 class FaxCoverDrawing {
  public:
-  /// An image that cannot be read is logged and left out.
-  static Failure Start(const FaxCover& cover, std::optional<FaxCoverDrawing>* drawing);
+  /// An image that cannot be read is logged and left out. `required` says whether a job that lacks
+  /// the page is refused; the helper's log line has it in its words.
+  static Failure Start(const FaxCover& cover, bool required,
+                       std::optional<FaxCoverDrawing>* drawing);
 
   /// The page as PDF, as Process::output.
   std::FILE* output() { return page_.output(); }

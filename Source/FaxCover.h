@@ -14,6 +14,13 @@ namespace zarvo {
 /// The collection of watermarks that cover sheets choose from.
 inline constexpr char kFaxImageCollection[] = "com.zarvo.printing.faximage.plist";
 
+/// What stands before the reason why a cover sheet was not drawn: of a job that goes out without
+/// it,
+inline constexpr char kCoverLeftOut[] = "The fax cover sheet was left out: ";
+/// and of one that does not go out then.
+inline constexpr char kCoverRefused[] =
+    "the job was not printed: its fax cover sheet cannot be drawn: ";
+
 /// A text and the bold heading above it; an empty text is not drawn, its heading neither.
 struct FaxCoverBlock {
   std::string label;

@@ -40,7 +40,7 @@ COVER = {
 def main():
     helper = pathlib.Path(os.environ["ZARVO_BIN"], "zarvodraw").resolve()
     pdf = subprocess.run(
-        [helper, "faxcover"], input=plistlib.dumps(COVER), stdout=subprocess.PIPE, check=True
+        [helper, "faxcover", "optional"], input=plistlib.dumps(COVER), stdout=subprocess.PIPE, check=True
     ).stdout
     picture = subprocess.run(
         ["pdftoppm", "-r", "72", "-gray", "-png", "-"],

@@ -85,11 +85,17 @@ CopyRules::CopyRules(const JobSettings& settings, const Dictionary& ticket, JobO
       copies_(settings.copies, output) {
   if (settings.pageHooks) page_hooks_.emplace(settings, output, notices);
   fax_cover_.own_paper = settings.pageHooks;
+  fax_cover_.required = settings.failClosed && settings.keepsSecret;
   // Without memory for the table the job goes out, only without name and password.
   if (settings.zarvoJobPassword) job_type_match_ = InitializeHashTables() != 0;
 }
 
 CopyRules::~CopyRules() { DiscardHashTables(); }
+
+bool CopyRules::Prepare() {
+  // A fax cannot be taken back, and may lie before the wrong person where no cover names the right.
+  return !fax_cover_.required || PrepareFaxCover(ticket_, &fax_cover_);
+}
 
 Landmark CopyRules::Classify(std::string_view line) const {
   if (!page_hooks_) return ClassifyLine(line);

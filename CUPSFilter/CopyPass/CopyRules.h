@@ -63,6 +63,10 @@ class CopyRules {
   CopyRules(const CopyRules&) = delete;
   CopyRules& operator=(const CopyRules&) = delete;
 
+  /// What has to be ready before the first byte goes out. False, and one log line, when the job
+  /// must not go out without it.
+  bool Prepare();
+
   /// The first rule that applies to a line. `line` holds its first bytes, terminator included, up
   /// to kLongestTestedLine. Without state of its own in the answer: asking changes nothing.
   Landmark Classify(std::string_view line) const;

@@ -8,8 +8,10 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 
+#include "CUPSFilter/JobNotices.h"
 #include "Platform/Log.h"
 #include "Source/DrawHelper.h"
 #include "Source/FaxCover.h"
@@ -21,27 +23,29 @@ constexpr std::size_t kMaxPdfBytes = 256u << 20;
 constexpr int kLetterHeight = 792;
 constexpr int kHelperFailed = 1;  // and has logged why
 
-void LogLeftOut(const std::string& why) { LogLine("ERROR: %s%s", kCoverLeftOut, why.c_str()); }
+static_assert(std::string_view(kCoverRefused).starts_with(kRefusal));
 
-/// Copies what is left of `input`. False when it is longer than `max_bytes` or than there is room
-/// for, or when either side fails.
+void LogFailure(bool required, const std::string& why) {
+  LogLine("ERROR: %s%s", required ? kCoverRefused : kCoverLeftOut, why.c_str());
+}
+
+/// Copies what is left of `input`. False when it is longer than `max_bytes`, or when either side
+/// fails.
 bool CopyStream(FILE* input, FILE* output, std::size_t max_bytes) {
   char block[1 << 16];
   std::size_t total = 0;
-  const FileRoom room(::fileno(output));
   while (const std::size_t got = std::fread(block, 1, sizeof block, input)) {
     total += got;
-    if (total > max_bytes || !room.Left() || std::fwrite(block, 1, got, output) != got)
-      return false;
+    if (total > max_bytes || std::fwrite(block, 1, got, output) != got) return false;
   }
   return std::ferror(input) == 0;
 }
 
 /// Lets the helper draw the cover into the file. False, with one log line written, on failure.
-bool DrawPdf(const FaxCover& cover, SpoolFile& pdf) {
+bool DrawPdf(const FaxCover& cover, bool required, SpoolFile& pdf) {
   std::optional<FaxCoverDrawing> helper;
-  if (const Failure failure = FaxCoverDrawing::Start(cover, &helper); !failure.empty()) {
-    LogLeftOut(failure);
+  if (const Failure failure = FaxCoverDrawing::Start(cover, required, &helper); !failure.empty()) {
+    LogFailure(required, failure);
     return false;
   }
   FILE* drawn = helper->output();
@@ -50,45 +54,69 @@ bool DrawPdf(const FaxCover& cover, SpoolFile& pdf) {
   const int status = helper->Wait();
   if (copied && status == 0) return true;
   if (!WIFEXITED(status) || WEXITSTATUS(status) != kHelperFailed)
-    LogLeftOut("drawing it did not finish; make room in TMPDIR or send the job again");
+    LogFailure(required, "drawing it did not finish; send the job again");
   return false;
+}
+
+std::string NoMemory() {
+  return std::string("no memory for it: ") + std::strerror(errno) + "; send the job again";
+}
+
+/// The PDF file as a PostScript document, with the converters' files in `scratch`.
+Failure Convert(SpoolFile& pdf, const PdfConverters& converters, const std::string& scratch,
+                std::unique_ptr<SpoolFile>* document) {
+  *document = SpoolFile::CreateInMemory();
+  if (*document == nullptr) return NoMemory();
+  FILE* const stream = (*document)->stream();
+  Failure failure = ConvertPdfToPostScript(::fileno(pdf.stream()), converters, stream, scratch);
+  if (failure.empty() && (std::fflush(stream) != 0 || std::ferror(stream) != 0))
+    failure = NoMemory();
+  return failure;
 }
 
 /// The cover sheet as a document of its own, or null when there is none. The whole document is
 /// there before the first byte goes into the job: half a cover would stop the printer.
-std::unique_ptr<SpoolFile> DrawPostScript(const FaxCover& cover, const PdfConverters& converters) {
-  const std::unique_ptr<SpoolFile> pdf = SpoolFile::Create();
-  std::unique_ptr<SpoolFile> document = pdf != nullptr ? SpoolFile::Create() : nullptr;
-  if (document == nullptr) {
-    LogLeftOut(std::string("TMPDIR takes no file: ") + std::strerror(errno) +
-               "; let TMPDIR name a folder that the spooler may write");
+std::unique_ptr<SpoolFile> DrawPostScript(const FaxCover& cover, bool required,
+                                          const PdfConverters& converters) {
+  const std::unique_ptr<SpoolFile> pdf = SpoolFile::CreateInMemory();
+  if (pdf == nullptr) {
+    LogFailure(required, NoMemory());
     return nullptr;
   }
-  if (!DrawPdf(cover, *pdf)) return nullptr;
+  if (!DrawPdf(cover, required, *pdf)) return nullptr;
 
-  Failure failure = ConvertPdfToPostScript(::fileno(pdf->stream()), converters, document->stream());
-  if (failure.empty() &&
-      (std::fflush(document->stream()) != 0 || std::ferror(document->stream()) != 0))
-    failure = std::string("no room for it: ") + std::strerror(errno) + "; make room in TMPDIR";
+  std::unique_ptr<SpoolFile> document;
+  const std::string scratch = TemporaryFolderWithRoom(kConverterRoom);
+  Failure failure = Convert(*pdf, converters, scratch, &document);
   if (failure.empty()) return document;
-  LogLeftOut(failure);
+  // Somebody else may have filled the disk meanwhile.
+  if (const std::string other = TemporaryFolderWithRoom(kConverterRoom); other != scratch)
+    failure = Convert(*pdf, converters, other, &document);
+  if (failure.empty()) return document;
+  LogFailure(required, failure);
   return nullptr;
 }
 
-void Draw(const Dictionary& ticket, PdfConverters converters, FaxCoverDocument* kept) {
+bool Draw(const Dictionary& ticket, PdfConverters converters, FaxCoverDocument* kept) {
   const std::optional<FaxCover> cover = FaxCoverFromTicket(ticket);
-  if (!cover) return;
+  if (!cover) return true;
   kept->width = static_cast<int>(cover->width);
   kept->height = static_cast<int>(cover->height);
   if (kept->own_paper && kept->height != kLetterHeight) converters.media = "A4";
-  kept->postscript = DrawPostScript(*cover, converters);
+  kept->postscript = DrawPostScript(*cover, kept->required, converters);
+  return kept->postscript != nullptr;
 }
 
 }  // namespace
 
+bool PrepareFaxCover(const Dictionary& ticket, FaxCoverDocument* kept,
+                     const PdfConverters& converters) {
+  return std::exchange(kept->drawn, true) || Draw(ticket, converters, kept);
+}
+
 bool WriteFaxCover(JobOutput& output, const Dictionary& ticket, FaxCoverDocument* kept,
                    const PdfConverters& converters) {
-  if (!std::exchange(kept->drawn, true)) Draw(ticket, converters, kept);
+  PrepareFaxCover(ticket, kept, converters);
   if (kept->postscript == nullptr) return true;
   if (kept->own_paper)
     std::fprintf(

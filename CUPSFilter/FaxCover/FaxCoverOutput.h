@@ -5,7 +5,9 @@
 //          -> the spooler's converters (PdfToPostScript): a PostScript document
 //          -> written ahead of the job's first document, kept for any other
 //
-// What fails on the way leaves the cover out, in one log line, and the job goes out whole.
+// None of this needs room on a disk: both documents are kept in memory, and so are the converters'
+// temporary files where TMPDIR has no room. What fails on the way leaves the cover out, in one log
+// line, and the job goes out whole; unless the queue refuses such jobs.
 #pragma once
 
 #include <cstdio>
@@ -18,9 +20,6 @@
 
 namespace zarvo {
 
-/// The log line of a cover that is not drawn; the reason follows.
-inline constexpr char kCoverLeftOut[] = "The fax cover sheet was left out: ";
-
 /// A job's cover sheet once it is drawn. A job may have any number of document headers, and each
 /// gets the cover; drawing it takes two programs and a second.
 struct FaxCoverDocument {
@@ -28,13 +27,20 @@ struct FaxCoverDocument {
   /// printer is left as it was before. Otherwise every cover is set up for Letter, as drivers of
   /// old do, and the document has to set its paper itself.
   bool own_paper = false;
+  /// Set by the caller: the job does not go out without the cover, and a failure is told so.
+  bool required = false;
   bool drawn = false;  ///< or tried, or not asked for
   std::unique_ptr<SpoolFile> postscript;
   int width = 0;  ///< of its paper, whole points
   int height = 0;
 };
 
-/// Writes the cover sheet that the ticket asks for as a PostScript document of its own; draws it
+/// Draws the cover sheet that the ticket asks for, at the first call for `kept`. False when it asks
+/// for one that cannot be drawn, which one log line has told.
+bool PrepareFaxCover(const Dictionary& ticket, FaxCoverDocument* kept,
+                     const PdfConverters& converters = PdfConverters());
+
+/// Writes the cover sheet that the ticket asks for as a PostScript document of its own; prepares it
 /// at the first call for `kept` and writes the same bytes from then on. Writes nothing when none is
 /// asked for; when drawing or conversion fails, writes nothing of the cover and, the first time,
 /// one log line, so that the job goes out whole. False, with errno set, when a cover that

@@ -15,7 +15,6 @@
 #include <vector>
 
 #include "CUPSFilter/CopyPass/psgets.h"
-#include "Platform/ScratchFolder.h"
 
 namespace zarvo {
 namespace {
@@ -111,14 +110,15 @@ std::string PdfConverters::DefaultFilterFolder() {
   return folder != nullptr && *folder != '\0' ? folder : ZARVO_CUPS_FILTER_DIR;
 }
 
-Failure ConvertPdfToPostScript(int pdf, const PdfConverters& converters, FILE* document) {
+Failure ConvertPdfToPostScript(int pdf, const PdfConverters& converters, FILE* document,
+                               const std::string& scratch) {
   const std::vector<Command> commands = ChooseCommands(converters);
   if (commands.empty())
     return "there is no PDF converter in " + converters.filter_folder +
            "; install the package cups-filters or poppler-utils";
 
-  const std::unique_ptr<ScratchFolder> scratch = ScratchFolder::Create();
-  if (scratch == nullptr)
+  const std::unique_ptr<ScratchFolder> folder = ScratchFolder::Create(scratch);
+  if (folder == nullptr)
     return std::string("no folder for the converters' files: ") + std::strerror(errno) +
            "; let TMPDIR name a folder that the spooler may write";
   std::vector<Process> running;
@@ -126,7 +126,7 @@ Failure ConvertPdfToPostScript(int pdf, const PdfConverters& converters, FILE* d
     const UniqueFd between = running.empty() ? UniqueFd() : running.back().TakeOutput();
     ProcessOptions options;
     options.arguments = command;
-    options.environment = scratch->Environment();
+    options.environment = folder->Environment();
     options.input_fd = running.empty() ? pdf : between.get();
     options.wall_clock = converters.limit;
     std::optional<Process> process = Process::Start(options);

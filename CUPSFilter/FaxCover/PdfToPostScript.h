@@ -3,11 +3,13 @@
 #pragma once
 
 #include <chrono>
+#include <cstdint>
 #include <cstdio>
 #include <string>
 
 #include "Platform/Failure.h"
 #include "Platform/Process.h"
+#include "Platform/ScratchFolder.h"
 
 namespace zarvo {
 
@@ -27,10 +29,16 @@ struct PdfConverters {
   static std::string DefaultFilterFolder();
 };
 
+/// The room for temporary files that converting a page may take, in bytes: with a full-page picture
+/// some tens of megabytes. Without that they go into memory.
+inline constexpr std::uint64_t kConverterRoom = 64u << 20;
+
 /// Converts the open PDF file `pdf` (anywhere positioned, at any offset) and writes the PostScript
 /// document, from its first line that contains "%!PS-Adobe-3.0" to the first one that contains
-/// "%%EOF", to `document`. When it fails `document` may hold a
-/// part of it.
-Failure ConvertPdfToPostScript(int pdf, const PdfConverters& converters, FILE* document);
+/// "%%EOF", to `document`. The converters' temporary files go into a folder in `scratch`. When it
+/// fails `document` may hold a part of it.
+Failure ConvertPdfToPostScript(
+    int pdf, const PdfConverters& converters, FILE* document,
+    const std::string& scratch = TemporaryFolderWithRoom(kConverterRoom));
 
 }  // namespace zarvo

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <cstdio>
+#include <cstring>
 #include <string>
 
 #include "Platform/Log.h"
@@ -37,23 +38,23 @@ Surface ReadImage(const WatermarkData& watermark) {
 
 }  // namespace
 
-int RunFaxCoverJob(char**) {
+int RunFaxCoverJob(char** arguments) {
+  const char* const begin =
+      std::strcmp(arguments[0], "required") == 0 ? kCoverRefused : kCoverLeftOut;
   Confine(Task::kPage);
   Value description;
   Failure failure = ParsePropertyList(ReadStream(stdin, kMaxPropertyListBytes), &description);
   if (failure.empty() && description.AsDictionary() == nullptr) failure = "it is no dictionary";
   if (!failure.empty()) {
-    LogLine(
-        "ERROR: The fax cover sheet was left out: its description is damaged: %s; "
-        "install the package zarvo again",
-        failure.c_str());
+    LogLine("ERROR: %sits description is damaged: %s; install the package zarvo again", begin,
+            failure.c_str());
     return kJobFailed;
   }
   const FaxCover cover = FaxCoverFromDictionary(*description.AsDictionary());
   const Surface image = ReadImage(cover.watermark);
   const cairo_status_t status = DrawFaxCover(stdout, cover, image.get());
   if (status != CAIRO_STATUS_SUCCESS || std::fflush(stdout) != 0) {
-    LogLine("ERROR: The fax cover sheet was left out: drawing failed: %s; send the job again",
+    LogLine("ERROR: %sdrawing failed: %s; send the job again", begin,
             cairo_status_to_string(status));
     return kJobFailed;
   }

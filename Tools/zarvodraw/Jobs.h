@@ -14,9 +14,10 @@ constexpr int kBadUsage = 2;
 /// both have 8 bits per component. NAME is what log lines call it.
 int RunImageJob(char** arguments);
 
-/// faxcover: reads the description of a fax cover sheet, a property list, from standard input and
-/// writes the sheet as a PDF document of one page. A watermark's image is read as a PAM from
-/// kDataFd.
+/// faxcover NEED: reads the description of a fax cover sheet, a property list, from standard input
+/// and writes the sheet as a PDF document of one page. A watermark's image is read as a PAM from
+/// kDataFd. NEED says what becomes of a job without the sheet: "optional", it goes out, or
+/// "required", it does not.
 int RunFaxCoverJob(char** arguments);
 
 /// check TASK: locks itself in as for decoding an "image" or drawing a "page", tries what is

@@ -18,7 +18,7 @@ struct Job {
 
 constexpr Job kJobs[] = {
     {"image", 2, &zarvo::RunImageJob},
-    {"faxcover", 0, &zarvo::RunFaxCoverJob},
+    {"faxcover", 1, &zarvo::RunFaxCoverJob},
     {"check", 1, &zarvo::RunCheckJob},
 };
 

@@ -135,10 +135,10 @@ class Faults(unittest.TestCase):
         lines = log.decode(errors="replace").splitlines()
         lines = [line for line in lines if not re.search(OTHERS_SAY, line)]
         for line in lines:
-            self.assertRegex(line, "^(ERROR|INFO|DEBUG): ")
+            self.assertRegex(line, "^(ERROR|INFO|DEBUG|STATE): ")
         # The cover holds the time at which it was drawn.
         output = re.sub(rb"\d{14}[Z+-]\d\d'\d\d'?", b"", output or b"")
-        return output, [line for line in lines if not line.startswith("DEBUG")], process.returncode
+        return output, [line for line in lines if not line.startswith(("DEBUG", "STATE"))], process.returncode
 
     def run_to_end(self, *arguments, timeout=10, **options):
         return self.finish(self.start(*arguments, **options), timeout)
@@ -176,6 +176,17 @@ class Writing(Faults):
         self.addCleanup(subprocess.run, ["umount", str(self.spool)], check=True)
         result = self.run_to_end("booklet", LARGE)
         self.assert_told(result, 1, "ERROR: unable to spool", "No space left", "TMPDIR")
+        # A cover needs no room there, not even for a folder.
+        whole = self.run_to_end("cover")
+        with contextlib.suppress(OSError), (self.scratch / "spool/filler").open("wb", 0) as filler:
+            while True:
+                filler.write(bytes(4096))
+        self.assertEqual(shutil.disk_usage(self.spool).free, 0)
+        process = self.start("cover")
+        process.wait(10)
+        (self.spool / "filler").unlink()
+        self.assertEqual(self.finish(process), whole)
+        self.assertEqual(whole[1:], ([], 0))
 
     def test_reader_goes(self):
         for feature in ("plain", "ticket", "booklet", "image"):
@@ -336,6 +347,9 @@ class Helpers(Faults):
 
     def test_cover_programs(self):
         plain, _, _ = self.run_to_end(FEATURES["cover"].replace("=true", "=false"))
+        usual = self.environment["PPD"]
+        strict = self.scratch / "strict.ppd"
+        strict.write_bytes(pathlib.Path(usual).read_bytes() + b"*ZRVFailClosed: True\n")
         for replace in (self.replace_converter, self.replace_helper):
             for name, script in self.SCRIPTS.items():
                 if name == "family" and replace == self.replace_converter:
@@ -345,6 +359,11 @@ class Helpers(Faults):
                     result = self.run_to_end("cover")
                     self.assert_told(result, 0, "cover sheet was left out")
                     self.assertEqual(result[0], plain)
+                    self.environment["PPD"] = str(strict)
+                    result = self.run_to_end("cover")
+                    self.environment["PPD"] = usual
+                    self.assert_told(result, 1, "not printed: its fax cover sheet cannot be drawn")
+                    self.assertEqual(result[0], b"")
 
     def test_hanging_programs_are_ended(self):
         plain, _, _ = self.run_to_end(FEATURES["cover"].replace("=true", "=false"))
@@ -409,6 +428,9 @@ class Surroundings(Faults):
                 self.assertEqual(lines[0], "ERROR: unable to get tmpnam")
                 self.assertIn(f'TMPDIR, "{folder}" - ', lines[1])
                 result = self.run_to_end("cover")
+                if folder == "/proc":  # it has no room, but memory has
+                    self.assertEqual(result[1:], ([], 0))
+                    continue
                 self.assert_told(result, 0, "cover sheet was left out", "TMPDIR")
                 self.assertEqual(result[0], plain)
         self.assertEqual(target.read_text(), "untouched")

@@ -42,7 +42,7 @@ COVER = FAX + "".join(option(*row) for row in (
 class Drawing(ZarvoTest):
     def draw(self, width=612, height=792, **texts):
         description = {"MediaWidth": float(width), "MediaHeight": float(height)} | texts
-        pdf = run([BIN / "zarvodraw", "faxcover"], plistlib.dumps(description))
+        pdf = run([BIN / "zarvodraw", "faxcover", "optional"], plistlib.dumps(description))
         return self.path("cover.pdf", pdf)
 
     def test_texts_stand_at_their_places(self):

@@ -175,7 +175,7 @@ int Preview(Options options) {
   const std::optional<FaxCover> cover = FaxCoverFromTicket(*ticket);
   if (!cover) return Fail(options.settings, "asks for no cover sheet");
   std::optional<FaxCoverDrawing> helper;
-  if (const Failure failure = FaxCoverDrawing::Start(*cover, &helper); !failure.empty())
+  if (const Failure failure = FaxCoverDrawing::Start(*cover, false, &helper); !failure.empty())
     return Fail("cover sheet", failure);
   std::string pdf;
   char block[65536];

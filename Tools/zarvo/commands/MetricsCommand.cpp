@@ -16,9 +16,9 @@
 #include <memory>
 #include <sstream>
 
-#include "CUPSFilter/FaxCover/FaxCoverOutput.h"
 #include "CUPSFilter/Watermark/outputPICT.h"
 #include "Platform/AtomicFile.h"
+#include "Source/FaxCover.h"
 #include "Tools/zarvo/Command.h"
 #include "Tools/zarvo/commands/FinishedJobs.h"
 
@@ -59,8 +59,10 @@ struct HelperFailure {
   std::string_view text;
   const char* helper;
 };
-constexpr HelperFailure kHelperFailures[] = {
-    {kImageLeftOut, "image"}, {kCoverLeftOut, "cover"}, {"booklet: ", "booklet"}};
+constexpr HelperFailure kHelperFailures[] = {{kImageLeftOut, "image"},
+                                             {kCoverLeftOut, "cover"},
+                                             {kCoverRefused, "cover"},
+                                             {"booklet: ", "booklet"}};
 
 /// Numbers by their series: its name and labels, as they are written.
 using SeriesTable = std::map<std::string, double>;
