@@ -98,7 +98,32 @@ PACK = """set -e
 apt-get install -y -qq --no-install-recommends {packages} >/dev/null
 zarvo watermark add-text HOUSE
 cd /root && zarvo store pack --name house-store --version 8 --maintainer 'Ada <ada@example.org>' >&2
-rm -r /var/lib/Zarvo && apt-get purge -y -qq zarvo-filter zarvo-tools >/dev/null"""
+rm -r /var/lib/Zarvo
+{sign}
+apt-get purge -y -qq house-store zarvo-filter zarvo-tools >/dev/null; rm /etc/apt/sources.list.d/house.sources"""
+# Sent by a signed repository, as the documents tell: taken from the house, and in no other way.
+SIGN = """apt-get install -y -qq --no-install-recommends reprepro gnupg >/dev/null
+export GNUPGHOME=/root/keys; install -d -m 700 $GNUPGHOME
+install -D -m 644 /root/fleet/stores/distributions /srv/house/conf/distributions
+gpg --batch --quiet --passphrase '' --quick-generate-key 'House stores <stores@example.org>' rsa4096 sign never
+reprepro -b /srv/house includedeb house /root/house-store_8_all.deb >&2
+gpg --export stores@example.org >/root/house.gpg
+install -D -m 644 /root/house.gpg /etc/apt/keyrings/house.gpg
+sed s,https://stores.example,file:/srv, /root/fleet/stores/house.sources >/etc/apt/sources.list.d/house.sources
+lists="-o Dir::Etc::sourcelist=/etc/apt/sources.list.d/house.sources -o Dir::Etc::sourceparts=- -o APT::Update::Error-Mode=any"
+# What apt has of the list before is not kept: it would hide what is wrong with the next.
+try() {{ rm -rf /var/lib/apt/lists/*house*
+  if apt-get $lists update && apt-get $lists install -y house-store; then said=taken; else said=refused; fi >&2
+  echo "$1: $said, $(zarvo watermark list | grep -c HOUSE) there"
+}}
+cp -r /srv/house /srv/right
+anew() {{ rm -r /srv/house; cp -r /srv/right /srv/house; cd /srv/house/dists/house; }}
+printf x >>"$(find /srv/house/pool -name '*.deb')"; try "another package"
+anew; sed -i s/^Description:.*/Description:x/ main/*/Packages; rm main/*/Packages.gz; try "another list"
+anew; sed -i s/^Codename:.*/Codename:\\ House/ InRelease; rm Release*; try "another release"
+anew; rm InRelease Release.gpg; try "no signature"
+anew; try "of the house"
+"""
 
 
 def changes(text):
@@ -134,7 +159,8 @@ def main():
         front = BareDebian(scratch + "-front", own_release())
         stack.callback(shutil.rmtree, front.root, ignore_errors=True)
         subprocess.run(["cp", "-a", scratch, front.root], check=True)
-        run(front, PACK.format(packages=" ".join(f"/root/{package.name}" for package in packages)))
+        signed = run(front, PACK.format(
+            packages=" ".join(f"/root/{package.name}" for package in packages), sign=SIGN.format()))
         shutil.copy(front.root / STORE[1:], system.root / STORE[1:])
         system.write("root/inventory", INVENTORY.format(packages=names, stores=f'["{STORE}"]', servers="localhost",
                                                         fronts=""))
@@ -149,6 +175,10 @@ def main():
         front_made = [run(front, PLAY.format("fronts", NO_QUEUES)) for _ in range(2)]
         front_told = run(front, FRONT.format(play=PLAY.format("fronts", "")), own_network=True)
     print("the alerts fire as they should")
+    assert signed.splitlines() == [
+        *(f"{other}: refused, 0 there" for other in ("another package", "another list", "another release",
+                                                     "no signature")), "of the house: taken, 1 there"], signed
+    print("a store came by a signed repository, and by no other")
     front_changes = [changes(text)[0] for text in front_made] + changes(front_told)
     assert front_changes[0][0] > 5 and front_changes[1:] == [(0, 0), (1, 0), (0, 0)], front_changes
     assert front_told.split()[-11:] == [
