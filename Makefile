@@ -104,7 +104,8 @@ lint:
 # Three servers behind a front, each a machine of its own on this one: prints through them and shows where
 # the jobs are. FLEET='--jobs 500 --fault "server2 at 50 for 10"' takes its power from one; see docs/fleet.md.
 fleet: setup
-	@$(MAKE) --no-print-directory build
+	@cmake --preset release >/dev/null
+	@cmake --build --preset release -j $(JOBS) --target zarvofilter zarvodraw zarvo ppd
 	@ZARVO_BIN=build/bin python3 fleet/fleet.py $(FLEET)
 
 # A bare Debian, made a print server by Ansible; it fetches some hundred megabytes of packages for that alone.
