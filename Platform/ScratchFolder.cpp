@@ -90,17 +90,17 @@ std::string TemporaryFolder() {
   return folder != nullptr && *folder != '\0' ? folder : "/tmp";
 }
 
+std::uint64_t RoomLeft(const std::string& folder, std::uint64_t unknown) {
+  struct statvfs status {};
+  return ::statvfs(folder.c_str(), &status) == 0 ? std::uint64_t{status.f_bavail} * status.f_frsize
+                                                 : unknown;
+}
+
 std::string TemporaryFolderWithRoom(std::uint64_t bytes) {
   constexpr char kMemory[] = "/dev/shm";  // POSIX's shared memory, open to all like /tmp
-  const auto room = [](const std::string& folder, std::uint64_t unknown) {
-    struct statvfs status {};
-    return ::statvfs(folder.c_str(), &status) == 0
-               ? std::uint64_t{status.f_bavail} * status.f_frsize
-               : unknown;
-  };
   std::string usual = TemporaryFolder();
-  const std::uint64_t left = room(usual, bytes);
-  return left < bytes && room(kMemory, 0) > left ? kMemory : usual;
+  const std::uint64_t left = RoomLeft(usual, bytes);
+  return left < bytes && RoomLeft(kMemory, 0) > left ? kMemory : usual;
 }
 
 std::unique_ptr<ScratchFolder> ScratchFolder::Create(const std::string& parent) {

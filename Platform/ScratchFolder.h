@@ -23,6 +23,10 @@ namespace zarvo {
 /// The folder that TMPDIR names, else /tmp.
 std::string TemporaryFolder();
 
+/// The bytes of room for ordinary users on the file system of a folder; `unknown` where nobody
+/// knows.
+std::uint64_t RoomLeft(const std::string& folder, std::uint64_t unknown);
+
 /// TemporaryFolder(), or a folder in memory where that one has less than `bytes` of room left and
 /// memory has more.
 std::string TemporaryFolderWithRoom(std::uint64_t bytes);

@@ -3,7 +3,9 @@
 
 #include <sys/wait.h>
 
+#include <algorithm>
 #include <cerrno>
+#include <cstdint>
 #include <cstring>
 #include <memory>
 #include <optional>
@@ -20,6 +22,7 @@ namespace zarvo {
 namespace {
 
 constexpr std::size_t kMaxPdfBytes = 256u << 20;
+constexpr std::uint64_t kLeastRoom = 1u << 20;
 constexpr int kLetterHeight = 792;
 constexpr int kHelperFailed = 1;  // and has logged why
 
@@ -62,7 +65,9 @@ std::string NoMemory() {
   return std::string("no memory for it: ") + std::strerror(errno) + "; send the job again";
 }
 
-/// The PDF file as a PostScript document, with the converters' files in `scratch`.
+/// The PDF file as a PostScript document, with the converters' files in `scratch`. It fails, too,
+/// where there is hardly any room left after it: Ghostscript does not notice when a temporary file
+/// of its own is cut short, and leaves out what was in it.
 Failure Convert(SpoolFile& pdf, const PdfConverters& converters, const std::string& scratch,
                 std::unique_ptr<SpoolFile>* document) {
   *document = SpoolFile::CreateInMemory();
@@ -71,6 +76,9 @@ Failure Convert(SpoolFile& pdf, const PdfConverters& converters, const std::stri
   Failure failure = ConvertPdfToPostScript(::fileno(pdf.stream()), converters, stream, scratch);
   if (failure.empty() && (std::fflush(stream) != 0 || std::ferror(stream) != 0))
     failure = NoMemory();
+  const auto bytes = static_cast<std::uint64_t>(std::max(std::ftell(stream), 0L));
+  if (failure.empty() && RoomLeft(scratch, kLeastRoom + bytes) < kLeastRoom + bytes)
+    failure = "there may have been too little room for it; make room in TMPDIR";
   return failure;
 }
 
@@ -88,9 +96,10 @@ std::unique_ptr<SpoolFile> DrawPostScript(const FaxCover& cover, bool required,
   std::unique_ptr<SpoolFile> document;
   const std::string scratch = TemporaryFolderWithRoom(kConverterRoom);
   Failure failure = Convert(*pdf, converters, scratch, &document);
-  if (failure.empty()) return document;
   // Somebody else may have filled the disk meanwhile.
-  if (const std::string other = TemporaryFolderWithRoom(kConverterRoom); other != scratch)
+  const std::string other = TemporaryFolderWithRoom(kConverterRoom);
+  const bool filled = RoomLeft(scratch, kConverterRoom) < kConverterRoom;
+  if (other != scratch && (filled || !failure.empty()))
     failure = Convert(*pdf, converters, other, &document);
   if (failure.empty()) return document;
   LogFailure(required, failure);
