@@ -11,6 +11,8 @@ import pathlib
 import subprocess
 import zlib
 
+from machines import as_user
+
 MARK = "J0000000"
 PAGES = 4
 LINES = 40
@@ -109,9 +111,9 @@ def make_store(folder):
     (folder / "Zarvo").mkdir(parents=True)
     environment = {"ZARVO_APPLICATION_SUPPORT": str(folder)}
     (folder / IMAGE_WATERMARK).write_bytes(png(300, 200))
-    zarvo = pathlib.Path(os.environ["ZARVO_BIN"]) / "zarvo"
+    zarvo = [*as_user(), pathlib.Path(os.environ["ZARVO_BIN"]) / "zarvo"]
     for words in (["add-text", "DRAFT"], ["add-image", folder / IMAGE_WATERMARK]):
-        subprocess.run([zarvo, "watermark", *words], env={**os.environ, **environment}, check=True,
+        subprocess.run([*zarvo, "watermark", *words], env={**os.environ, **environment}, check=True,
                        capture_output=True)
     for path in [folder, *folder.rglob("*")]:  # the filters run as another user
         path.chmod(0o755 if path.is_dir() else 0o644)

@@ -45,6 +45,11 @@ def unshare_command():
     return [*BOUND, "unshare", *own, "--net"]
 
 
+def as_user():
+    """What lets a program run as the user: some change theirs where it is root, which a user's own root may not."""
+    return ["unshare", f"--map-user={user()}", f"--map-group={user()}"] if user() else []
+
+
 def why_not():
     """Why there can be no such network here, or nothing."""
     try:
@@ -87,8 +92,8 @@ class Machine:
         """Starts the one program from which all others on the machine come. `disk`, which takes a root, is a
         pair of megabytes and the folder where a disk of that size is laid; it is gone when power is."""
         self._plug("up")
-        # The spooler changes its user where it is root, which a user's own root may not.
-        own = [f"--map-user={user()}", f"--map-group={user()}"] if user() else []
+        # The spooler changes its user where it is root.
+        own = as_user()[1:]
         if disk:
             command = ["sh", "-c", 'mount -t tmpfs -o size=$0m tmpfs "$1" && mkdir -m 1777 "$1/tmp" && shift && exec "$@"',
                        *disk, *command]
