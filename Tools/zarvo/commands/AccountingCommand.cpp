@@ -34,7 +34,7 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-struct Options {
+struct AccountingOptions {
   std::string log = "/var/log/zarvo/accounting.log";
   std::string state = "/var/lib/zarvo-tools/accounting.json";
 };
@@ -222,7 +222,7 @@ class Log {
   UniqueFd file_;
 };
 
-int Account(const Options& options) {
+int Account(const AccountingOptions& options) {
   HistoryState state(options.state);
   if (!state.locked()) return Fail(state.folder(), std::strerror(errno), kWhoMay);
   Log log(options.log);
@@ -257,7 +257,7 @@ int Account(const Options& options) {
 }  // namespace
 
 void SetUpAccounting(CLI::App& app, Action* action) {
-  const auto options = std::make_shared<Options>();
+  const auto options = std::make_shared<AccountingOptions>();
   app.add_option("--log", options->log, "the file that gets a line of JSON for each job")
       ->capture_default_str();
   app.add_option("--state", options->state, "the file that holds how far it has come")

@@ -16,7 +16,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-struct Options {
+struct ComposeOptions {
   std::string file, queue, settings;
 };
 
@@ -29,7 +29,7 @@ std::string DesktopProgram() {
   return !error && access(beside.c_str(), X_OK) == 0 ? beside.string() : "";
 }
 
-int Compose(const Options& options) {
+int Compose(const ComposeOptions& options) {
   const std::string program = DesktopProgram();
   if (program.empty())
     return Fail("zarvo-desk", "is not installed", "Install the package zarvo-desktop");
@@ -47,7 +47,7 @@ int Compose(const Options& options) {
 }  // namespace
 
 void SetUpCompose(CLI::App& app, Action* action) {
-  const auto options = std::make_shared<Options>();
+  const auto options = std::make_shared<ComposeOptions>();
   app.add_option("file", options->file, "document to open")->required()->check(CLI::ExistingFile);
   app.add_option("-d,-q,--queue", options->queue, "queue to print on");
   app.add_option("-s,--settings", options->settings, "settings in the readable form")

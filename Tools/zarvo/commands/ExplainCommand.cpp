@@ -21,7 +21,7 @@ using nlohmann::ordered_json;
 // A job that takes longer to draw is told as far as that.
 constexpr std::chrono::milliseconds kLongestLook = std::chrono::minutes(2);
 
-struct Options {
+struct ExplainOptions {
   std::string file = "-";
   bool json = false;
   bool quick = false;
@@ -139,7 +139,7 @@ void Look(const PostScriptFiles& split, const ScratchFolder& scratch, Progress* 
   }
 }
 
-int Explain(const Options& options) {
+int Explain(const ExplainOptions& options) {
   Stream file;
   std::FILE* input = stdin;
   if (options.file != "-") {
@@ -176,7 +176,7 @@ int Explain(const Options& options) {
 }  // namespace
 
 void SetUpExplain(CLI::App& app, Action* action) {
-  const auto options = std::make_shared<Options>();
+  const auto options = std::make_shared<ExplainOptions>();
   app.add_option("file", options->file, "a job that the filter wrote; - for standard input")
       ->capture_default_str();
   app.add_flag("--json", options->json, "for programs");

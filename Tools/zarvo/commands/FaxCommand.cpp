@@ -28,7 +28,7 @@
 namespace zarvo::tool {
 namespace {
 
-struct Options {
+struct FaxOptions {
   std::string settings;
   std::vector<std::string> to;
   std::string cover, from, notes;
@@ -101,7 +101,7 @@ std::string WholeDate(const std::string& at) {
 }
 
 /// The command line's fax settings in the readable form, which has words for numbers and dates.
-std::string ReadableOptions(const Options& options) {
+std::string ReadableOptions(const FaxOptions& options) {
   nlohmann::json fax = nlohmann::json::object();
   const auto set = [&fax](const char* key, const std::string& text) {
     if (!text.empty()) fax[key] = text;
@@ -130,7 +130,7 @@ std::string ReadableOptions(const Options& options) {
 /// The ticket of the settings, of the command line and of the recipients; nothing, having told why,
 /// when they cannot be read. What the command line says comes before the settings, but for the
 /// headings of the cover, which the settings may have in another language.
-std::optional<Dictionary> FaxTicket(const Options& options) {
+std::optional<Dictionary> FaxTicket(const FaxOptions& options) {
   Dictionary ticket;
   if (!options.settings.empty()) {
     std::string text;
@@ -164,7 +164,7 @@ std::optional<Dictionary> FaxTicket(const Options& options) {
   return ticket;
 }
 
-int Preview(Options options) {
+int PreviewFax(FaxOptions options) {
   if (options.settings.empty() && options.to.empty() && options.cover.empty())
     options.settings = "-";
   std::optional<Dictionary> ticket = FaxTicket(options);
@@ -188,7 +188,7 @@ int Preview(Options options) {
   return WriteOutput(options.output, pdf);
 }
 
-int Send(const Options& options) {
+int Send(const FaxOptions& options) {
   std::optional<Dictionary> ticket = FaxTicket(options);
   if (!ticket) return kExitFailure;
   if (DictionaryGetArray(*ticket, key::kFaxRecipientList)->empty())
@@ -203,7 +203,7 @@ int Send(const Options& options) {
 }
 
 /// What both have in common, the fax itself.
-void AddFaxOptions(CLI::App* app, const std::shared_ptr<Options>& options) {
+void AddFaxOptions(CLI::App* app, const std::shared_ptr<FaxOptions>& options) {
   app->add_option("--to", options->to,
                   "number, or a recipient's or a group's name or UID; may be repeated")
       ->allow_extra_args(false);
@@ -217,7 +217,7 @@ void AddFaxOptions(CLI::App* app, const std::shared_ptr<Options>& options) {
 
 void SetUpFax(CLI::App& app, Action* action) {
   app.require_subcommand(1);
-  const auto options = std::make_shared<Options>();
+  const auto options = std::make_shared<FaxOptions>();
   CLI::App* send = app.add_subcommand("send", "Sends a file to fax numbers, people or groups");
   send->add_option("file", options->job.file, "file to send; - for standard input")->required();
   AddPrintOptions(*send, &options->job);
@@ -239,7 +239,7 @@ void SetUpFax(CLI::App& app, Action* action) {
   AddFaxOptions(preview, options);
   preview->add_option("--output", options->output, "file to write; - for standard output")
       ->capture_default_str();
-  preview->callback([=] { *action = [=] { return Preview(*options); }; });
+  preview->callback([=] { *action = [=] { return PreviewFax(*options); }; });
 }
 
 }  // namespace zarvo::tool

@@ -31,16 +31,14 @@
 namespace zarvo::tool {
 namespace {
 
-using Options = HouseTicketOptions;
-
 /// Where a new ticket goes: where it is said, else root's to everybody and a user's to the user.
-HouseTicketStore TargetStore(const Options& options) {
+HouseTicketStore TargetStore(const HouseTicketOptions& options) {
   const bool shared = options.shared || (!options.own && ::geteuid() == 0);
   return shared ? HouseTicketStore::Shared() : HouseTicketStore::Own();
 }
 
 /// The store to change a ticket in, which has been read; null, having told why.
-HouseTicketStore* StoreOf(const Options& options, HouseStores* stores) {
+HouseTicketStore* StoreOf(const HouseTicketOptions& options, HouseStores* stores) {
   if (const std::string fault = stores->Read(); !fault.empty())
     return Fail("store", fault), nullptr;
   HouseTicketStore* first = options.shared ? &stores->shared : &stores->own;
@@ -57,7 +55,7 @@ int Changed(const std::string& place, const HouseTicketStore& store, const std::
               denied ? "Everybody's tickets are changed as root; --own keeps yours" : "");
 }
 
-bool AddDetails(const Options& options, HouseTicket* house) {
+bool AddDetails(const HouseTicketOptions& options, HouseTicket* house) {
   if (!options.basedOn.empty()) house->basedOn = options.basedOn;
   for (const std::string& title : options.titles) {
     const std::size_t equals = title.find('=');
@@ -75,7 +73,7 @@ bool AddDetails(const Options& options, HouseTicket* house) {
 
 /// Keeps the ticket when it can be resolved with it, and, where one is to be replaced, when that is
 /// still the one that was read.
-int Keep(const Options& options, HouseTicketStore store, const HouseTicket& house,
+int Keep(const HouseTicketOptions& options, HouseTicketStore store, const HouseTicket& house,
          const std::string* replaced = nullptr) {
   errno = 0;
   const std::string fault = store.Change([&](HouseTicketStore* open) {
@@ -92,7 +90,7 @@ int Keep(const Options& options, HouseTicketStore store, const HouseTicket& hous
   return Changed(options.name, store, fault);
 }
 
-int Save(const Options& options) {
+int Save(const HouseTicketOptions& options) {
   HouseTicket house;
   if (!options.fromJob.empty()) {
     if (!ReadSpoolerJob(options, &house)) return kExitFailure;
@@ -108,7 +106,7 @@ int Save(const Options& options) {
   return Keep(options, TargetStore(options), house);
 }
 
-int List(const Options& options) {
+int List(const HouseTicketOptions& options) {
   HouseStores stores;
   if (const std::string fault = stores.Read(); !fault.empty()) return Fail("store", fault);
   nlohmann::ordered_json json = nlohmann::ordered_json::array();
@@ -143,7 +141,7 @@ bool Resolve(const std::string& name, ResolvedHouseTicket* resolved) {
   return fault.empty();
 }
 
-int Show(const Options& options) {
+int Show(const HouseTicketOptions& options) {
   if (options.settings) {
     ResolvedHouseTicket resolved;
     if (!Resolve(options.name, &resolved)) return kExitFailure;
@@ -160,7 +158,7 @@ int Show(const Options& options) {
 }
 
 /// What somebody has written is not thrown away with the folder that it was written in.
-int KeepAside(const Options& options, const std::string& text, int status) {
+int KeepAside(const HouseTicketOptions& options, const std::string& text, int status) {
   std::string file = TemporaryFolder() + "/zarvo-ticket-XXXXXX";
   const UniqueFd out(::mkstemp(file.data()));
   if (!out || ::write(out.get(), text.data(), text.size()) != static_cast<ssize_t>(text.size()))
@@ -170,7 +168,7 @@ int KeepAside(const Options& options, const std::string& text, int status) {
 }
 
 /// In the editor, unless the command line says all that is to change.
-int Edit(const Options& options) {
+int Edit(const HouseTicketOptions& options) {
   const bool said =
       !options.titles.empty() || !options.basedOn.empty() || !options.mayOverride.empty();
   HouseStores stores;
@@ -214,7 +212,7 @@ std::vector<std::string> Dependents(const HouseTicketStore& store, const std::st
   return found;
 }
 
-int Remove(const Options& options) {
+int Remove(const HouseTicketOptions& options) {
   HouseStores stores;
   HouseTicketStore* store = StoreOf(options, &stores);
   if (store == nullptr) return kExitFailure;
@@ -229,7 +227,7 @@ int Remove(const Options& options) {
   return Changed(options.name, *store, fault);
 }
 
-int Rename(const Options& options) {
+int Rename(const HouseTicketOptions& options) {
   HouseStores stores;
   HouseTicketStore* store = StoreOf(options, &stores);
   if (store == nullptr) return kExitFailure;
@@ -251,7 +249,7 @@ int Rename(const Options& options) {
   return Changed(options.name, *store, fault);
 }
 
-int Diff(const Options& options) {
+int Diff(const HouseTicketOptions& options) {
   ResolvedHouseTicket left, right;
   if (!Resolve(options.name, &left) || !Resolve(options.other, &right)) return kExitFailure;
   const std::vector<std::string> lines = TicketDifferences(left.ticket, right.ticket);
@@ -260,7 +258,7 @@ int Diff(const Options& options) {
 }
 
 /// Jobs are printed from the shared store; so only what is there can be a queue's choice.
-int ChangeChoices(const Options& options, bool publish) {
+int ChangeChoices(const HouseTicketOptions& options, bool publish) {
   QueuePpd queue;
   if (const Failure failure = queue.Fetch(options.queue); !failure.empty())
     return Fail(options.queue, failure);
@@ -283,14 +281,15 @@ int ChangeChoices(const Options& options, bool publish) {
   return InstallPpd(options.queue, changed);
 }
 
-int Publish(const Options& options) { return ChangeChoices(options, true); }
-int Unpublish(const Options& options) { return ChangeChoices(options, false); }
+int Publish(const HouseTicketOptions& options) { return ChangeChoices(options, true); }
+int Unpublish(const HouseTicketOptions& options) { return ChangeChoices(options, false); }
 
 }  // namespace
 
 void SetUpHouseTickets(CLI::App& app, Action* action) {
-  const auto options = std::make_shared<Options>();
-  const auto add = [&](const char* name, const char* summary, int (*run)(const Options&)) {
+  const auto options = std::make_shared<HouseTicketOptions>();
+  const auto add = [&](const char* name, const char* summary,
+                       int (*run)(const HouseTicketOptions&)) {
     CLI::App* command = app.add_subcommand(name, summary);
     command->callback([=] { *action = [=] { return run(*options); }; });
     return command;

@@ -15,7 +15,7 @@
 namespace zarvo::tool {
 namespace {
 
-struct Options {
+struct ManualOptions {
   std::string folder;
   std::string shell;
   bool complete = false;
@@ -217,7 +217,7 @@ complete -c zarvo -f -a '(__zarvo_complete)'
 )sh"},
 };
 
-int Write(const Options& options) {
+int Write(const ManualOptions& options) {
   if (!options.folder.empty()) return WriteManual(options.folder);
   if (options.complete) {
     std::string list;
@@ -234,7 +234,7 @@ int Write(const Options& options) {
 }  // namespace
 
 void SetUpManual(CLI::App& app, Action* action) {
-  const auto options = std::make_shared<Options>();
+  const auto options = std::make_shared<ManualOptions>();
   app.add_option("--man", options->folder, "folder for manual pages");
   app.add_option("--completion", options->shell,
                  "completion for bash, zsh or fish, on standard output");

@@ -25,7 +25,7 @@
 namespace zarvo::tool {
 namespace {
 
-struct Options {
+struct MetricsOptions {
   std::string output = "-";
   std::string state = "/var/lib/zarvo-tools/metrics.json";
 };
@@ -210,7 +210,7 @@ std::string TextOf(const SeriesTable& series) {
   return text;
 }
 
-int Metrics(const Options& options) {
+int Metrics(const MetricsOptions& options) {
   HistoryState state(options.state);
   if (!state.locked()) return Fail(state.folder(), std::strerror(errno), kWhoMay);
   SeriesTable totals;
@@ -250,7 +250,7 @@ int Metrics(const Options& options) {
 }  // namespace
 
 void SetUpMetrics(CLI::App& app, Action* action) {
-  const auto options = std::make_shared<Options>();
+  const auto options = std::make_shared<MetricsOptions>();
   app.add_option("--output", options->output, "file of node-exporter's, or - for standard output")
       ->capture_default_str();
   app.add_option("--state", options->state, "the file that holds the counters")

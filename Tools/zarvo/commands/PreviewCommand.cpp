@@ -32,7 +32,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-struct Options {
+struct PreviewOptions {
   std::string job;
   std::string queue;
   std::string ppd;
@@ -89,7 +89,7 @@ int Show(const std::string& file) {
 /// One preview, from the job to its sheets.
 class Preview {
  public:
-  Preview(const Options& options, std::string option_text, std::string ppd)
+  Preview(const PreviewOptions& options, std::string option_text, std::string ppd)
       : options_(options), option_text_(std::move(option_text)), ppd_(std::move(ppd)) {}
 
   /// An exit status.
@@ -297,7 +297,7 @@ class Preview {
       std::printf("  %s\n", PrintableText(note.text).c_str());
   }
 
-  const Options& options_;
+  const PreviewOptions& options_;
   std::string option_text_;
   std::string ppd_;
   std::unique_ptr<ScratchFolder> scratch_;
@@ -311,7 +311,7 @@ class Preview {
   int status_ = kExitOk;
 };
 
-int RunPreview(Options options) {
+int RunPreview(PreviewOptions options) {
   if (options.open && options.output == "-")
     return Fail("--open", "shows files, not standard output", "Give --output a name");
   if (options.job != "-" && access(options.job.c_str(), R_OK) != 0)
@@ -351,7 +351,7 @@ int RunPreview(Options options) {
 }  // namespace
 
 void SetUpPreview(CLI::App& app, Action* action) {
-  const auto options = std::make_shared<Options>();
+  const auto options = std::make_shared<PreviewOptions>();
   app.add_option("job", options->job,
                  "file to look at: whatever lp takes, and office documents; - for standard input")
       ->required();

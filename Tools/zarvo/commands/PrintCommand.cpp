@@ -11,12 +11,12 @@
 namespace zarvo::tool {
 namespace {
 
-struct Options {
+struct PrintOptions {
   PrintJob job;
   JobOptions options;
 };
 
-int Print(const Options& options) {
+int Print(const PrintOptions& options) {
   std::vector<std::string> told;
   QueuePpd ppd;
   if (!options.options.house.empty())
@@ -29,7 +29,7 @@ int Print(const Options& options) {
 }  // namespace
 
 void SetUpPrint(CLI::App& app, Action* action) {
-  const auto options = std::make_shared<Options>();
+  const auto options = std::make_shared<PrintOptions>();
   app.add_option("file", options->job.file, "file to print; - for standard input")->required();
   app.add_option("settings", options->options.settings, "settings in the readable form");
   AddHouseOption(app, &options->options);

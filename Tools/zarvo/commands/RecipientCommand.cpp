@@ -20,7 +20,7 @@
 namespace zarvo::tool {
 namespace {
 
-struct Options {
+struct RecipientOptions {
   std::string first, last, fax, mailbox, organization, phone, email;
   std::string group;
   std::vector<std::string> who;
@@ -61,7 +61,7 @@ void PrintPerson(const AddressBookRecord& record) {
                           .c_str());
 }
 
-int List(const Options& options) {
+int List(const RecipientOptions& options) {
   const std::vector<AddressBookRecord> records = AddressBookRecords();
   std::vector<const AddressBookRecord*> people;
   for (const AddressBookRecord& record : records) {
@@ -98,7 +98,7 @@ int List(const Options& options) {
 }
 
 /// Whether what is given can be stored and dialled; tells why not.
-bool IsGood(const Options& options) {
+bool IsGood(const RecipientOptions& options) {
   if (!options.fax.empty() && CopyDialingStringFromFaxNumber(options.fax).empty()) {
     Fail(options.fax, "holds nothing that can be dialled",
          "Digits and " + std::string(kFaxDialingCharacters.substr(10)) + " can");
@@ -108,7 +108,7 @@ bool IsGood(const Options& options) {
                   options.phone, options.email});
 }
 
-FaxRecipient RecipientOf(const Options& options) {
+FaxRecipient RecipientOf(const RecipientOptions& options) {
   FaxRecipient recipient;
   const auto set = [&recipient](void (FaxRecipient::*setter)(const std::string*),
                                 const std::string& text) {
@@ -124,7 +124,7 @@ FaxRecipient RecipientOf(const Options& options) {
   return recipient;
 }
 
-int Add(const Options& options) {
+int Add(const RecipientOptions& options) {
   if (options.fax.empty() && options.mailbox.empty())
     return Fail("recipient", "has neither a fax number nor a mailbox", "Give --fax or --mailbox");
   if (!IsGood(options)) return kExitFailure;
@@ -141,7 +141,7 @@ int Add(const Options& options) {
   return kExitOk;
 }
 
-int Edit(const Options& options) {
+int Edit(const RecipientOptions& options) {
   if (!IsGood(options)) return kExitFailure;
   const std::vector<AddressBookRecord> records = AddressBookRecords();
   const AddressBookRecord* found = FindRecipient(records, options.who[0]);
@@ -157,7 +157,7 @@ int Edit(const Options& options) {
   return AddressBookSave(record) ? kExitOk : CannotWrite();
 }
 
-int Remove(const Options& options) {
+int Remove(const RecipientOptions& options) {
   const std::string folder = AddressBookFolder();
   const FolderLock lock(folder);  // groups are read, changed and written
   if (!lock && errno == EAGAIN)
@@ -180,7 +180,7 @@ int Remove(const Options& options) {
   return kExitOk;
 }
 
-int Group(const Options& options) {
+int Group(const RecipientOptions& options) {
   if (!AreUtf8({options.group})) return kExitFailure;
   const std::vector<AddressBookRecord> records = AddressBookRecords();
   FaxRecipientList list;
@@ -196,7 +196,8 @@ int Group(const Options& options) {
 }
 
 CLI::App* AddCommand(CLI::App& app, const char* name, const char* summary, Action* action,
-                     const std::shared_ptr<Options>& options, int (*run)(const Options&)) {
+                     const std::shared_ptr<RecipientOptions>& options,
+                     int (*run)(const RecipientOptions&)) {
   CLI::App* command = app.add_subcommand(name, summary);
   command->callback([=] { *action = [=] { return run(*options); }; });
   return command;
@@ -206,7 +207,7 @@ CLI::App* AddCommand(CLI::App& app, const char* name, const char* summary, Actio
 
 void SetUpRecipient(CLI::App& app, Action* action) {
   app.require_subcommand(1);
-  const auto options = std::make_shared<Options>();
+  const auto options = std::make_shared<RecipientOptions>();
   CLI::App* list = AddCommand(app, "list", "Lists recipients and groups", action, options, &List);
   list->add_flag("--json", options->json, "as a part of a ticket");
   list->add_option("--group", options->group, "only the members of this group");

@@ -27,7 +27,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-struct Options {
+struct StoreOptions {
   std::string name, version, maintainer;
   std::string output = ".";
 };
@@ -35,14 +35,14 @@ struct Options {
 /// What a control file takes; anything else could add lines to it, or leave the folder.
 struct Rule {
   const char* what;
-  std::string Options::*value;
+  std::string StoreOptions::*value;
   const char* pattern;
   const char* example;
 };
 constexpr Rule kRules[] = {
-    {"--name", &Options::name, "[a-z0-9][a-z0-9+.-]+", "house-store"},
-    {"--version", &Options::version, "[0-9][A-Za-z0-9.+~-]*", "7"},
-    {"--maintainer", &Options::maintainer,
+    {"--name", &StoreOptions::name, "[a-z0-9][a-z0-9+.-]+", "house-store"},
+    {"--version", &StoreOptions::version, "[0-9][A-Za-z0-9.+~-]*", "7"},
+    {"--maintainer", &StoreOptions::maintainer,
      "[^\\x01-\\x1f<>]+ <[^\\x01-\\x20<>@]+@[^\\x01-\\x20<>@]+>", "Ada Byron <ada@example.org>"},
 };
 
@@ -124,7 +124,7 @@ Failure ContentFault(const std::string& folder) {
   return "";
 }
 
-int Pack(const Options& options) {
+int Pack(const StoreOptions& options) {
   for (const Rule& rule : kRules)
     if (!std::regex_match(options.*rule.value, std::regex(rule.pattern)))
       return Fail(rule.what, "no package can have \"" + options.*rule.value + "\"",
@@ -179,7 +179,7 @@ int Pack(const Options& options) {
 }  // namespace
 
 void SetUpStore(CLI::App& app, Action* action) {
-  const auto options = std::make_shared<Options>();
+  const auto options = std::make_shared<StoreOptions>();
   app.require_subcommand(1);
   CLI::App* pack =
       app.add_subcommand("pack", "Makes a Debian package of the shared stores; says where it is");

@@ -14,7 +14,7 @@
 namespace zarvo::tool {
 namespace {
 
-struct Options {
+struct TicketOptions {
   std::string input = "-";
   std::string output = "-";
   std::string format = "json";
@@ -33,7 +33,7 @@ std::optional<Dictionary> Load(const std::string& input) {
   return std::nullopt;
 }
 
-int Encode(const Options& options) {
+int Encode(const TicketOptions& options) {
   const std::optional<Dictionary> ticket = Load(options.input);
   if (!ticket) return kExitFailure;
   std::vector<FlatOption> flat;
@@ -53,7 +53,7 @@ int Encode(const Options& options) {
   return WriteOutput(options.output, text);
 }
 
-int Decode(const Options& options) {
+int Decode(const TicketOptions& options) {
   const std::optional<Dictionary> ticket = Load(options.input);
   if (!ticket) return kExitFailure;
   const Dictionary shown = options.secrets ? *ticket : WithoutSecrets(*ticket);
@@ -63,7 +63,7 @@ int Decode(const Options& options) {
   return WriteOutput(options.output, *xml);
 }
 
-int Check(const Options& options) {
+int CheckFile(const TicketOptions& options) {
   const std::optional<Dictionary> ticket = Load(options.input);
   if (!ticket) return kExitFailure;
   std::vector<TicketFinding> findings = CheckTicket(*ticket);
@@ -109,19 +109,20 @@ void PrintKeys(std::span<const TicketKey> keys, const std::string& above) {
   }
 }
 
-int Keys(const Options&) {
+int Keys(const TicketOptions&) {
   PrintKeys(TopLevelKeys(), "");
   return std::fflush(stdout) == 0 ? kExitOk : Fail("(stdout)", "cannot be written");
 }
 
-void AddInput(CLI::App& app, const std::shared_ptr<Options>& options) {
+void AddInput(CLI::App& app, const std::shared_ptr<TicketOptions>& options) {
   app.add_option("file", options->input,
                  "a ticket as JSON, property list or flattened options; - for standard input")
       ->capture_default_str();
 }
 
 CLI::App* Add(CLI::App& app, const char* name, const char* summary,
-              const std::shared_ptr<Options>& options, Action* action, int (*run)(const Options&)) {
+              const std::shared_ptr<TicketOptions>& options, Action* action,
+              int (*run)(const TicketOptions&)) {
   CLI::App* command = app.add_subcommand(name, summary);
   command->callback([=] { *action = [=] { return run(*options); }; });
   return command;
@@ -131,7 +132,7 @@ CLI::App* Add(CLI::App& app, const char* name, const char* summary,
 
 void SetUpTicket(CLI::App& app, Action* action) {
   app.require_subcommand(1);
-  const auto options = std::make_shared<Options>();
+  const auto options = std::make_shared<TicketOptions>();
   CLI::App* encode = Add(app, "encode",
                          "Writes a ticket as the options that carry it (PIN and "
                          "account included)",
@@ -148,8 +149,8 @@ void SetUpTicket(CLI::App& app, Action* action) {
   for (CLI::App* command : {encode, decode})
     command->add_option("--output", options->output, "file to write; - for standard output")
         ->capture_default_str();
-  CLI::App* check =
-      Add(app, "check", "Names misspelt keys and values out of range", options, action, &Check);
+  CLI::App* check = Add(app, "check", "Names misspelt keys and values out of range", options,
+                        action, &CheckFile);
   for (CLI::App* command : {encode, decode, check}) AddInput(*command, options);
   check->add_flag("-q,--quiet", options->quiet, "only the exit status");
   SetUpHouseTickets(app, action);

@@ -42,7 +42,7 @@ constexpr const char* kFirstEntry = "None";
 /// The store's own entry, which holds the list.
 constexpr const char* kListEntry = "WatermarkListEntries";
 
-struct Options {
+struct WatermarkOptions {
   std::string name;   ///< or the text of a new one
   std::string label;  ///< the name of a text when it is not to be the text
   std::string file;
@@ -64,11 +64,11 @@ struct Options {
   const char* collection() const { return fax ? kFaxImageCollection : kWatermarkCollection; }
 };
 
-std::string StorePath(const Options& options) {
+std::string StorePath(const WatermarkOptions& options) {
   return CopyPreferenceFileURL(options.collection()).value_or(options.collection());
 }
 
-int CannotWrite(const Options& options) {
+int CannotWrite(const WatermarkOptions& options) {
   if (errno == EAGAIN)
     return Fail(StorePath(options), "another program has been changing it for ten seconds",
                 "Try again when that has ended");
@@ -76,7 +76,7 @@ int CannotWrite(const Options& options) {
               "Run the command as root, for example with sudo");
 }
 
-std::vector<std::string> Names(const Options& options) {
+std::vector<std::string> Names(const WatermarkOptions& options) {
   Array list;
   loadWatermarkList(options.collection(), nullptr, &list);
   std::vector<std::string> names;
@@ -96,14 +96,14 @@ std::string Describe(const WatermarkData& data) {
 }
 
 /// Whether a watermark or a font may have the name; tells why not.
-bool MayBeNamed(const Options& options, const std::string& name) {
+bool MayBeNamed(const WatermarkOptions& options, const std::string& name) {
   const std::vector<std::string> names = Names(options);
   if (name != (names.empty() ? kFirstEntry : names[0]) && name != kListEntry) return true;
   Fail(name, "is a name that the store itself needs", "Take another one");
   return false;
 }
 
-int List(const Options& options) {
+int List(const WatermarkOptions& options) {
   const std::vector<std::string> names = Names(options);
   std::error_code error;
   if (names.empty() && fs::exists(StorePath(options), error))
@@ -144,7 +144,7 @@ bool CopyText(const std::string& text, char* field, std::size_t size) {
 }
 
 /// Where a text begins so that its middle is that of a Letter page, which is near that of A4.
-void Center(const Options& options, std::size_t characters, WatermarkData* data) {
+void Center(const WatermarkOptions& options, std::size_t characters, WatermarkData* data) {
   constexpr double kMiddleX = 306, kMiddleY = 396;
   constexpr double kCharacterWidth = 0.7;  // of the size; a capital of a bold font
   constexpr double kCapitalHeight = 0.7;
@@ -157,7 +157,7 @@ void Center(const Options& options, std::size_t characters, WatermarkData* data)
       options.y.value_or(kMiddleY - std::sin(angle) * half_width - std::cos(angle) * half_height);
 }
 
-int Store(const Options& options, const WatermarkData& data, const std::string& name) {
+int Store(const WatermarkOptions& options, const WatermarkData& data, const std::string& name) {
   Data font;
   loadFontData(options.collection(), name, &font);
   if (!font.empty()) return Fail(name, "names a font of the store", "Take another name");
@@ -165,7 +165,7 @@ int Store(const Options& options, const WatermarkData& data, const std::string& 
   return kExitOk;
 }
 
-int AddText(const Options& options) {
+int AddText(const WatermarkOptions& options) {
   WatermarkData data{};
   const std::optional<std::string> text = MakeString(options.name);
   if (!text || text->empty() || !CopyText(*text, data.textString, sizeof data.textString))
@@ -197,7 +197,7 @@ int AddText(const Options& options) {
   return Store(options, data, key);
 }
 
-int AddImage(const Options& options) {
+int AddImage(const WatermarkOptions& options) {
   std::error_code error;
   const fs::path source = fs::canonical(options.file, error);
   if (error) return Fail(options.file, error.message());
@@ -235,13 +235,13 @@ int AddImage(const Options& options) {
 }
 
 /// Loads a watermark, or says that there is none of that name.
-bool Load(const Options& options, WatermarkData* data) {
+bool Load(const WatermarkOptions& options, WatermarkData* data) {
   if (loadWatermarkData(options.collection(), &options.name, data) == 1) return true;
   Fail(options.name, "no such watermark", "\"zarvo watermark list\" shows them");
   return false;
 }
 
-int Remove(const Options& options) {
+int Remove(const WatermarkOptions& options) {
   WatermarkData data{};
   const std::vector<std::string> names = Names(options);
   if (!MayBeNamed(options, options.name)) return kExitFailure;
@@ -256,7 +256,7 @@ int Remove(const Options& options) {
   return kExitOk;
 }
 
-int Font(const Options& options) {
+int Font(const WatermarkOptions& options) {
   std::string file;
   if (!ReadInput(options.file, &file)) return kExitFailure;
   Data font;
@@ -273,7 +273,7 @@ int Font(const Options& options) {
   return kExitOk;
 }
 
-int Show(const Options& options) {
+int Show(const WatermarkOptions& options) {
   WatermarkData data{};
   if (!Load(options, &data)) return kExitFailure;
   const std::unique_ptr<ScratchFolder> scratch = MakeScratchFolder();
@@ -311,7 +311,7 @@ int Show(const Options& options) {
   return Deliver(scratch->File("page-1.png"), target);
 }
 
-int Publish(const Options& options) {
+int Publish(const WatermarkOptions& options) {
   QueuePpd queue;
   if (const Failure failure = queue.Fetch(options.queue); !failure.empty())
     return Fail(options.queue, failure);
@@ -333,7 +333,8 @@ int Publish(const Options& options) {
 }
 
 CLI::App* AddCommand(CLI::App& app, const char* name, const char* summary, Action* action,
-                     const std::shared_ptr<Options>& options, int (*run)(const Options&)) {
+                     const std::shared_ptr<WatermarkOptions>& options,
+                     int (*run)(const WatermarkOptions&)) {
   CLI::App* command = app.add_subcommand(name, summary);
   command->add_flag("--fax", options->fax, "those of fax cover sheets");
   command->callback([=] { *action = [=] { return run(*options); }; });
@@ -344,7 +345,7 @@ CLI::App* AddCommand(CLI::App& app, const char* name, const char* summary, Actio
 
 void SetUpWatermark(CLI::App& app, Action* action) {
   app.require_subcommand(1);
-  const auto options = std::make_shared<Options>();
+  const auto options = std::make_shared<WatermarkOptions>();
   AddCommand(app, "list", "Lists the watermarks", action, options, &List)
       ->add_flag("--json", options->json, "for programs");
   CLI::App* show = AddCommand(app, "show", "Draws a watermark on a page", action, options, &Show);

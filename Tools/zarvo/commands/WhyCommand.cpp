@@ -12,7 +12,7 @@
 namespace zarvo::tool {
 namespace {
 
-struct Options {
+struct WhyOptions {
   std::string job;
   bool json = false;
 };
@@ -47,7 +47,7 @@ std::string Remedy(const StateRow& row, const std::string& name) {
   return text;
 }
 
-int Why(const Options& options) {
+int Why(const WhyOptions& options) {
   const int number = JobNumber(options.job);
   if (number == 0 && !options.job.empty())
     return Fail(options.job, "is no job", "Take the number that lp told, or none for the newest");
@@ -83,7 +83,7 @@ int Why(const Options& options) {
 }  // namespace
 
 void SetUpWhy(CLI::App& app, Action* action) {
-  const auto options = std::make_shared<Options>();
+  const auto options = std::make_shared<WhyOptions>();
   app.add_option("job", options->job, "job as lp told it, or its number; without, your newest one");
   app.add_flag("--json", options->json, "for programs");
   app.callback([=] { *action = [=] { return Why(*options); }; });
