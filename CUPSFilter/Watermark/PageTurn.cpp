@@ -112,9 +112,10 @@ class HeadReader {
   void ReadComment() {
     const std::size_t end = std::min(text_.find_first_of("\r\n", at_), text_.size());
     const std::string_view line = text_.substr(at_, end - at_);
-    constexpr std::string_view kOrientation = "%%PageOrientation:";
+    constexpr std::string_view kPageOrientation = "%%PageOrientation:";
     if (line.starts_with("%%Page:") || line.starts_with("%%Trailer")) page_ended_ = true;
-    if (line.starts_with(kOrientation)) comment_ = TurnOfComment(line.substr(kOrientation.size()));
+    if (line.starts_with(kPageOrientation))
+      comment_ = TurnOfComment(line.substr(kPageOrientation.size()));
     at_ = end;
   }
 

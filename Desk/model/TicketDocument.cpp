@@ -272,8 +272,8 @@ std::string WriteValue(const TicketKey& key, const Value& value) {
   if (value.AsNumber() == nullptr || !value.AsNumber()->Get(&number)) return "";
   if (key.type == KeyType::kDate) {
     const Dictionary job = {{key::kJobType, Dictionary{{key::job_type::kDelayedPrintTime, value}}}};
-    const auto json = nlohmann::json::parse(tool::TicketToJson(job), nullptr, false);
-    for (const auto& group : json)
+    const auto ticket = nlohmann::json::parse(tool::TicketToJson(job), nullptr, false);
+    for (const auto& group : ticket)
       for (const auto& date : group)
         if (date.is_string()) return date.get<std::string>();
   }

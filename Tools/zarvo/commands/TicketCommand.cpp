@@ -149,8 +149,8 @@ void SetUpTicket(CLI::App& app, Action* action) {
   for (CLI::App* command : {encode, decode})
     command->add_option("--output", options->output, "file to write; - for standard output")
         ->capture_default_str();
-  CLI::App* check = Add(app, "check", "Names misspelt keys and values out of range", options,
-                        action, &CheckFile);
+  CLI::App* check =
+      Add(app, "check", "Names misspelt keys and values out of range", options, action, &CheckFile);
   for (CLI::App* command : {encode, decode, check}) AddInput(*command, options);
   check->add_flag("-q,--quiet", options->quiet, "only the exit status");
   SetUpHouseTickets(app, action);
