@@ -69,6 +69,7 @@ def enter_network():
     if reason:
         sys.exit(reason)
     os.environ[INSIDE] = str(os.geteuid())
+    os.environ["PATH"] += ":/usr/sbin:/sbin"  # an ordinary user's has no place for lpadmin
     command = unshare_command()
     os.execvp(command[0], [*command, sys.executable, *sys.argv])
 
