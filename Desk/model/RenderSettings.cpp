@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <iterator>
 #include <map>
 #include <string_view>
 
@@ -46,6 +47,11 @@ constexpr const char* kSecretOptions[] = {"job-password",          "JobPIN",    
                                           "job-accounting-user-id"};
 
 }  // namespace
+
+bool IsSecretOption(std::string_view name) {
+  return std::find(std::begin(kSecretOptions), std::end(kSecretOptions), name) !=
+         std::end(kSecretOptions);
+}
 
 Dictionary MaskedTicket(const Dictionary& ticket) {
   Dictionary masked = ticket;

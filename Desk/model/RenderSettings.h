@@ -13,6 +13,9 @@ namespace zarvo::desk {
 /// takes its place: PINs, accounts, fax numbers. Equal numbers stay equal.
 Dictionary MaskedTicket(const Dictionary& ticket);
 
+/// Whether an option of the spooler is as secret as the ticket's PINs and accounts.
+bool IsSecretOption(std::string_view name);
+
 struct RenderSettings {
   std::string options;            ///< all of them
   std::string converter_options;  ///< those that work before the filter

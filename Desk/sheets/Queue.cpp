@@ -3,11 +3,15 @@
 
 #include <cups/cups.h>
 
+#include <algorithm>
 #include <filesystem>
+#include <iterator>
 
 #include "CUPSFilter/Options/HouseTicketOption.h"
+#include "CUPSFilter/Options/Ppd.h"
 #include "Tools/zarvo/system/Queues.h"
 #include "Tools/zarvo/system/Spooler.h"
+#include "Tools/zarvo/ticket/JobTicket.h"
 #include "Tools/zarvo/ticket/TicketText.h"
 
 namespace zarvo::desk {
@@ -37,6 +41,35 @@ json DescribeQueues() {
   return {{"queues", queues}};
 }
 
+namespace {
+
+/// Of the spooler's own options those that change what the sheets look like, with the value that
+/// says nothing. The spooler tells its defaults under the same names.
+constexpr std::pair<const char*, const char*> kOfSheets[] = {
+    {"copies", "1"},     {"media", ""},    {"sides", ""},       {"number-up", "1"},
+    {"page-ranges", ""}, {"page-set", ""}, {"fit-to-page", ""}, {"number-up-layout", ""},
+    {"outputorder", ""}, {"mirror", ""},   {"landscape", ""},   {"orientation-requested", ""},
+    {"page-border", ""}, {"scaling", ""}};
+
+/// What the user keeps for the queue with lpoptions, as far as it is about the sheets or the PPD.
+json SavedOptions(const std::string& queue, const std::string& ppd_file) {
+  json saved = json::object();
+  const tool::Destination destination = tool::FindDestination(queue);
+  const Ppd ppd = Ppd::Open(ppd_file.c_str());
+  for (int i = 0; destination && i < destination->num_options; ++i) {
+    const cups_option_t& option = destination->options[i];
+    const auto known =
+        std::find_if(std::begin(kOfSheets), std::end(kOfSheets),
+                     [&](const auto& each) { return std::string_view(each.first) == option.name; });
+    const bool says =
+        known != std::end(kOfSheets) && option.value != std::string_view(known->second);
+    if (says || ppd.HasOption(option.name)) saved[option.name] = option.value;
+  }
+  return saved;
+}
+
+}  // namespace
+
 json FetchQueue(const std::string& queue, const std::string& file) {
   tool::QueuePpd ppd;
   if (const Failure failure = ppd.Fetch(queue); !failure.empty()) return {{"failure", failure}};
@@ -48,11 +81,22 @@ json FetchQueue(const std::string& queue, const std::string& file) {
   if (error) return {{"failure", error.message()}};
   return {{"ppd", file},
           {"renderer", tool::QueueDefault(queue, tool::kRendererOption)},
-          {"ours", tool::UsesOurFilter(file)}};
+          {"ours", tool::UsesOurFilter(file)},
+          {"saved", SavedOptions(queue, file)}};
 }
 
-json DescribeDefaults(const std::string& ppd) {
-  return {{"defaults", tool::TicketToJson(QueueDefaults(ppd.c_str()))}};
+json DescribeDefaults(const std::string& ppd, const json& saved) {
+  Dictionary defaults = QueueDefaults(ppd.c_str());
+  OptionList options;
+  for (const auto& [name, value] : saved.items())
+    options.Add(name.c_str(), value.get<std::string>().c_str());
+  std::vector<std::string> others;
+  std::vector<std::string> kept;
+  for (auto& [name, value] : tool::TicketOfJob(options, ppd, {}, &others, &kept))
+    defaults.insert_or_assign(name, value);
+  for (const auto& [name, value] : saved.items())
+    defaults.insert_or_assign(name, Value(value.get<std::string>()));
+  return {{"defaults", tool::TicketToJson(defaults)}};
 }
 
 }  // namespace zarvo::desk

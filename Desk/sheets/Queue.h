@@ -12,11 +12,12 @@ namespace zarvo::desk {
 /// "default"}]}, or {"failure"}.
 nlohmann::json DescribeQueues();
 
-/// Puts a copy of the queue's PPD file under that name: {"ppd", "renderer", "ours"}, or
-/// {"failure"}.
+/// Puts a copy of the queue's PPD file under that name: {"ppd", "renderer", "ours",
+/// "saved": the options that the user keeps for the queue with lpoptions}, or {"failure"}.
 nlohmann::json FetchQueue(const std::string& queue, const std::string& file);
 
-/// {"defaults": what the PPD's default choices stand for, as the JSON of a ticket}.
-nlohmann::json DescribeDefaults(const std::string& ppd);
+/// {"defaults": what the PPD's default choices stand for, with those saved options over them, as
+/// the JSON of a ticket}.
+nlohmann::json DescribeDefaults(const std::string& ppd, const nlohmann::json& saved);
 
 }  // namespace zarvo::desk

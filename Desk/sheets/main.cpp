@@ -357,7 +357,7 @@ int Main() {
       return tool::kExitOk;
     }
     if (request.contains("defaults")) {
-      Answer(DescribeDefaults(request.at("defaults")));
+      Answer(DescribeDefaults(request.at("defaults"), request.at("saved")));
       return tool::kExitOk;
     }
     if (request.contains("queue")) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // What the ticket asks for that the queue would not do by itself.
 #include "Desk/model/Finishing.h"
+#include "Desk/model/RenderSettings.h"
 #include "Desk/model/Words.h"
 #include "Desk/view/Panels.h"
 #include "Desk/view/Translations.h"
@@ -9,10 +10,12 @@
 
 namespace zarvo::desk {
 
+static QString Dots() { return QStringLiteral("\u2022\u2022\u2022\u2022"); }
+
 QString TruthInWords(bool truth) { return truth ? Panel::tr("Yes") : Panel::tr("No"); }
 
 QString ValueInWords(const TicketKey& key, const Value& value) {
-  if (key.secret) return QStringLiteral("\u2022\u2022\u2022\u2022");
+  if (key.secret) return Dots();
   if (const bool* truth = value.AsBoolean()) return TruthInWords(*truth);
   std::int64_t code = 0;
   if (value.AsNumber() != nullptr && value.AsNumber()->Get(&code))
@@ -32,6 +35,13 @@ class ChangesPanel : public Panel {
       return lines.isEmpty() ? tr("Nothing: the job is printed as the queue does it by itself.")
                              : lines.join('\n');
     })->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    Hint("saved", [saved = context.saved](const Dictionary&) {
+      QStringList lines;
+      for (const auto& [name, value] : *saved) lines << OptionLine(name, value);
+      if (!lines.isEmpty())
+        lines.prepend(tr("What you keep for this printer yourself (lpoptions), in every job:"));
+      return lines.join('\n');
+    })->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   }
 
  private:
@@ -45,7 +55,7 @@ class ChangesPanel : public Panel {
       if (name == key::kFinishingOptions && !(FinishingOf(ticket) == Finishing{})) continue;
       if (name == "sides" && ticket.contains(key::kFinishingDuplex)) continue;
       if (key == nullptr) {
-        lines << OptionLine(name, value);
+        lines << Against(OptionLine(name, value), usual);
       } else if (const Array* list = value.AsArray()) {
         for (std::size_t i = 0; i < list->size(); ++i)
           lines << tr("%1, number %2: %3")
@@ -67,9 +77,16 @@ class ChangesPanel : public Panel {
     return usual == nullptr ? line : tr("%1 (by itself: %2)").arg(line, ValueInWords(key, *usual));
   }
 
+  static QString Against(const QString& line, const Value* usual) {
+    const std::string* text = usual != nullptr ? usual->AsString() : nullptr;
+    return text == nullptr ? line
+                           : tr("%1 (by itself: %2)").arg(line, QString::fromStdString(*text));
+  }
+
   static QString OptionLine(const std::string& name, const Value& value) {
-    const QString text =
-        value.AsString() != nullptr ? QString::fromStdString(*value.AsString()) : QString();
+    const QString text = IsSecretOption(name)          ? Dots()
+                         : value.AsString() != nullptr ? QString::fromStdString(*value.AsString())
+                                                       : QString();
     const QString title = name == "copies"  ? tr("Copies")
                           : name == "media" ? tr("Size")
                           : name == "sides" ? tr("Two sides")

@@ -43,6 +43,7 @@ class PanelScroll : public QScrollArea {
     setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setFocusPolicy(Qt::NoFocus);  // it has no name and does nothing that its fields do not pass on
     setWidget(panel);
   }
 
@@ -182,14 +183,14 @@ QWidget* MainWindow::MakeSettings() {
   groups_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   pages_ = new QStackedWidget(area);
   panels_ = MakePanels({&document_, [this] { return grid_->SelectedPages(); },
-                        [this](const QString& text) { Tell(text); }, &defaults_,
+                        [this](const QString& text) { Tell(text); }, &defaults_, &saved_,
                         [this] { renderer_->Redraw(); }});
   for (const PanelEntry& entry : panels_) {
     entry.panel->GiveMnemonics(MenuLetters());
     entry.panel->setObjectName(QString("panel-") + entry.name);
     pages_->addWidget(new PanelScroll(entry.panel));
     groups_->addItem(entry.title);
-    groups_->item(groups_->count() - 1)->setSizeHint({0, 2 * fontMetrics().height()});
+    groups_->item(groups_->count() - 1)->setSizeHint({0, fontMetrics().height() + 16});
   }
   groups_->setFixedWidth(WidestTitle() + 2 * groups_->frameWidth() + 24);
   connect(groups_, &QListWidget::currentRowChanged, pages_, &QStackedWidget::setCurrentIndex);
@@ -312,8 +313,10 @@ void MainWindow::Changed() {
       ticket_file_.isEmpty() ? QString() : " \u2013 " + QFileInfo(ticket_file_).fileName();
   setWindowTitle((title_.isEmpty() ? QString() : title_ + settings + " \u2013 ") + "Zarvo Desk[*]");
   setWindowModified(document_.IsChanged());
+  Dictionary printed = document_.ticket();
+  printed.insert(saved_.begin(), saved_.end());  // as sending it does
   RenderSettings render;
-  const Failure failure = MakeRenderSettings(document_.ticket(), renderer_option_, &render);
+  const Failure failure = MakeRenderSettings(printed, renderer_option_, &render);
   if (!failure.empty()) return Tell(QString::fromStdString(failure));
   renderer_->SetSettings(render, ppd_);
 }
@@ -354,15 +357,20 @@ void MainWindow::PlanChanged() {
   }
 }
 
-void MainWindow::SetPpd(const QString& ppd) {
+void MainWindow::SetPpd(const QString& ppd, const Dictionary& saved) {
   ppd_ = ppd;
-  defaults_.clear();
+  saved_ = saved;
+  defaults_ = saved;
   Changed();
-  queues_->Ask({{"defaults", ppd.toStdString()}}, [this, ppd](const nlohmann::json& answer) {
-    if (ppd != ppd_ || !answer.contains("defaults")) return;
-    tool::ReadTicket(answer.at("defaults").get<std::string>(), &defaults_);
-    for (const PanelEntry& entry : panels_) entry.panel->Refresh();
-  });
+  nlohmann::json options = nlohmann::json::object();
+  for (const auto& [name, value] : saved) options[name] = *value.AsString();
+  queues_->Ask({{"defaults", ppd.toStdString()}, {"saved", options}},
+               [this, ppd](const nlohmann::json& answer) {
+                 if (ppd != ppd_ || !answer.contains("defaults")) return;
+                 defaults_.clear();
+                 tool::ReadTicket(answer.at("defaults").get<std::string>(), &defaults_);
+                 for (const PanelEntry& entry : panels_) entry.panel->Refresh();
+               });
 }
 
 void MainWindow::Print() {
@@ -382,6 +390,11 @@ void MainWindow::closeEvent(QCloseEvent* event) {
   settings.setValue("window/splitter", findChild<QSplitter*>("splitter")->saveState());
   settings.setValue("window/zoom", zoom_->value());
   event->accept();
+}
+
+void MainWindow::resizeEvent(QResizeEvent* event) {
+  QMainWindow::resizeEvent(event);
+  FitTools();
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {

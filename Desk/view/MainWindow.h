@@ -32,8 +32,9 @@ class MainWindow : public QMainWindow {
   /// program has made only to be looked at.
   void SetPassing(const QString& title);
   void SelectQueue(const QString& queue) { queues_->Want(queue); }
-  /// A PPD file without a queue.
-  void SetPpd(const QString& ppd);
+  /// A PPD file, and the options that the user keeps for its queue, which go below the settings of
+  /// every job.
+  void SetPpd(const QString& ppd, const Dictionary& saved = {});
   void Print();
   QueueBox& queues() { return *queues_; }
 
@@ -47,6 +48,7 @@ class MainWindow : public QMainWindow {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dropEvent(QDropEvent* event) override;
 
@@ -60,6 +62,7 @@ class MainWindow : public QMainWindow {
   int WidestTitle() const;
   static QString MenuLetters();
   void NextArea();
+  void FitTools();
   void ShowFindings();
   void Changed();
   void PlanChanged();
@@ -80,6 +83,7 @@ class MainWindow : public QMainWindow {
   QListWidget* groups_;
   QStackedWidget* pages_;
   std::vector<PanelEntry> panels_;
+  QToolBar* tools_;
   QueueBox* queues_;
   QSlider* zoom_;
   QProgressBar* progress_;
@@ -92,13 +96,15 @@ class MainWindow : public QMainWindow {
   QAction* redo_;
   QAction* print_;
   std::vector<QAction*> view_actions_;
+  std::vector<QAction*> told_by_icon_;  ///< tools that go without words where there is no room
   QString title_;
   bool passing_ = false;
   bool of_plan_ = false;  ///< what is told; the next plan takes it away
   QString ticket_file_;
   QString ppd_;
   std::string renderer_option_;
-  Dictionary defaults_;  ///< what the queue does by itself
+  Dictionary saved_;     ///< options that the user keeps for the queue
+  Dictionary defaults_;  ///< what the queue does by itself, with those
 };
 
 }  // namespace zarvo::desk

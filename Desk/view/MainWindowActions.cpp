@@ -3,10 +3,13 @@
 #include <QAction>
 #include <QActionGroup>
 #include <QFileDialog>
+#include <QLayout>
 #include <QMenuBar>
+#include <QRegularExpression>
 #include <QShortcut>
 #include <QStyle>
 #include <QToolBar>
+#include <QToolButton>
 
 #include "Desk/view/MainWindow.h"
 
@@ -23,7 +26,7 @@ QString MainWindow::MenuLetters() {
 }
 
 void MainWindow::MakeActions() {
-  auto* const bar = addToolBar(tr("Tools"));
+  QToolBar* const bar = tools_ = addToolBar(tr("Tools"));
   bar->setObjectName("tools");
   bar->setMovable(false);
   bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
@@ -35,6 +38,8 @@ void MainWindow::MakeActions() {
     QAction* const action = menu->addAction(text, this, act);
     action->setObjectName(name);
     action->setShortcut(keys);
+    // Tools have no letters to be reached by, neither marked nor added.
+    action->setIconText(QString(text).remove(QRegularExpression("\\(&.\\)|&")));
     return action;
   };
   QAction* const open = add(file, tr("&Open\u2026"), "open", QKeySequence::Open, [this] {
@@ -105,15 +110,19 @@ void MainWindow::MakeActions() {
   space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
   bar->addWidget(space);
   queues_ = new QueueBox(scratch_, bar);
-  connect(queues_, &QueueBox::QueueChanged, this, [this] { print_->setEnabled(CanPrint()); });
+  connect(queues_, &QueueBox::QueueChanged, this, [this] {
+    print_->setEnabled(CanPrint());
+    FitTools();
+  });
   connect(queues_, &QueueBox::Told, this, &MainWindow::Tell);
   connect(queues_, &QueueBox::PpdFetched, this,
-          [this](const QString& ppd, const QString& renderer) {
+          [this](const QString& ppd, const QString& renderer, const Dictionary& saved) {
             renderer_option_ = renderer.toStdString();
-            SetPpd(ppd);
+            SetPpd(ppd, saved);
           });
   bar->addWidget(queues_);
   bar->addAction(print_);
+  told_by_icon_ = {open, undo_, redo_};
   const auto key = [this](const QKeySequence& keys, QWidget* where, auto act) {
     connect(new QShortcut(keys, where, nullptr, nullptr, Qt::WidgetWithChildrenShortcut),
             &QShortcut::activated, this, act);
@@ -137,6 +146,19 @@ void MainWindow::NextArea() {
   } else {
     groups_->setFocus();
   }
+}
+
+/// With large letters the words of some tools would push the last ones out of the window, and the
+/// last one is what all this is for.
+void MainWindow::FitTools() {
+  const auto show = [this](Qt::ToolButtonStyle style) {
+    for (QAction* action : told_by_icon_)
+      if (auto* const button = qobject_cast<QToolButton*>(tools_->widgetForAction(action)))
+        button->setToolButtonStyle(style);
+    tools_->layout()->invalidate();
+  };
+  show(Qt::ToolButtonTextBesideIcon);
+  if (tools_->sizeHint().width() > width()) show(Qt::ToolButtonIconOnly);
 }
 
 void MainWindow::ShowView(int view) {

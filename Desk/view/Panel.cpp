@@ -86,6 +86,15 @@ void Panel::Refresh() {
   filling_ = false;
 }
 
+void Panel::FocusFirst() {
+  for (QWidget* next = nextInFocusChain(); next != this; next = next->nextInFocusChain()) {
+    if (!isAncestorOf(next) || !next->isVisible() || !next->isEnabled() ||
+        (next->focusPolicy() & Qt::TabFocus) == 0)
+      continue;
+    return next->setFocus(Qt::TabFocusReason);
+  }
+}
+
 void Panel::GiveMnemonics(const QString& taken) {
   QString letters = taken;
   for (QWidget* child : findChildren<QWidget*>()) {

@@ -42,7 +42,7 @@ class Panel : public QWidget {
   virtual void Refresh();
 
   /// Takes the keyboard to its first field.
-  void FocusFirst() { focusNextPrevChild(true); }
+  void FocusFirst();
 
   /// Gives every field and button a letter to be reached by with Alt, no two the same one. None is
   /// of `taken`.

@@ -85,11 +85,13 @@ class SidesPanel : public Panel {
             [](const Dictionary& ticket) { return NumberIn(ticket, key::kFinishingDuplex); });
     Codes("AdvancedRotateImage180", tr("Pages"));
     Group(tr("Copies and pages"));
-    Choices("copies", tr("Copies"), CopyChoices(), [](const Dictionary& ticket) {
-      const std::string* copies = DictionaryGetString(ticket, "copies");
-      const int count = copies != nullptr ? std::atoi(copies->c_str()) : 1;
-      return count >= 1 && count <= kMostCopies ? count - 1 : -1;
-    });
+    Choices("copies", tr("Copies"), CopyChoices(*context.defaults),
+            [usual = context.defaults](const Dictionary& ticket) {
+              const std::string* copies = DictionaryGetString(ticket, "copies");
+              const int count =
+                  std::atoi(copies != nullptr ? copies->c_str() : UsualCopies(*usual).c_str());
+              return count >= 1 && count <= kMostCopies ? count - 1 : -1;
+            });
     Group(tr("Shift the pages"));
     for (const auto& [path, label] :
          {std::pair("ImageShiftOptionsJob/X1", tr("To the right, front (1/10 mm)")),
@@ -101,11 +103,15 @@ class SidesPanel : public Panel {
 
  private:
   static constexpr int kMostCopies = 50;
-  static std::vector<Choice> CopyChoices() {
+  static std::string UsualCopies(const Dictionary& defaults) {
+    const std::string* copies = DictionaryGetString(defaults, "copies");
+    return copies != nullptr ? *copies : "1";
+  }
+  static std::vector<Choice> CopyChoices(const Dictionary& defaults) {
     std::vector<Choice> choices;
     for (int count = 1; count <= kMostCopies; ++count)
-      choices.push_back({QString::number(count), [count](Dictionary* ticket) {
-                           if (count == 1) {
+      choices.push_back({QString::number(count), [count, &defaults](Dictionary* ticket) {
+                           if (std::to_string(count) == UsualCopies(defaults)) {
                              ticket->erase("copies");
                            } else {
                              ticket->insert_or_assign("copies", Value(std::to_string(count)));

@@ -19,6 +19,8 @@ struct PanelContext {
   std::function<void(const QString&)> tell;
   /// What the queue does by itself, as a ticket.
   const Dictionary* defaults;
+  /// The options in them that the user keeps for the queue.
+  const Dictionary* saved;
   /// What is drawn has changed where the ticket does not show it.
   std::function<void()> redraw;
 };

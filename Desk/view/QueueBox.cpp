@@ -114,8 +114,11 @@ void QueueBox::FetchPpd() {
       emit Told(tr("Jobs of %1 do not pass through the filter of these settings; most of them will "
                    "have no effect.")
                     .arg(asked));
+    Dictionary saved;
+    for (const auto& [name, value] : answer.at("saved").items())
+      saved.insert_or_assign(name, Value(value.get<std::string>()));
     emit PpdFetched(QString::fromStdString(answer.at("ppd")),
-                    QString::fromStdString(answer.at("renderer")));
+                    QString::fromStdString(answer.at("renderer")), saved);
   });
 }
 

@@ -35,8 +35,9 @@ class QueueBox : public QComboBox {
  signals:
   /// Another printer, or none, or one that has gone.
   void QueueChanged();
-  /// The PPD file of the chosen one, and its own converter of PDF files or an empty text.
-  void PpdFetched(const QString& ppd, const QString& renderer);
+  /// The PPD file of the chosen one, its own converter of PDF files or an empty text, and the
+  /// options that the user keeps for it.
+  void PpdFetched(const QString& ppd, const QString& renderer, const Dictionary& saved);
   /// What is to be known about the chosen one.
   void Told(const QString& text);
 

@@ -43,7 +43,7 @@ class WatermarkPanel : public Panel {
     text_ = new QLineEdit(this);
     text_->setObjectName("new-mark");
     Row(tr("Text"), text_);
-    size_ = Spin("new-mark-size", tr("Size"), 6, 2000, 120, tr(" points"));
+    size_ = Spin("new-mark-size", tr("Size of the text"), 6, 2000, 120, tr(" points"));
     angle_ = Spin("new-mark-angle", tr("Angle"), -360, 360, 45, "\u00B0");
     color_ = new QPushButton(this);
     color_->setObjectName("new-mark-color");

@@ -24,6 +24,7 @@
 #include "Tools/zarvo/system/Office.h"
 #include "Tools/zarvo/system/Queues.h"
 #include "Tools/zarvo/system/Run.h"
+#include "Tools/zarvo/system/Spooler.h"
 #include "Tools/zarvo/ticket/TicketCheck.h"
 #include "Tools/zarvo/ticket/TicketText.h"
 
@@ -32,9 +33,7 @@ namespace {
 
 /// The user's own defaults for the queue, as lp takes them too.
 void AddDefaults(const std::string& queue, OptionList* options) {
-  const std::unique_ptr<cups_dest_t, void (*)(cups_dest_t*)> destination(
-      cupsGetNamedDest(CUPS_HTTP_DEFAULT, queue.c_str(), nullptr),
-      [](cups_dest_t* found) { cupsFreeDests(1, found); });
+  const Destination destination = FindDestination(queue);
   if (!destination) return;
   for (int i = 0; i < destination->num_options; ++i) {
     const cups_option_t& option = destination->options[i];

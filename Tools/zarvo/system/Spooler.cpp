@@ -10,4 +10,8 @@ SpoolerConnection ConnectToSpooler() {
   return {spooler, &httpClose};
 }
 
+Destination FindDestination(const std::string& queue) {
+  return Destination(cupsGetNamedDest(CUPS_HTTP_DEFAULT, queue.c_str(), nullptr));
+}
+
 }  // namespace zarvo::tool

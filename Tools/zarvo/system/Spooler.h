@@ -5,6 +5,7 @@
 #include <cups/cups.h>
 
 #include <memory>
+#include <string>
 
 namespace zarvo::tool {
 
@@ -15,5 +16,14 @@ inline constexpr char kNoAnswer[] =
 
 /// To the spooler that the environment names; null when it does not answer within ten seconds.
 SpoolerConnection ConnectToSpooler();
+
+struct FreeDestination {
+  void operator()(cups_dest_t* destination) const { cupsFreeDests(1, destination); }
+};
+using Destination = std::unique_ptr<cups_dest_t, FreeDestination>;
+
+/// The queue with all its options: what it does by itself, and over that what the user (or whoever
+/// looks after the machine) keeps for it with lpoptions. Null when there is no such queue.
+Destination FindDestination(const std::string& queue);
 
 }  // namespace zarvo::tool
