@@ -191,12 +191,20 @@ bool HasNumber(const Dictionary& group, std::string_view key, std::int64_t wante
 /// Settings that do nothing by themselves, or harm without another one.
 void CheckSense(const Dictionary& ticket, Checker* checker) {
   const Dictionary* sections = DictionaryGetDictionary(ticket, key::kJTMLOptions);
-  if (sections == nullptr && !HasNumber(ticket, key::kEmitJTML, 0)) {
+  std::int64_t emit = 1;
+  CFDictionaryGetNumber(ticket, key::kEmitJTML, &emit);
+  if (sections == nullptr || emit != 1) {
     for (const TicketKey& key : TopLevelKeys()) {
-      if (key.xml_only && DictionaryContains(ticket, key.name))
+      if (!key.xml_only || !DictionaryContains(ticket, key.name)) continue;
+      if (emit == 1) {
         checker->Add(key.name,
                      Phrase("has no effect without %1; add {\"JTMLOptionAll\": true} there",
                             {key::kJTMLOptions}));
+      } else if (std::string_view(key.name) != key::kFinishingDuplex) {
+        // The sides of a house ticket are asked of the page device as well.
+        checker->Add(key.name, Phrase("has no effect while no XML ticket is written; set %1 to 1",
+                                      {key::kEmitJTML}));
+      }
     }
   }
   if (const Dictionary* job = DictionaryGetDictionary(ticket, key::kJobType)) {

@@ -1964,6 +1964,10 @@
       <translation>Größe der Blätter</translation>
     </message>
     <message>
+      <source>Size of the text</source>
+      <translation>Größe des Textes</translation>
+    </message>
+    <message>
       <source>Slip sheets between the sets</source>
       <translation>Trennblätter zwischen den Sätzen</translation>
     </message>
@@ -2448,6 +2452,10 @@
       <translation>Was anders ist als das Übrige</translation>
     </message>
     <message>
+      <source>What you keep for this printer yourself (lpoptions), in every job:</source>
+      <translation>Was Sie selbst für diesen Drucker festgelegt haben (lpoptions), gilt in jedem Auftrag:</translation>
+    </message>
+    <message>
       <source>When</source>
       <translation>Wann</translation>
     </message>
@@ -2666,6 +2674,10 @@
     <message>
       <source>give %1</source>
       <translation>geben Sie %1 an</translation>
+    </message>
+    <message>
+      <source>has no effect while no XML ticket is written; set %1 to 1</source>
+      <translation>wirkt nicht, solange kein XML-Ticket geschrieben wird; setzen Sie %1 auf 1</translation>
     </message>
     <message>
       <source>has no effect without %1; add {"JTMLOptionAll": true} there</source>

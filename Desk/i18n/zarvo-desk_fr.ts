@@ -1964,6 +1964,10 @@
       <translation>Taille des feuilles</translation>
     </message>
     <message>
+      <source>Size of the text</source>
+      <translation>Taille du texte</translation>
+    </message>
+    <message>
       <source>Slip sheets between the sets</source>
       <translation>Intercalaires entre les jeux</translation>
     </message>
@@ -2448,6 +2452,10 @@
       <translation>Ce qui diffère du reste</translation>
     </message>
     <message>
+      <source>What you keep for this printer yourself (lpoptions), in every job:</source>
+      <translation>Ce que vous gardez vous-même pour cette imprimante (lpoptions), dans chaque travail :</translation>
+    </message>
+    <message>
       <source>When</source>
       <translation>Quand</translation>
     </message>
@@ -2666,6 +2674,10 @@
     <message>
       <source>give %1</source>
       <translation>donnez %1</translation>
+    </message>
+    <message>
+      <source>has no effect while no XML ticket is written; set %1 to 1</source>
+      <translation>est sans effet tant qu’aucun ticket XML n’est écrit ; mettez %1 à 1</translation>
     </message>
     <message>
       <source>has no effect without %1; add {"JTMLOptionAll": true} there</source>

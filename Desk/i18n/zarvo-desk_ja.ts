@@ -1964,6 +1964,10 @@
       <translation>用紙の表示サイズ</translation>
     </message>
     <message>
+      <source>Size of the text</source>
+      <translation>文字の大きさ</translation>
+    </message>
+    <message>
       <source>Slip sheets between the sets</source>
       <translation>部の間の仕切り紙</translation>
     </message>
@@ -2452,6 +2456,10 @@
       <translation>ほかと異なる部分</translation>
     </message>
     <message>
+      <source>What you keep for this printer yourself (lpoptions), in every job:</source>
+      <translation>このプリンターに自分で保存した設定（lpoptions、全ジョブに適用）:</translation>
+    </message>
+    <message>
       <source>When</source>
       <translation>日時</translation>
     </message>
@@ -2670,6 +2678,10 @@
     <message>
       <source>give %1</source>
       <translation>%1 を指定してください</translation>
+    </message>
+    <message>
+      <source>has no effect while no XML ticket is written; set %1 to 1</source>
+      <translation>XML チケットを書かない間は効きません。%1 を 1 にしてください</translation>
     </message>
     <message>
       <source>has no effect without %1; add {"JTMLOptionAll": true} there</source>

@@ -8,6 +8,7 @@
 #include <QProgressBar>
 #include <QSlider>
 #include <QStackedWidget>
+#include <QToolBar>
 #include <memory>
 
 #include "Desk/model/TicketDocument.h"

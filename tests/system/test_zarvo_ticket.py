@@ -109,6 +109,8 @@ class Ticket(ZarvoTest):
             '{"BannerPage": "yes"}': "com.zarvo.print.BannerPage: takes true or false",
             '{"JTMLOptions": {"JTMLOptionAll": 1}, "Resolution": 9}': "9 is out of range",
             '{"Resolution": 2}': "has no effect without com.zarvo.print.JTMLOptions",
+            '{"Resolution": 2, "EmitJTML": 0, "JTMLOptions": {"JTMLOptionAll": true}}':
+                "has no effect while no XML ticket is written; set com.zarvo.print.EmitJTML to 1",
             '{"SpecialPages.FrontCover": {"Stock": {"Colour": 1}}}': "did you mean Color?",
             '{"FaxRecipientList": [{"FaxNumer": "1"}]}': "FaxRecipientList/0/FaxNumer: unknown",
             '{"JobLevelStock": {"Size": 9}}': "no stock has the code 9",
