@@ -30,18 +30,23 @@ class ChangesPanel : public Panel {
   explicit ChangesPanel(const PanelContext& context)
       : Panel(context.document), defaults_(*context.defaults) {
     Group(tr("What I changed"));
-    Hint("changes", [this](const Dictionary& ticket) {
+    QLabel* const changes = Hint("changes", [this](const Dictionary& ticket) {
       const QStringList lines = Lines(ticket);
       return lines.isEmpty() ? tr("Nothing: the job is printed as the queue does it by itself.")
                              : lines.join('\n');
-    })->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    Hint("saved", [saved = context.saved](const Dictionary&) {
+    });
+    QLabel* const kept = Hint("saved", [saved = context.saved](const Dictionary&) {
       QStringList lines;
       for (const auto& [name, value] : *saved) lines << OptionLine(name, value);
       if (!lines.isEmpty())
         lines.prepend(tr("What you keep for this printer yourself (lpoptions), in every job:"));
       return lines.join('\n');
-    })->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    });
+    // Keys lead there too: who cannot point has to scroll a long list, and to hear it.
+    for (QLabel* label : {changes, kept}) {
+      label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+      label->setFocusPolicy(Qt::StrongFocus);
+    }
   }
 
  private:

@@ -344,6 +344,7 @@ void MainWindow::PlanChanged() {
     for (const std::string& mark : report.marks) words << Localized(mark);
     for (const std::string& note : report.notes) words << Localized(note);
   }
+  words.removeDuplicates();
   summary_->setText(words.join(", "));
   summary_->setToolTip(words.join('\n'));
   QStringList faults;

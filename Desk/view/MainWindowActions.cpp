@@ -139,9 +139,8 @@ void MainWindow::MakeActions() {
 void MainWindow::NextArea() {
   Panel* const panel = panels_[static_cast<std::size_t>(groups_->currentRow())].panel;
   const QWidget* const now = focusWidget();
-  if (now == groups_) {
-    panel->FocusFirst();
-  } else if (panel->isAncestorOf(now)) {
+  if (now == groups_ && panel->FocusFirst()) return;
+  if (now == groups_ || panel->isAncestorOf(now)) {
     views_->currentWidget()->setFocus();
   } else {
     groups_->setFocus();

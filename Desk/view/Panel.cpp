@@ -86,13 +86,15 @@ void Panel::Refresh() {
   filling_ = false;
 }
 
-void Panel::FocusFirst() {
+bool Panel::FocusFirst() {
   for (QWidget* next = nextInFocusChain(); next != this; next = next->nextInFocusChain()) {
     if (!isAncestorOf(next) || !next->isVisible() || !next->isEnabled() ||
         (next->focusPolicy() & Qt::TabFocus) == 0)
       continue;
-    return next->setFocus(Qt::TabFocusReason);
+    next->setFocus(Qt::TabFocusReason);
+    return true;
   }
+  return false;
 }
 
 void Panel::GiveMnemonics(const QString& taken) {

@@ -41,8 +41,8 @@ class Panel : public QWidget {
   /// Fills every field anew.
   virtual void Refresh();
 
-  /// Takes the keyboard to its first field.
-  void FocusFirst();
+  /// Takes the keyboard to its first field. False when there is none.
+  bool FocusFirst();
 
   /// Gives every field and button a letter to be reached by with Alt, no two the same one. None is
   /// of `taken`.

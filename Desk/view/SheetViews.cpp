@@ -11,6 +11,7 @@
 namespace zarvo::desk {
 
 constexpr int kMargin = 12;
+constexpr int kMostTitleLines = 3;
 constexpr int kPointsPerInch = 72;
 constexpr int kMostDots = 5000;  // of a picture's side: below 128 MB, the toolkit's own limit
 
@@ -93,11 +94,11 @@ class SheetDelegate : public QStyledItemDelegate {
     look.marks = grid_->marks();
     PaintSide(painter, place, side, model_->plan(), look);
     painter->setPen(option.palette.color(selected ? QPalette::HighlightedText : QPalette::Text));
-    const QRect text(option.rect.left() + 2, option.rect.bottom() - option.fontMetrics.height() - 4,
-                     option.rect.width() - 4, option.fontMetrics.height() + 2);
-    painter->drawText(
-        text, Qt::AlignCenter,
-        option.fontMetrics.elidedText(index.data().toString(), Qt::ElideRight, text.width()));
+    const int height = grid_->title_height();
+    const QRect text(option.rect.left() + 2, option.rect.bottom() - height - 4,
+                     option.rect.width() - 4, height + 2);
+    painter->drawText(text, Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap,
+                      index.data().toString());
     if (option.state.testFlag(QStyle::State_HasFocus)) {
       painter->setPen(QPen(option.palette.color(QPalette::Highlight), 1, Qt::DotLine));
       painter->setBrush(Qt::NoBrush);
@@ -148,8 +149,18 @@ void SheetGrid::LayOut() {
     const QSizeF points = UprightSize(side);
     tallest = std::max(tallest, std::min(points.height() / points.width(), 2.0));
   }
-  setGridSize(QSize(width_ + 2 * kMargin, static_cast<int>(std::ceil(width_ * tallest)) +
-                                              2 * kMargin + fontMetrics().height()));
+  // With large letters, or small sheets, a title takes more than one line.
+  QString longest;
+  for (int row = 0; row < model_->rowCount(); ++row) {
+    const QString title = model_->index(row).data().toString();
+    if (title.size() > longest.size()) longest = title;
+  }
+  const int width = width_ + 2 * kMargin;
+  title_height_ = std::clamp(
+      fontMetrics().boundingRect({0, 0, width - 4, 0}, Qt::TextWordWrap, longest).height(),
+      fontMetrics().height(), kMostTitleLines * fontMetrics().lineSpacing());
+  setGridSize(
+      QSize(width, static_cast<int>(std::ceil(width_ * tallest)) + 2 * kMargin + title_height_));
   scheduleDelayedItemsLayout();
   QMetaObject::invokeMethod(this, &SheetGrid::AskForVisible, Qt::QueuedConnection);
 }

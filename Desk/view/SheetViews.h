@@ -43,6 +43,7 @@ class SheetGrid : public QListView {
   void SetSheetWidth(int width);
   int sheet_width() const { return width_; }
   void SetMarks(bool shown);
+  int title_height() const { return title_height_; }
   bool marks() const { return marks_; }
   std::vector<std::uint32_t> SelectedPages() const;
   /// Where the side is drawn, in the viewport.
@@ -66,6 +67,7 @@ class SheetGrid : public QListView {
 
   SheetModel* model_;
   int width_ = 170;
+  int title_height_ = 0;  // below each sheet
   bool marks_ = true;
 };
 

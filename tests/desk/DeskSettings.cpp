@@ -230,6 +230,12 @@ void DeskTest::everybody() {
   const int room = page->parentWidget()->width();
   QVERIFY2(room >= page->width(),
            qPrintable(QString("room for %1, needs %2").arg(room).arg(page->width())));
+  // The keyboard gets into the fields, or past a panel that has none.
+  auto* const groups = window.findChild<QListWidget*>("groups");
+  groups->setFocus();
+  QTest::keyClick(groups, Qt::Key_F6);
+  QVERIFY2(window.focusWidget() != groups && !window.focusWidget()->objectName().isEmpty(),
+           window.focusWidget()->metaObject()->className());
   // All the tools are there, and what is wrong is told in words of the language.
   QVERIFY(!window.findChild<QToolButton*>("qt_toolbar_ext_button")->isVisible());
   const QString found = window.findChild<QLabel*>("findings")->text();

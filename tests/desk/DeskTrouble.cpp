@@ -142,7 +142,8 @@ void DeskTest::silent_spooler() {
   ::close(listener);
 }
 
-/// The printer goes while a job waits for it, and while the window is open; then it is back.
+/// The printer goes while a job waits for it, and while the window is open; then it is back. What
+/// the user keeps for it with lpoptions is drawn, told, and printed.
 void DeskTest::queue_goes() {
   const QString folder = qEnvironmentVariable("ZARVO_DESK_PRINTS");
   if (folder.isEmpty()) return;
@@ -151,12 +152,20 @@ void DeskTest::queue_goes() {
   };
   const QStringList make = {
       "-p", "fleeting", "-E", "-v", "file:///dev/null", "-P", qEnvironmentVariable("ZARVO_PPD")};
-  QVERIFY(tell("lpadmin", make) && tell("cupsdisable", {"fleeting"}));
+  QVERIFY(tell("lpadmin", make) && tell("cupsdisable", {"fleeting"}) &&
+          tell("lpoptions", {"-p", "fleeting", "-o", "copies=3", "-o", "Duplex=DuplexNoTumble"}));
   window_->SelectQueue("fleeting");
   window_->show();
   window_->OpenDocument(folder + "/house.ps");
   auto* const print = Find<QAction>("print");
   QVERIFY(Comes([print] { return print->isEnabled(); }));
+  QVERIFY(Comes([this] { return Find<QLabel>("summary")->text().contains("2 sheets, 3 copies"); }));
+  QVERIFY(Comes([this] { return Find<QComboBox>("copies")->currentText() == "3"; }));
+  Choose("copies", "1");  // which is said, as else there would be three
+  QCOMPARE(window_->document().TextAt("copies"), "1");
+  QVERIFY(Comes([this] { return Find<QLabel>("changes")->text() == "Copies: 1 (by itself: 3)"; }));
+  Choose("copies", "3");
+  QVERIFY(window_->document().ticket().empty());
   QSignalSpy finished(window_.get(), &MainWindow::PrintFinished);
   print->trigger();
   QVERIFY(Comes([this] { return Find<QLabel>("print-state")->text().contains("waits"); }));
