@@ -38,6 +38,7 @@
 #include "CUPSFilter/Watermark/PageHooks.h"
 #include "HouseTicket/HouseTicketStore.h"
 #include "Platform/Log.h"
+#include "Platform/Phrase.h"
 #include "Platform/Process.h"
 #include "Platform/ScratchFolder.h"
 #include "Platform/SpoolerUser.h"
@@ -80,8 +81,9 @@ std::string PutHouseTicketBelow(const NamedHouseTicket& named, const PpdChoices&
                               decode({&asked, &chosen.named}), decode({&options})},
                              &kept);
   for (const std::string& path : kept)
-    notices->Add(path + ": house ticket \"" + named.name +
-                 "\" does not let jobs change it, it was left as it is there");
+    notices->Add(
+        Phrase("%1: house ticket \"%2\" does not let jobs change it, it was left as it is there",
+               {path, named.name}));
   return "";
 }
 

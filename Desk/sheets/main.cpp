@@ -22,6 +22,7 @@
 #include "Desk/model/Words.h"
 #include "Desk/sheets/Queue.h"
 #include "Desk/sheets/Request.h"
+#include "Platform/Phrase.h"
 #include "Tools/zarvo/Command.h"
 #include "Tools/zarvo/system/Convert.h"
 #include "Tools/zarvo/system/DrawSheets.h"
@@ -97,7 +98,7 @@ class Maker {
     std::vector<tool::Complaint> complaints;
     Failure failure = tool::FilterJob(source, scratch_, &split_, &complaints);
     if (!failure.empty()) return failure;
-    if (split_.files.empty()) return "the job holds no PostScript";
+    if (split_.files.empty()) return Phrase("the job holds no PostScript");
     report_ = tool::ReportOn(split_.facts);
     Fingerprint content;
     for (const std::string& file : split_.files) content.AddFile(file);
@@ -244,9 +245,9 @@ class Maker {
 
   Failure Fault() const {
     for (const tool::PageLook& look : report_.looks) {
-      if (!look.fault.empty()) return "Ghostscript cannot draw the job: " + look.fault;
+      if (!look.fault.empty()) return Phrase("Ghostscript cannot draw the job: %1", {look.fault});
     }
-    return "the printer would print no page of this job";
+    return Phrase("the printer would print no page of this job");
   }
 
   /// The pages that were drawn for an earlier request with the same content.

@@ -108,7 +108,7 @@ MainWindow::MainWindow(const ScratchFolder& scratch, QWidget* parent)
   connect(renderer_, &Renderer::Idle, progress_, &QWidget::hide);
   connect(renderer_, &Renderer::Failed, this, [this](const QString& text) {
     progress_->hide();
-    Tell(QFileInfo(renderer_->file()).fileName() + ": " + text);
+    Tell(QFileInfo(renderer_->file()).fileName() + ": " + Localized(text));
     of_plan_ = true;
   });
   document_.Listen([this] { Changed(); });

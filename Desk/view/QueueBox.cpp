@@ -5,6 +5,7 @@
 #include <QTimer>
 
 #include "Desk/model/Renderer.h"
+#include "Desk/view/Translations.h"
 
 namespace zarvo::desk {
 
@@ -59,7 +60,7 @@ void QueueBox::AskQueues() {
     if (!answer.contains("failure")) return Take(answer.at("queues"));
     clear();
     addItem(tr("No printers"));
-    setToolTip(QString::fromStdString(answer.at("failure")));
+    setToolTip(Localized(QString::fromStdString(answer.at("failure"))));
     setEnabled(false);
     gone_ = !wanted_.isEmpty();
     emit QueueChanged();

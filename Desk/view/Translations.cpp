@@ -106,7 +106,7 @@ QString Translations::Tell(const QString& text) const {
 }
 
 QString Translations::ByPieces(const QString& text) const {
-  for (const char* separator : {"; ", ": ", ", "}) {
+  for (const char* separator : {". ", "; ", ": ", ", "}) {
     QStringList pieces = text.split(separator);
     if (pieces.size() < 2) continue;
     for (QString& piece : pieces) piece = Tell(piece);

@@ -16,6 +16,7 @@
 #include "CUPSFilter/Options/OptionList.h"
 #include "CUPSFilter/Options/SchedulerRequest.h"
 #include "Platform/Log.h"
+#include "Platform/Phrase.h"
 #include "Platform/Process.h"
 #include "Platform/UniqueFd.h"
 #include "Tools/zarvo/Command.h"
@@ -43,7 +44,7 @@ void AddDefaults(const std::string& queue, OptionList* options) {
 }
 
 int SpoolerFault(const std::string& queue) {
-  return Fail(queue, QueueFault(queue), "\"lpstat -e\" lists the queues");
+  return Fail(queue, QueueFault(queue), Phrase("\"lpstat -e\" lists the queues"));
 }
 
 std::string BaseName(const std::string& file) {
@@ -85,9 +86,9 @@ int SendFile(const PrintJob& job, int number, int file) {
       cupsCancelJob2(CUPS_HTTP_DEFAULT, job.queue.c_str(), number, 0) <= IPP_STATUS_OK_CONFLICTING;
   if (!silent) return fault;
   return Fail(job.queue + "-" + std::to_string(number),
-              "the spooler did not say that it has the document",
-              canceled ? "It was canceled: print again"
-                       : "\"lpstat -o\" lists it, with 0 bytes if the document is missing");
+              Phrase("the spooler did not say that it has the document"),
+              canceled ? Phrase("It was canceled: print again")
+                       : Phrase("\"lpstat -o\" lists it, with 0 bytes if the document is missing"));
 }
 
 int Send(const PrintJob& job, const std::string& text) {
@@ -128,8 +129,8 @@ int PrintChecked(PrintJob job, const std::string& options, const std::vector<std
       std::fprintf(stderr, "zarvo: %s\n", PrintableText(fault).c_str());
   }
   if ((!told.empty() || !faults.empty()) && !job.force)
-    return Fail(job.file, "is not printed with such settings",
-                "Correct them, or give --force to print it all the same");
+    return Fail(job.file, Phrase("is not printed with such settings"),
+                Phrase("Correct them, or give --force to print it all the same"));
   if (const std::string fault = SecretFault(TicketOfOptions(options)); !fault.empty())
     return Fail("settings", fault);
   std::string start(kKindBytes, '\0');

@@ -13,6 +13,7 @@
 #include <optional>
 
 #include "CUPSFilter/JobNotices.h"
+#include "Platform/Phrase.h"
 #include "Platform/Process.h"
 #include "Platform/UniqueFd.h"
 #include "Tools/zarvo/system/Office.h"
@@ -146,7 +147,7 @@ namespace {
 Failure LookAtSource(const ScratchFolder& scratch, JobSource* source,
                      std::vector<std::vector<std::string>>* converters, JobKind* kind) {
   *kind = KindOfJob(StartOf(source->file), source->file);
-  if (*kind == JobKind::kEmpty) return "is empty: neither PostScript nor PDF";
+  if (*kind == JobKind::kEmpty) return Phrase("is empty: neither PostScript nor PDF");
   if (*kind == JobKind::kOffice) {
     std::string pdf;
     const Failure failure = ConvertOfficeDocument(source->file, scratch, &pdf);
@@ -156,7 +157,7 @@ Failure LookAtSource(const ScratchFolder& scratch, JobSource* source,
   }
   *converters = Converters(*source, *kind);
   return converters->empty()
-             ? "cannot be converted here; install the packages cups and cups-filters"
+             ? Phrase("cannot be converted here; install the packages cups and cups-filters")
              : "";
 }
 
@@ -169,8 +170,8 @@ std::uint64_t ExpectedPages(const JobSource& source, JobKind kind) {
 }
 
 Failure Unconverted(JobKind kind, const std::string& log) {
-  return kind == JobKind::kOther ? "is nothing that the spooler can print: " + log
-                                 : "cannot be converted: " + log;
+  return kind == JobKind::kOther ? Phrase("is nothing that the spooler can print: %1", {log})
+                                 : Phrase("cannot be converted: %1", {log});
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <fstream>
 
+#include "Platform/Phrase.h"
 #include "Source/NearestName.h"
 #include "Tools/zarvo/system/Spooler.h"
 
@@ -49,7 +50,8 @@ std::string QueueFault(const std::string& queue) {
   if (!ListQueues(&names).empty() || names.empty()) return told;
   if (std::find(names.begin(), names.end(), queue) != names.end()) return told;
   const std::string nearest = NearestName(queue, names);
-  return "there is no such queue" + (nearest.empty() ? "" : "; did you mean " + nearest + "?");
+  return nearest.empty() ? Phrase("there is no such queue")
+                         : Phrase("there is no such queue; did you mean %1?", {nearest});
 }
 
 std::string DefaultQueue() {

@@ -7,12 +7,14 @@
 #include <memory>
 #include <string>
 
+#include "Platform/Phrase.h"
 namespace zarvo::tool {
 
 using SpoolerConnection = std::unique_ptr<http_t, decltype(&httpClose)>;
 
-inline constexpr char kNoAnswer[] =
-    "the spooler does not answer; start it, for example with \"systemctl start cups\"";
+inline constexpr const char* kNoAnswer =
+    PhraseText("the spooler does not answer; start it, for example with \"systemctl start cups\"")
+        .data();
 
 /// To the spooler that the environment names; null when it does not answer within ten seconds.
 SpoolerConnection ConnectToSpooler();
