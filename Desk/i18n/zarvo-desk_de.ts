@@ -28,6 +28,14 @@
       <translation>„None“ und was mit „Custom.“ beginnt, bedeutet in Druckdialogen etwas anderes</translation>
     </message>
     <message>
+      <source>"lpstat -e" lists the queues</source>
+      <translation>„lpstat -e“ nennt die Warteschlangen</translation>
+    </message>
+    <message>
+      <source>"lpstat -o" lists it, with 0 bytes if the document is missing</source>
+      <translation>„lpstat -o“ nennt ihn, mit 0 Bytes, wenn das Dokument fehlt</translation>
+    </message>
+    <message>
       <source>"zarvo watermark list" shows them</source>
       <translation>"zarvo watermark list" zeigt sie</translation>
     </message>
@@ -94,6 +102,10 @@
     <message>
       <source>%1, number %2: %3</source>
       <translation>%1, Nummer %2: %3</translation>
+    </message>
+    <message>
+      <source>%1: house ticket "%2" does not let jobs change it, it was left as it is there</source>
+      <translation>%1: Der Hausauftrag „%2“ lässt es von Aufträgen nicht ändern, es blieb, wie es dort ist</translation>
     </message>
     <message>
       <source>%1: the job type is no number; send it as ..d_JobType..n=NUMBER</source>
@@ -537,6 +549,10 @@
       <translation>Exemplare und Seiten</translation>
     </message>
     <message>
+      <source>Correct them, or give --force to print it all the same</source>
+      <translation>Berichtigen Sie sie, oder drucken Sie trotzdem</translation>
+    </message>
+    <message>
       <source>Corvanta180 adjustable</source>
       <translation>Wie Corvanta180, einstellbar</translation>
     </message>
@@ -849,6 +865,10 @@
       <translation>Allgemeines Konto</translation>
     </message>
     <message>
+      <source>Ghostscript cannot draw the job: %1</source>
+      <translation>Ghostscript kann den Auftrag nicht zeichnen: %1</translation>
+    </message>
+    <message>
       <source>Given name</source>
       <translation>Vorname</translation>
     </message>
@@ -1015,6 +1035,10 @@
     <message>
       <source>Inserts</source>
       <translation>Einlegebögen</translation>
+    </message>
+    <message>
+      <source>It was canceled: print again</source>
+      <translation>Er wurde abgebrochen: Drucken Sie noch einmal</translation>
     </message>
     <message>
       <source>Job name</source>
@@ -2660,6 +2684,14 @@
       <translation>hinter der Seite</translation>
     </message>
     <message>
+      <source>cannot be converted here; install the packages cups and cups-filters</source>
+      <translation>kann hier nicht umgewandelt werden; installieren Sie die Pakete cups und cups-filters</translation>
+    </message>
+    <message>
+      <source>cannot be converted: %1</source>
+      <translation>kann nicht umgewandelt werden: %1</translation>
+    </message>
+    <message>
       <source>did you mean %1?</source>
       <translation>meinten Sie %1?</translation>
     </message>
@@ -2692,8 +2724,20 @@
       <translation>Einlegeblatt</translation>
     </message>
     <message>
+      <source>is empty: neither PostScript nor PDF</source>
+      <translation>ist leer: weder PostScript noch PDF</translation>
+    </message>
+    <message>
       <source>is no whole number</source>
       <translation>ist keine ganze Zahl</translation>
+    </message>
+    <message>
+      <source>is not printed with such settings</source>
+      <translation>wird mit solchen Einstellungen nicht gedruckt</translation>
+    </message>
+    <message>
+      <source>is nothing that the spooler can print: %1</source>
+      <translation>ist nichts, was das Drucksystem drucken kann: %1</translation>
     </message>
     <message>
       <source>it takes %1 to %2</source>
@@ -2844,6 +2888,10 @@
       <translation>im Kopf des Auftrags steht eine Zeile, die kein PJL ist</translation>
     </message>
     <message>
+      <source>the job holds no PostScript</source>
+      <translation>der Auftrag enthält kein PostScript</translation>
+    </message>
+    <message>
       <source>the job was not printed</source>
       <translation>der Auftrag wurde nicht gedruckt</translation>
     </message>
@@ -2856,6 +2904,10 @@
       <translation>der Drucker hört vor der ersten Seite auf: %1</translation>
     </message>
     <message>
+      <source>the printer would print no page of this job</source>
+      <translation>der Drucker würde keine Seite dieses Auftrags drucken</translation>
+    </message>
+    <message>
       <source>the scrambled form of this PIN would end the printer's line; %1 safely</source>
       <translation>diese PIN würde verwürfelt die Zeile des Druckers beenden; sicher ist: %1</translation>
     </message>
@@ -2864,12 +2916,28 @@
       <translation>die Blätter werden in der Mitte gefalzt, aber die Seiten sind nicht als Broschüre angeordnet</translation>
     </message>
     <message>
+      <source>the spooler did not say that it has the document</source>
+      <translation>das Drucksystem hat nicht bestätigt, dass es das Dokument hat</translation>
+    </message>
+    <message>
+      <source>the spooler does not answer; start it, for example with "systemctl start cups"</source>
+      <translation>das Drucksystem antwortet nicht; starten Sie es, zum Beispiel mit „systemctl start cups“</translation>
+    </message>
+    <message>
       <source>the watermark behind the page cannot be seen on %1, where the document paints its own ground; put it over the page (WMPlace=Overlay)</source>
       <translation>das Wasserzeichen hinter der Seite ist auf %1 nicht zu sehen, weil das Dokument dort seinen eigenen Grund malt; legen Sie es über die Seite</translation>
     </message>
     <message>
       <source>the watermark's image was left out or is not whole; the log tells why, the administrator can store it anew</source>
       <translation>das Bild des Wasserzeichens wurde weggelassen oder ist nicht vollständig; das Protokoll sagt warum, der Verwalter kann es neu speichern</translation>
+    </message>
+    <message>
+      <source>there is no such queue</source>
+      <translation>es gibt keine solche Warteschlange</translation>
+    </message>
+    <message>
+      <source>there is no such queue; did you mean %1?</source>
+      <translation>es gibt keine solche Warteschlange; meinten Sie %1?</translation>
     </message>
     <message>
       <source>true or false</source>

@@ -28,6 +28,14 @@
       <translation>« None » et ce qui commence par « Custom. » ont un autre sens pour les dialogues d’impression</translation>
     </message>
     <message>
+      <source>"lpstat -e" lists the queues</source>
+      <translation>« lpstat -e » donne les files d’attente</translation>
+    </message>
+    <message>
+      <source>"lpstat -o" lists it, with 0 bytes if the document is missing</source>
+      <translation>« lpstat -o » le montre, avec 0 octet si le document manque</translation>
+    </message>
+    <message>
       <source>"zarvo watermark list" shows them</source>
       <translation>« zarvo watermark list » les montre</translation>
     </message>
@@ -94,6 +102,10 @@
     <message>
       <source>%1, number %2: %3</source>
       <translation>%1, numéro %2 : %3</translation>
+    </message>
+    <message>
+      <source>%1: house ticket "%2" does not let jobs change it, it was left as it is there</source>
+      <translation>%1 : les réglages maison « %2 » ne le laissent pas changer, il est resté tel quel</translation>
     </message>
     <message>
       <source>%1: the job type is no number; send it as ..d_JobType..n=NUMBER</source>
@@ -537,6 +549,10 @@
       <translation>Exemplaires et pages</translation>
     </message>
     <message>
+      <source>Correct them, or give --force to print it all the same</source>
+      <translation>Corrigez-les, ou imprimez quand même</translation>
+    </message>
+    <message>
       <source>Corvanta180 adjustable</source>
       <translation>Corvanta180, réglable</translation>
     </message>
@@ -849,6 +865,10 @@
       <translation>Compte général</translation>
     </message>
     <message>
+      <source>Ghostscript cannot draw the job: %1</source>
+      <translation>Ghostscript ne peut pas dessiner le travail : %1</translation>
+    </message>
+    <message>
       <source>Given name</source>
       <translation>Prénom</translation>
     </message>
@@ -1015,6 +1035,10 @@
     <message>
       <source>Inserts</source>
       <translation>Encarts</translation>
+    </message>
+    <message>
+      <source>It was canceled: print again</source>
+      <translation>Il a été annulé : imprimez de nouveau</translation>
     </message>
     <message>
       <source>Job name</source>
@@ -2660,6 +2684,14 @@
       <translation>derrière la page</translation>
     </message>
     <message>
+      <source>cannot be converted here; install the packages cups and cups-filters</source>
+      <translation>ne peut pas être converti ici ; installez les paquets cups et cups-filters</translation>
+    </message>
+    <message>
+      <source>cannot be converted: %1</source>
+      <translation>ne peut pas être converti : %1</translation>
+    </message>
+    <message>
       <source>did you mean %1?</source>
       <translation>vouliez-vous dire %1 ?</translation>
     </message>
@@ -2692,8 +2724,20 @@
       <translation>encart</translation>
     </message>
     <message>
+      <source>is empty: neither PostScript nor PDF</source>
+      <translation>est vide : ni PostScript ni PDF</translation>
+    </message>
+    <message>
       <source>is no whole number</source>
       <translation>n’est pas un nombre entier</translation>
+    </message>
+    <message>
+      <source>is not printed with such settings</source>
+      <translation>n’est pas imprimé avec de tels réglages</translation>
+    </message>
+    <message>
+      <source>is nothing that the spooler can print: %1</source>
+      <translation>n’est rien que le système d’impression puisse imprimer : %1</translation>
     </message>
     <message>
       <source>it takes %1 to %2</source>
@@ -2844,6 +2888,10 @@
       <translation>l’en-tête contient une ligne qui n’est pas du PJL</translation>
     </message>
     <message>
+      <source>the job holds no PostScript</source>
+      <translation>le travail ne contient pas de PostScript</translation>
+    </message>
+    <message>
       <source>the job was not printed</source>
       <translation>le travail n'a pas été imprimé</translation>
     </message>
@@ -2856,6 +2904,10 @@
       <translation>l’imprimante s’arrête avant la première page : %1</translation>
     </message>
     <message>
+      <source>the printer would print no page of this job</source>
+      <translation>l’imprimante n’imprimerait aucune page de ce travail</translation>
+    </message>
+    <message>
       <source>the scrambled form of this PIN would end the printer's line; %1 safely</source>
       <translation>la forme brouillée de ce code finirait la ligne de l’imprimante ; pour être sûr, %1</translation>
     </message>
@@ -2864,12 +2916,28 @@
       <translation>les feuilles sont pliées au milieu, mais les pages ne sont pas disposées en livret</translation>
     </message>
     <message>
+      <source>the spooler did not say that it has the document</source>
+      <translation>le système d’impression n’a pas confirmé avoir le document</translation>
+    </message>
+    <message>
+      <source>the spooler does not answer; start it, for example with "systemctl start cups"</source>
+      <translation>le système d’impression ne répond pas ; démarrez-le, par exemple avec « systemctl start cups »</translation>
+    </message>
+    <message>
       <source>the watermark behind the page cannot be seen on %1, where the document paints its own ground; put it over the page (WMPlace=Overlay)</source>
       <translation>le filigrane derrière la page ne se voit pas : %1, où le document peint son propre fond ; mettez-le par-dessus la page</translation>
     </message>
     <message>
       <source>the watermark's image was left out or is not whole; the log tells why, the administrator can store it anew</source>
       <translation>l'image du filigrane a été omise ou n'est pas entière ; le journal dit pourquoi, l'administrateur peut l'enregistrer à nouveau</translation>
+    </message>
+    <message>
+      <source>there is no such queue</source>
+      <translation>cette file d’attente n’existe pas</translation>
+    </message>
+    <message>
+      <source>there is no such queue; did you mean %1?</source>
+      <translation>cette file d’attente n’existe pas ; vouliez-vous dire %1 ?</translation>
     </message>
     <message>
       <source>true or false</source>

@@ -28,6 +28,14 @@
       <translation>「None」と「Custom.」で始まる名前は、印刷ダイアログでは別の意味になります</translation>
     </message>
     <message>
+      <source>"lpstat -e" lists the queues</source>
+      <translation>プリンターの一覧は「lpstat -e」で確認できます</translation>
+    </message>
+    <message>
+      <source>"lpstat -o" lists it, with 0 bytes if the document is missing</source>
+      <translation>「lpstat -o」に表示されます。文書が届いていなければ 0 バイトです</translation>
+    </message>
+    <message>
       <source>"zarvo watermark list" shows them</source>
       <translation>"zarvo watermark list" で一覧できます</translation>
     </message>
@@ -94,6 +102,10 @@
     <message>
       <source>%1, number %2: %3</source>
       <translation>%1、%2 番目: %3</translation>
+    </message>
+    <message>
+      <source>%1: house ticket "%2" does not let jobs change it, it was left as it is there</source>
+      <translation>%1: 登録済み設定「%2」では変更できないため、登録どおりにしました</translation>
     </message>
     <message>
       <source>%1: the job type is no number; send it as ..d_JobType..n=NUMBER</source>
@@ -530,6 +542,10 @@
       <translation>部数とページ</translation>
     </message>
     <message>
+      <source>Correct them, or give --force to print it all the same</source>
+      <translation>設定を直すか、このまま印刷してください</translation>
+    </message>
+    <message>
       <source>Corvanta180 adjustable</source>
       <translation>Corvanta180（調整可）</translation>
     </message>
@@ -842,6 +858,10 @@
       <translation>一般アカウント</translation>
     </message>
     <message>
+      <source>Ghostscript cannot draw the job: %1</source>
+      <translation>Ghostscript がジョブを描画できません: %1</translation>
+    </message>
+    <message>
       <source>Given name</source>
       <translation>名</translation>
     </message>
@@ -1012,6 +1032,10 @@
     <message>
       <source>Inserts</source>
       <translation>差し込み紙</translation>
+    </message>
+    <message>
+      <source>It was canceled: print again</source>
+      <translation>取り消しました。もう一度印刷してください</translation>
     </message>
     <message>
       <source>Job name</source>
@@ -2664,6 +2688,14 @@
       <translation>ページの下</translation>
     </message>
     <message>
+      <source>cannot be converted here; install the packages cups and cups-filters</source>
+      <translation>ここでは変換できません。パッケージ cups と cups-filters をインストールしてください</translation>
+    </message>
+    <message>
+      <source>cannot be converted: %1</source>
+      <translation>変換できません: %1</translation>
+    </message>
+    <message>
       <source>did you mean %1?</source>
       <translation>%1 のことですか?</translation>
     </message>
@@ -2696,8 +2728,20 @@
       <translation>差し込み紙</translation>
     </message>
     <message>
+      <source>is empty: neither PostScript nor PDF</source>
+      <translation>空です。PostScript でも PDF でもありません</translation>
+    </message>
+    <message>
       <source>is no whole number</source>
       <translation>整数ではありません</translation>
+    </message>
+    <message>
+      <source>is not printed with such settings</source>
+      <translation>この設定では印刷しません</translation>
+    </message>
+    <message>
+      <source>is nothing that the spooler can print: %1</source>
+      <translation>印刷システムでは印刷できないファイルです: %1</translation>
     </message>
     <message>
       <source>it takes %1 to %2</source>
@@ -2848,6 +2892,10 @@
       <translation>ジョブのヘッダーに PJL でない行があります</translation>
     </message>
     <message>
+      <source>the job holds no PostScript</source>
+      <translation>ジョブに PostScript がありません</translation>
+    </message>
+    <message>
       <source>the job was not printed</source>
       <translation>ジョブは印刷されませんでした</translation>
     </message>
@@ -2860,6 +2908,10 @@
       <translation>プリンターは最初のページの前で止まります: %1</translation>
     </message>
     <message>
+      <source>the printer would print no page of this job</source>
+      <translation>このジョブでは 1 ページも印刷されません</translation>
+    </message>
+    <message>
       <source>the scrambled form of this PIN would end the printer's line; %1 safely</source>
       <translation>この暗証番号は暗号化するとプリンターの行を終わらせてしまいます。安全なのは: %1</translation>
     </message>
@@ -2868,12 +2920,28 @@
       <translation>用紙は中央で折られますが、ページは小冊子の配置になっていません</translation>
     </message>
     <message>
+      <source>the spooler did not say that it has the document</source>
+      <translation>印刷システムから文書を受け取ったという返事がありません</translation>
+    </message>
+    <message>
+      <source>the spooler does not answer; start it, for example with "systemctl start cups"</source>
+      <translation>印刷システムが応答しません。「systemctl start cups」などで起動してください</translation>
+    </message>
+    <message>
       <source>the watermark behind the page cannot be seen on %1, where the document paints its own ground; put it over the page (WMPlace=Overlay)</source>
       <translation>文書が背景を塗っているため、ページの下のウォーターマークは見えません (%1)。ページの上に置いてください</translation>
     </message>
     <message>
       <source>the watermark's image was left out or is not whole; the log tells why, the administrator can store it anew</source>
       <translation>透かしの画像が省かれたか不完全です。理由はログにあり、管理者が保存し直せます</translation>
+    </message>
+    <message>
+      <source>there is no such queue</source>
+      <translation>そのようなプリンターはありません</translation>
+    </message>
+    <message>
+      <source>there is no such queue; did you mean %1?</source>
+      <translation>そのようなプリンターはありません。%1 のことですか?</translation>
     </message>
     <message>
       <source>true or false</source>
