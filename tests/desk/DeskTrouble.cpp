@@ -159,7 +159,8 @@ void DeskTest::queue_goes() {
   window_->OpenDocument(folder + "/house.ps");
   auto* const print = Find<QAction>("print");
   QVERIFY(Comes([print] { return print->isEnabled(); }));
-  QVERIFY(Comes([this] { return Find<QLabel>("summary")->text().contains("2 sheet(s), 3 copies"); }));
+  QVERIFY(
+      Comes([this] { return Find<QLabel>("summary")->text().contains("2 sheet(s), 3 copies"); }));
   QVERIFY(Comes([this] { return Find<QComboBox>("copies")->currentText() == "3"; }));
   Choose("copies", "1");  // which is said, as else there would be three
   QCOMPARE(window_->document().TextAt("copies"), "1");
