@@ -45,7 +45,7 @@ bool Alter(Dictionary* group, std::string_view path, bool top, std::optional<Val
   const std::string name = top ? TopName(TakeName(&path)) : std::string(TakeName(&path));
   if (path.empty()) {
     if (*value) {
-      group->insert_or_assign(name, **std::move(value));
+      group->insert_or_assign(name, std::move(**value));
     } else {
       group->erase(name);
     }
@@ -68,7 +68,7 @@ bool Alter(Dictionary* group, std::string_view path, bool top, std::optional<Val
   if (fine && slash == std::string_view::npos) {
     if (*value && *place == list.size()) list.emplace_back();
     if (*value) {
-      list[*place] = **std::move(value);
+      list[*place] = std::move(**value);
     } else {
       list.erase(list.begin() + static_cast<std::ptrdiff_t>(*place));
     }
@@ -181,7 +181,7 @@ void TicketDocument::Reset(Dictionary ticket) {
 }
 
 Failure TicketDocument::Open(const std::string& file) {
-  const std::optional<std::string> text = ReadWholeFile(file.c_str(), kLargestFile);
+  const std::optional<std::string> text = ReadWholeFile(file, kLargestFile);
   if (!text) return errno == EINVAL ? "is not a regular file" : std::strerror(errno);
   Dictionary ticket;
   if (Failure failure = tool::ReadTicket(*text, &ticket); !failure.empty()) return failure;

@@ -281,7 +281,7 @@ class Maker {
   }
 
   Failure Pictures(const std::vector<std::uint64_t>& wanted, int dots) {
-    const Failure failure = Pictures(wanted, pages_, dots);
+    Failure failure = Pictures(wanted, pages_, dots);
     Answer({{"drawn", true}});
     return failure;
   }

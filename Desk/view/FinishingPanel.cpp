@@ -166,6 +166,7 @@ class FinishingPanel : public Panel {
   void Box(const char* name, const QString& label, std::int32_t Finishing::*field,
            std::vector<std::pair<QString, std::int32_t>> rows) {
     std::vector<Choice> choices;
+    choices.reserve(rows.size());
     for (const auto& [text, code] : rows)
       choices.push_back({text, [this, field, code = code](Dictionary* ticket) {
                            PutFinishing(With([=](Finishing* f) { f->*field = code; }), ticket);

@@ -34,6 +34,7 @@ class PaperPanel : public Panel {
                                                                 {"Legal", "Legal"},
                                                                 {"Tabloid", "Tabloid"}};
     std::vector<Choice> choices;
+    choices.reserve(sizes.size());
     for (const auto& [text, media] : sizes)
       choices.push_back({text, [media = media](Dictionary* ticket) {
                            if (media.empty()) {

@@ -75,6 +75,7 @@ PrintDialog::PrintDialog(const TicketDocument& document, const QString& file, co
   again_->hide();
   connect(again_, &QPushButton::clicked, this, [this] { Print(true); });
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+  buttons->button(QDialogButtonBox::Close)->setFocus();
   for (QWidget* widget :
        std::initializer_list<QWidget*>{state_, progress_, details_, at_printer_, buttons})
     layout->addWidget(widget);

@@ -11,6 +11,7 @@
 #include <nlohmann/json.hpp>
 
 #include "Platform/ScratchFolder.h"
+#include "Platform/Value.h"
 
 namespace zarvo::desk {
 

@@ -93,15 +93,15 @@ QString Translations::ByForm(const QString& text, bool loose) const {
 
 QString Translations::Tell(const QString& text) const {
   if (text.isEmpty() || text.size() > kLongestText) return text;
-  if (const QString found = Find(text); !found.isEmpty()) return found;
+  if (QString found = Find(text); !found.isEmpty()) return found;
   if (text.contains('\n')) {
     QStringList lines = text.split('\n');
     for (QString& line : lines) line = Tell(line);
     return lines.join('\n');
   }
-  if (const QString found = ByForm(text, false); !found.isEmpty()) return found;
-  if (const QString found = ByPieces(text); found != text) return found;
-  const QString found = ByForm(text, true);
+  if (QString found = ByForm(text, false); !found.isEmpty()) return found;
+  if (QString found = ByPieces(text); found != text) return found;
+  QString found = ByForm(text, true);
   return found.isEmpty() ? text : found;
 }
 

@@ -150,7 +150,7 @@ Failure LookAtSource(const ScratchFolder& scratch, JobSource* source,
   if (*kind == JobKind::kEmpty) return Phrase("is empty: neither PostScript nor PDF");
   if (*kind == JobKind::kOffice) {
     std::string pdf;
-    const Failure failure = ConvertOfficeDocument(source->file, scratch, &pdf);
+    Failure failure = ConvertOfficeDocument(source->file, scratch, &pdf);
     if (!failure.empty()) return failure;
     source->file = pdf;
     *kind = JobKind::kPdf;
@@ -181,7 +181,7 @@ Failure MakeJob(const JobSource& given, const ScratchFolder& scratch, const Page
   JobSource source = given;
   JobKind kind{};
   std::vector<std::vector<std::string>> converters;
-  if (const Failure failure = LookAtSource(scratch, &source, &converters, &kind); !failure.empty())
+  if (Failure failure = LookAtSource(scratch, &source, &converters, &kind); !failure.empty())
     return failure;
   const std::uint64_t expected = ExpectedPages(source, kind);
   const auto page_of_all = [&](std::uint64_t done, std::uint64_t announced) {
@@ -205,7 +205,7 @@ Failure ConvertJob(const JobSource& given, const ScratchFolder& scratch,
   JobSource source = given;
   JobKind kind{};
   std::vector<std::vector<std::string>> converters;
-  if (const Failure failure = LookAtSource(scratch, &source, &converters, &kind); !failure.empty())
+  if (Failure failure = LookAtSource(scratch, &source, &converters, &kind); !failure.empty())
     return failure;
   std::string log;
   for (const std::vector<std::string>& converter : converters) {
