@@ -24,6 +24,7 @@
 #include "Desk/model/GtkSettings.h"
 #include "Desk/view/PrintDialog.h"
 #include "Desk/view/Translations.h"
+#include "Tools/zarvo/system/Queues.h"
 #include "Tools/zarvo/ticket/TicketCheck.h"
 #include "Tools/zarvo/ticket/TicketText.h"
 
@@ -314,7 +315,9 @@ void MainWindow::Changed() {
   setWindowTitle((title_.isEmpty() ? QString() : title_ + settings + " \u2013 ") + "Zarvo Desk[*]");
   setWindowModified(document_.IsChanged());
   Dictionary printed = document_.ticket();
-  printed.insert(saved_.begin(), saved_.end());  // as sending it does
+  const auto has = [this](const char* name) { return document_.ticket().contains(name); };
+  for (const auto& [name, value] : saved_)  // as sending it does
+    if (!tool::IsSaid(name, has)) printed.emplace(name, value);
   RenderSettings render;
   const Failure failure = MakeRenderSettings(printed, renderer_option_, &render);
   if (!failure.empty()) return Tell(QString::fromStdString(failure));

@@ -36,11 +36,15 @@ namespace {
 void AddDefaults(const std::string& queue, OptionList* options) {
   const Destination destination = FindDestination(queue);
   if (!destination) return;
+  OptionList defaults;
   for (int i = 0; i < destination->num_options; ++i) {
     const cups_option_t& option = destination->options[i];
-    if (cupsGetOption(option.name, options->size(), options->data()) == nullptr)
-      options->Add(option.name, option.value);
+    const auto has = [options](const char* name) {
+      return cupsGetOption(name, options->size(), options->data()) != nullptr;
+    };
+    if (!IsSaid(option.name, has)) defaults.Add(option.name, option.value);
   }
+  options->AddMissing(defaults);
 }
 
 int SpoolerFault(const std::string& queue) {

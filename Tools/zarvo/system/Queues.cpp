@@ -7,6 +7,7 @@
 #include <cups/ppd.h>
 
 #include <algorithm>
+#include <array>
 #include <fstream>
 
 #include "Platform/Phrase.h"
@@ -89,6 +90,18 @@ std::string QueueDefault(const std::string& queue, const std::string& option) {
       answer ? ippFindAttribute(answer.get(), name.c_str(), IPP_TAG_ZERO) : nullptr;
   const char* value = attribute != nullptr ? ippGetString(attribute, 0, nullptr) : nullptr;
   return value != nullptr ? value : "";
+}
+
+bool IsSaid(std::string_view option, const std::function<bool(const char*)>& has) {
+  constexpr std::array<const char*, 3> kSame[] = {{"sides", "Duplex", nullptr},
+                                                  {"media", "PageSize", "PageRegion"}};
+  for (const auto& names : kSame) {
+    const auto is_named = [&](const char* name) { return name != nullptr && option == name; };
+    if (std::any_of(names.begin(), names.end(), is_named))
+      return std::any_of(names.begin(), names.end(),
+                         [&](const char* name) { return name != nullptr && has(name); });
+  }
+  return has(std::string(option).c_str());
 }
 
 Failure PpdFault(const std::string& path) {

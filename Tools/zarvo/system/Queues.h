@@ -3,8 +3,10 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "Platform/Failure.h"
@@ -48,6 +50,11 @@ inline constexpr const char* kBestRenderer = "pdftops";
 
 /// The queue's own default of an option, or an empty text when it has none.
 std::string QueueDefault(const std::string& queue, const std::string& option);
+
+/// Whether settings say already what an option is about, under its name or the one that the PPD or
+/// the spooler has for the same: what a user keeps for a queue goes below it. `has` tells whether
+/// they have an option of that name.
+bool IsSaid(std::string_view option, const std::function<bool(const char*)>& has);
 
 /// Why the PPD file cannot be used, with its line.
 Failure PpdFault(const std::string& path);
