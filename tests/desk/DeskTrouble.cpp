@@ -166,7 +166,7 @@ void DeskTest::queue_goes() {
   QCOMPARE(window_->document().TextAt("copies"), "1");
   QVERIFY(Comes([this] { return Find<QLabel>("changes")->text() == "Copies: 1 (by itself: 3)"; }));
   Choose("sides", "One side");
-  QVERIFY(Comes([this] { return Find<QLabel>("summary")->text().contains("3 sheet(s), "); }));
+  QVERIFY(Comes([this] { return Find<QLabel>("summary")->text().contains("3 sheet(s)"); }));
   window_->document().Undo();
   Choose("copies", "3");
   QVERIFY(window_->document().ticket().empty());
