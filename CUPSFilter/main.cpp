@@ -2,8 +2,10 @@
 // The filter: one job from the spooler's arguments to the exit status.
 #include <cups/cups.h>
 #include <fcntl.h>
+#include <poll.h>
 #include <sys/prctl.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -191,6 +193,16 @@ int ReportWrites(JobOutput& spooled, JobOutput& printer) {
   return kSuccess;
 }
 
+/// Whether the input ends before its first byte; waits until one of both is there. The spooler
+/// takes no empty documents, so whoever should have sent this one could not, as for want of room.
+bool IsEmpty(int input) {
+  struct stat status {};
+  if (fstat(input, &status) == 0 && S_ISREG(status.st_mode))
+    return lseek(input, 0, SEEK_CUR) >= status.st_size;
+  pollfd ready{input, POLLIN, 0};
+  return poll(&ready, 1, -1) == 1 && ready.revents == POLLHUP;
+}
+
 int RunJob(const Job& job, const char* input_name, JobNotices* notices) {
   UniqueFd file;
   int input = STDIN_FILENO;
@@ -201,6 +213,12 @@ int RunJob(const Job& job, const char* input_name, JobNotices* notices) {
       return kFailure;
     }
     input = file.get();
+  }
+  if (job.settings.failClosed && IsEmpty(input)) {
+    notices->TellFailure(std::string(kRefusal) +
+                         "not a byte of it came; look for what the programs before this filter "
+                         "say, make room on their disk and send it again");
+    return kFailure;
   }
   std::unique_ptr<SpoolFile> spool;
   if (job.settings.booklet) {

@@ -20,11 +20,10 @@ import time
 import unittest
 import uuid
 
-from zarvo import paged
+from zarvo import SANITIZED, paged
 
 BIN = pathlib.Path(os.environ["ZARVO_BIN"])
 GOLDEN = pathlib.Path(os.environ["ZARVO_SOURCE"]) / "tests/golden"
-SANITIZED = b"__asan_init" in (BIN / "zarvofilter").read_bytes()
 SMALL = paged(b"")
 # A booklet prints the third of four pages last.
 LONG_LAST = paged(*(b"0 " * 2000000 * (n == 3) for n in range(1, 5)))
@@ -142,6 +141,12 @@ class Faults(unittest.TestCase):
 
     def run_to_end(self, *arguments, timeout=10, **options):
         return self.finish(self.start(*arguments, **options), timeout)
+
+    def strict(self):
+        """A PPD like the usual one, of a queue on which nothing is lost in silence."""
+        strict = self.scratch / "strict.ppd"
+        strict.write_bytes(pathlib.Path(self.environment["PPD"]).read_bytes() + b"*ZRVFailClosed: True\n")
+        return str(strict)
 
     def assert_told(self, result, status, *texts):
         _, lines, actual = result
@@ -345,11 +350,19 @@ class Helpers(Faults):
                     self.assertIn((b"F" * 600 + b"\r") * 100, output)
                 self.assertTrue(output.endswith(plain[-30:]))
 
+    def test_nothing_comes(self):
+        """The program before could not write a document, and only says so by its status."""
+        self.environment["PPD"] = self.strict()
+        for feature in FEATURES:
+            with self.subTest(feature=feature):
+                result = self.run_to_end(feature, b"")
+                self.assert_told(result, 1, "the job was not printed", "make room")
+                self.assertEqual(result[0], b"")
+
     def test_cover_programs(self):
         plain, _, _ = self.run_to_end(FEATURES["cover"].replace("=true", "=false"))
         usual = self.environment["PPD"]
-        strict = self.scratch / "strict.ppd"
-        strict.write_bytes(pathlib.Path(usual).read_bytes() + b"*ZRVFailClosed: True\n")
+        strict = self.strict()
         for replace in (self.replace_converter, self.replace_helper):
             for name, script in self.SCRIPTS.items():
                 if name == "family" and replace == self.replace_converter:
@@ -359,7 +372,7 @@ class Helpers(Faults):
                     result = self.run_to_end("cover")
                     self.assert_told(result, 0, "cover sheet was left out")
                     self.assertEqual(result[0], plain)
-                    self.environment["PPD"] = str(strict)
+                    self.environment["PPD"] = strict
                     result = self.run_to_end("cover")
                     self.environment["PPD"] = usual
                     self.assert_told(result, 1, "not printed: its fax cover sheet cannot be drawn")

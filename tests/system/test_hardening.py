@@ -1,14 +1,11 @@
 # SPDX-License-Identifier: Apache-2.0
 """The programs are built so that a fault of memory is hard to make use of."""
 
-import os
-import pathlib
 import re
 import subprocess
 import unittest
 
-BIN = pathlib.Path(os.environ["ZARVO_BIN"])
-SANITIZED = b"__asan_init" in (BIN / "zarvofilter").read_bytes()
+from zarvo import BIN, SANITIZED
 
 
 def readelf(option, program):

@@ -2,13 +2,14 @@
 # SPDX-License-Identifier: Apache-2.0
 """zarvo ticket: readable tickets to options and back, misspelt keys, the list of keys."""
 
+import itertools
 import json
 import plistlib
 import re
 import tomllib
 import unittest
 
-from zarvo import ALL_SECTIONS, BIN, SOURCE, ZarvoTest, document
+from zarvo import ALL_SECTIONS, BIN, SANITIZED, SOURCE, ZarvoTest, document
 
 NASTY = "a b\tc\nd 'e' \"f\" \\g {h} i=j , \u00e9 \u65e5 #$%"
 TICKET = {
@@ -169,7 +170,8 @@ class Ticket(ZarvoTest):
     def test_saved_from_a_file_it_writes_the_same(self):
         """Header and XML ticket come out byte for byte, or what is not taken has been told."""
         told = []
-        for name, options in written_tickets():
+        # Under the sanitizers, where each takes a second, what takes other ways through the programs.
+        for name, options in itertools.islice(written_tickets(), 0, None, 4 if SANITIZED else 1):
             job = self.path("job.prn", self.filtered(options, document()))
             self.run_zarvo("ticket", "save", "--own", "from file", "--from", job)
             notes = re.findall(r"not taken: (.*)", self.errors)
@@ -179,7 +181,8 @@ class Ticket(ZarvoTest):
             self.assertTrue(before == after or notes, name + "\n" + before + after)
             self.assertNotRegex(json.dumps([ticket, notes]), "SecurePrintPassword|ACCT-77|CreditCard|4711")
             told += [f"{name}: {note}\n" for note in notes]
-        self.assert_golden("ticket-from-file.txt", "".join(told))
+        if not SANITIZED:
+            self.assert_golden("ticket-from-file.txt", "".join(told))
         self.run_zarvo("ticket", "save", "--own", "x", "--from", self.path("plain.ps", document().encode()), status=2)
         self.assertIn("no job that the filter wrote", self.errors)
 

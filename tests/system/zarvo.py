@@ -11,6 +11,7 @@ import tempfile
 import unittest
 
 BIN = pathlib.Path(os.environ["ZARVO_BIN"])
+SANITIZED = b"__asan_init" in (BIN / "zarvofilter").read_bytes()
 SOURCE = pathlib.Path(os.environ["ZARVO_SOURCE"])
 EXPECTED = pathlib.Path(__file__).resolve().parent / "expected"
 PPD = SOURCE / "tests/golden/ppd/test.ppd"
