@@ -8,7 +8,8 @@ namespace zarvo {
 
 struct QueuePolicy {
   /// *ZRVFailClosed: True. A secret that cannot be kept, a fax that cannot be sent and one whose
-  /// cover cannot be drawn come out nowhere, and whatever else a job asks for in vain is told.
+  /// cover cannot be drawn come out nowhere, a document without a byte is no printed one, and
+  /// whatever else a job asks for in vain is told.
   bool failClosed = false;
   /// *ZRVAllowEmptyPIN: True. A secure job without a PIN is sent with an empty one; the printers
   /// keep it until somebody releases it without typing anything.
