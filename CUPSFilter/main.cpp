@@ -194,7 +194,8 @@ int ReportWrites(JobOutput& spooled, JobOutput& printer) {
 }
 
 /// Whether the input ends before its first byte; waits until one of both is there. The spooler
-/// takes no empty documents, so whoever should have sent this one could not, as for want of room.
+/// takes no empty documents, so whoever should have sent this one could not, as for want of room,
+/// or was asked for pages that it has not.
 bool IsEmpty(int input) {
   struct stat status {};
   if (fstat(input, &status) == 0 && S_ISREG(status.st_mode))
@@ -215,9 +216,14 @@ int RunJob(const Job& job, const char* input_name, JobNotices* notices) {
     input = file.get();
   }
   if (job.settings.failClosed && IsEmpty(input)) {
-    notices->TellFailure(std::string(kRefusal) +
-                         "not a byte of it came; look for what the programs before this filter "
-                         "say, make room on their disk and send it again");
+    const std::string_view cause =
+        job.settings.copies.chosen
+            ? "not a byte of it came: the document has none of these pages (page-ranges, "
+              "page-set), "
+              "or a program before this filter failed; choose others, or look what it says"
+            : "not a byte of it came; look for what the programs before this filter say, make room "
+              "on their disk and send it again";
+    notices->TellFailure(std::string(kRefusal).append(cause));
     return kFailure;
   }
   std::unique_ptr<SpoolFile> spool;
