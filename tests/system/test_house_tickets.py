@@ -13,7 +13,7 @@ import time
 import unittest
 
 from cupsd import BIN, PrivateCupsd, Printer
-from zarvo import document, run_filter
+from zarvo import SANITIZED, document, run_filter
 
 SOURCE = pathlib.Path(os.environ["ZARVO_SOURCE"])
 PPD = BIN.parent / "ppd/zarvo.ppd"
@@ -115,6 +115,8 @@ class HouseTickets(unittest.TestCase):
                 self.cupsd.request("office", self.document, "\n".join(ipp), getpass.getuser(),
                                    self.document.name)  # fmt: skip
                 self.assertEqual(self.head(), wanted, "finishing template")
+                if SANITIZED:
+                    continue  # it is GTK that a dialog would try
                 dialog = ["/usr/bin/python3", str(SOURCE / "tests/system/gtk_dialog.py"), "office",
                           entry["Titles"]["en"], *("cups-" + one for one in beside)]  # fmt: skip
                 self.cupsd.run(*dialog, DISPLAY=display, LC_ALL="C.UTF-8", NO_AT_BRIDGE="1", GTK_USE_PORTAL="0")

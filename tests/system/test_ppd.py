@@ -16,7 +16,7 @@ import subprocess
 import sys
 import unittest
 
-from zarvo import run_filter
+from zarvo import SANITIZED, run_filter
 
 BIN = pathlib.Path(os.environ["ZARVO_BIN"])
 SOURCE = pathlib.Path(os.environ["ZARVO_SOURCE"])
@@ -50,6 +50,8 @@ WITH = {
 }
 # Cover sheets are drawn; what they show is the fax cover's business.
 UNSEEN = {"FaxCover", "FaxRecipient", "FaxSender", "FaxNotes"}
+# The sanitizers, under which a filter takes ten times as long to start, see a third of the choices.
+EVERY = 3 if SANITIZED else 1
 CUSTOM = {"int": "7", "string": "A\\ \\&\\ B", "passcode": "0391"}
 
 
@@ -82,9 +84,7 @@ def run(options):
 
 
 def lines():
-    for option, choice in choices():
-        if option in UNSEEN:
-            continue
+    for option, choice in [(option, choice) for option, choice in choices() if option not in UNSEEN][::EVERY]:
         beside = WITH.get(option, "")
         added = [
             line[0] + " ".join(line[1:].split())
@@ -111,7 +111,7 @@ class Choices(unittest.TestCase):
     maxDiff = None
 
     def test_table(self):
-        self.assertEqual(TABLE.read_text(encoding="utf-8").splitlines(), list(lines()))
+        self.assertEqual(TABLE.read_text(encoding="utf-8").splitlines()[::EVERY], list(lines()))
 
     def test_ppd_is_sound(self):
         done = subprocess.run(["cupstestppd", "-W", "filters", str(PPD)], capture_output=True, text=True)
