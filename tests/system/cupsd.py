@@ -31,7 +31,7 @@ DefaultAuthType None
   Allow from 127.0.0.1
 </Location>
 <Policy default>
-  <Limit All>
+{privacy}  <Limit All>
     Order allow,deny
     Allow from 127.0.0.1
   </Limit>
@@ -111,8 +111,10 @@ class Printer:
 
 
 class PrivateCupsd:
-    def __init__(self, environment=None, max_jobs=500):
+    def __init__(self, environment=None, max_jobs=500, shows_jobs=False):
+        """`shows_jobs`: whoever asks may see all of every job, which otherwise root alone may."""
         self._environment = environment or {}
+        self._shows_jobs = shows_jobs
         self._max_jobs = max_jobs
 
     def __enter__(self):
@@ -200,7 +202,7 @@ FileDevice Yes
 """
         )
         (self.root / "cupsd.conf").write_text(
-            CONFIGURATION.format(port=self.port)
+            CONFIGURATION.format(port=self.port, privacy="  JobPrivateValues none\n" * self._shows_jobs)
             + f"""MaxLogSize 0
 Browsing No
 WebInterface No

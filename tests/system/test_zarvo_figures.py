@@ -37,7 +37,7 @@ class Figures(ZarvoTest):
     def test_jobs_are_counted_once(self):
         job = self.path("five.ps", document(5))
         log, state = self.scratch / "jobs.log", self.scratch / "state/jobs.json"
-        with PrivateCupsd() as cupsd, Printer() as printer:
+        with PrivateCupsd(shows_jobs=True) as cupsd, Printer() as printer:
             cupsd.add_queue("office", BIN.parent / "ppd/zarvo.ppd", printer.uri)
             self.environment["CUPS_SERVER"] = f"127.0.0.1:{cupsd.port}"
 

@@ -273,7 +273,7 @@ class Spooler(ZarvoTest):
         self.path("report.ps", document(2))
         for name in ("job.prn", "annual.prn"):
             self.path(name, self.filtered(ALL_SECTIONS, document()))
-        with PrivateCupsd() as cupsd, Printer() as printer:
+        with PrivateCupsd(shows_jobs=True) as cupsd, Printer() as printer:
             cupsd.add_queue("office", ours, printer.uri)
             self.environment |= {"CUPS_SERVER": f"127.0.0.1:{cupsd.port}", "DISPLAY": ":0",
                                  "CONFIGURATION": f"{cupsd.root}/cups-files.conf", "TERM": "dumb"}

@@ -101,7 +101,7 @@ HistoryMark HistoryMark::FromJson(const nlohmann::json& json) {
 HistoryState::HistoryState(std::string file)
     : content(nlohmann::json::object()),
       file_(std::move(file)),
-      folder_(std::filesystem::path(file_).parent_path()),
+      folder_(std::filesystem::absolute(file_).parent_path()),
       lock_(MakeFolder(folder_)) {
   if (!lock_) return;
   if (const std::optional<std::string> text = ReadWholeFile(file_, kLongestState))

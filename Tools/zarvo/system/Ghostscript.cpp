@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <sstream>
 
 #include "Tools/zarvo/system/Run.h"
 
@@ -22,6 +23,14 @@ std::string PageTeller(std::uint64_t stop) {
           ") print 1 index 1 add 20 string cvs print (\\n) print flush } if "
           "userdict /zarvoEndPage get exec } bind >> setpagedevice";
   return text;
+}
+
+std::string WithoutPages(const std::string& log) {
+  std::string rest;
+  std::istringstream lines(log);
+  for (std::string line; std::getline(lines, line);)
+    if (!line.starts_with(kPageMark)) rest += line + '\n';
+  return rest;
 }
 
 }  // namespace
@@ -72,8 +81,11 @@ Failure Draw(const Drawing& drawing, const ScratchFolder& scratch) {
   // It ends with 0 even when the last of the file cannot be written, and only says so.
   if (ended_well && log.find(" on closing " + drawing.device + " device") == std::string::npos)
     return "";
-  Failure failure = InterpreterError(log);
-  if (failure.find("ioerror") != std::string::npos)
+  Failure failure = InterpreterError(WithoutPages(log));
+  // Nor does it always say anything.
+  const bool said_nothing = failure.empty();
+  if (said_nothing) failure = "it ended without a word";
+  if (said_nothing || failure.find("ioerror") != std::string::npos)
     failure += "; is there room for temporary files (TMPDIR)?";
   return failure;
 }
