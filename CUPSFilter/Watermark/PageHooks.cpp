@@ -121,7 +121,8 @@ void PageHooks::BeforeLine(std::string_view line, bool own) {
 
 void PageHooks::AfterLine(std::string_view line, bool own) {
   if (!inserted_ && line.starts_with("%%EndComments")) Insert();
-  if (own && !settings_.booklet && line.starts_with("%%Page:")) WriteTurn();
+  // Some programs say that a page begins among the comments of the head, ahead of the procedures.
+  if (own && inserted_ && !settings_.booklet && line.starts_with("%%Page:")) WriteTurn();
 }
 
 /// Documents bring parts of fonts under the names of whole ones, so this goes ahead of them.
@@ -169,7 +170,7 @@ void PageHooks::Insert() {
   const bool swapped = sideways && watermark && watermark->IsText();
   std::fprintf(output, "/width %d def\n/height %d def\nstate 2 %d put\n",
                WholePoints(swapped ? PageLength : PageWidth),
-               WholePoints(swapped ? PageWidth : PageLength), document_turn_);
+               WholePoints(swapped ? PageWidth : PageLength), told_ ? page_turn_ : document_turn_);
   if (watermark) {
     if (!watermark->IsText()) {
       if (!outputImageWatermark(&watermark->watermarkData, output) && notices_ != nullptr)
