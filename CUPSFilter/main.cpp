@@ -218,11 +218,13 @@ int RunJob(const Job& job, const char* input_name, JobNotices* notices) {
   if (job.settings.failClosed && IsEmpty(input)) {
     const std::string_view cause =
         job.settings.copies.chosen
-            ? "not a byte of it came: the document has none of these pages (page-ranges, "
-              "page-set), "
-              "or a program before this filter failed; choose others, or look what it says"
-            : "not a byte of it came; look for what the programs before this filter say, make room "
-              "on their disk and send it again";
+            ? PhraseText(
+                  "not a byte of it came: the document has none of these pages "
+                  "(page-ranges, page-set), or a program before this filter failed; choose "
+                  "others, or look what it says")
+            : PhraseText(
+                  "not a byte of it came; look for what the programs before this filter "
+                  "say, make room on their disk and send it again");
     notices->TellFailure(std::string(kRefusal).append(cause));
     return kFailure;
   }

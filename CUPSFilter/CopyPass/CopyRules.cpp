@@ -284,13 +284,13 @@ void CopyRules::TakeStray(std::string_view line) {
 
 void CopyRules::Refuse() {
   refusal_ = ended_
-                 ? "the job was cut short: the document goes on behind its end or an exit from its "
-                   "language, where its PIN or fax number does not hold any more; print it by "
-                   "another program"
-                 : kRefusal + std::string(
-                                  "the document does not begin with %!PS-Adobe, so its PIN "
-                                  "or fax number would not hold; print it by another "
-                                  "program");
+                 ? Phrase(
+                       "the job was cut short: the document goes on behind its end or an exit from "
+                       "its language, where its PIN or fax number does not hold any more; print "
+                       "it by another program")
+                 : kRefusal + Phrase(
+                                  "the document does not begin with %!PS-Adobe, so its PIN or fax "
+                                  "number would not hold; print it by another program");
   output_.Fail(ECANCELED);
 }
 

@@ -2140,6 +2140,10 @@
       <translation>Der Name des Dokuments</translation>
     </message>
     <message>
+      <source>The fax cover sheet was left out</source>
+      <translation>Das Fax-Deckblatt wurde weggelassen</translation>
+    </message>
+    <message>
       <source>The finisher has no way to do this together with what is chosen already.</source>
       <translation>Der Finisher kann dies nicht zusammen mit dem schon Gewählten.</translation>
     </message>
@@ -2744,6 +2748,10 @@
       <translation>möglich ist %1 bis %2</translation>
     </message>
     <message>
+      <source>its fax cover sheet cannot be drawn</source>
+      <translation>sein Fax-Deckblatt kann nicht gezeichnet werden</translation>
+    </message>
+    <message>
       <source>more PJL lines than any job needs</source>
       <translation>mehr PJL-Zeilen, als ein Auftrag braucht</translation>
     </message>
@@ -2770,6 +2778,14 @@
     <message>
       <source>no stock has the code %1; take a known one, or give Width and Length</source>
       <translation>kein Papier hat den Code %1; nehmen Sie einen bekannten, oder geben Sie Breite und Länge an</translation>
+    </message>
+    <message>
+      <source>not a byte of it came: the document has none of these pages (page-ranges, page-set), or a program before this filter failed; choose others, or look what it says</source>
+      <translation>es kam kein einziges Byte: Das Dokument hat keine dieser Seiten (page-ranges, page-set), oder ein Programm vor diesem Filter ist gescheitert; wählen Sie andere Seiten oder sehen Sie nach, was das Programm meldet</translation>
+    </message>
+    <message>
+      <source>not a byte of it came; look for what the programs before this filter say, make room on their disk and send it again</source>
+      <translation>es kam kein einziges Byte; sehen Sie nach, was die Programme vor diesem Filter melden, schaffen Sie Platz auf ihrer Platte und senden Sie ihn noch einmal</translation>
     </message>
     <message>
       <source>not printed</source>
@@ -2860,6 +2876,10 @@
       <translation>das XML-Auftragsticket endet nicht</translation>
     </message>
     <message>
+      <source>the document does not begin with %!PS-Adobe, so its PIN or fax number would not hold; print it by another program</source>
+      <translation>das Dokument beginnt nicht mit %!PS-Adobe, daher würde seine PIN oder Faxnummer nicht gelten; drucken Sie es mit einem anderen Programm</translation>
+    </message>
+    <message>
       <source>the document ends the printer's job before its own end; what follows may be missing on paper; print it by another program</source>
       <translation>das Dokument beendet den Auftrag des Druckers vor seinem eigenen Ende; was folgt, kann auf dem Papier fehlen; drucken Sie es mit einem anderen Programm</translation>
     </message>
@@ -2890,6 +2910,10 @@
     <message>
       <source>the job holds no PostScript</source>
       <translation>der Auftrag enthält kein PostScript</translation>
+    </message>
+    <message>
+      <source>the job was cut short: the document goes on behind its end or an exit from its language, where its PIN or fax number does not hold any more; print it by another program</source>
+      <translation>der Auftrag wurde abgeschnitten: Das Dokument geht hinter seinem Ende oder einem Ausstieg aus seiner Sprache weiter, wo seine PIN oder Faxnummer nicht mehr gilt; drucken Sie es mit einem anderen Programm</translation>
     </message>
     <message>
       <source>the job was not printed</source>

@@ -2140,6 +2140,10 @@
       <translation>Le nom du document</translation>
     </message>
     <message>
+      <source>The fax cover sheet was left out</source>
+      <translation>La page de garde du fax a été omise</translation>
+    </message>
+    <message>
       <source>The finisher has no way to do this together with what is chosen already.</source>
       <translation>Le finisseur ne peut pas faire cela avec ce qui est déjà choisi.</translation>
     </message>
@@ -2744,6 +2748,10 @@
       <translation>il va de %1 à %2</translation>
     </message>
     <message>
+      <source>its fax cover sheet cannot be drawn</source>
+      <translation>sa page de garde de fax ne peut pas être dessinée</translation>
+    </message>
+    <message>
       <source>more PJL lines than any job needs</source>
       <translation>plus de lignes PJL qu’il n’en faut à une tâche</translation>
     </message>
@@ -2770,6 +2778,14 @@
     <message>
       <source>no stock has the code %1; take a known one, or give Width and Length</source>
       <translation>aucun papier n’a le code %1 ; prenez-en un connu, ou donnez Width et Length</translation>
+    </message>
+    <message>
+      <source>not a byte of it came: the document has none of these pages (page-ranges, page-set), or a program before this filter failed; choose others, or look what it says</source>
+      <translation>pas un octet n'en est arrivé : le document n'a aucune de ces pages (page-ranges, page-set), ou un programme avant ce filtre a échoué ; choisissez d'autres pages, ou voyez ce que dit ce programme</translation>
+    </message>
+    <message>
+      <source>not a byte of it came; look for what the programs before this filter say, make room on their disk and send it again</source>
+      <translation>pas un octet n'en est arrivé ; voyez ce que disent les programmes avant ce filtre, faites de la place sur leur disque et renvoyez-le</translation>
     </message>
     <message>
       <source>not printed</source>
@@ -2860,6 +2876,10 @@
       <translation>le ticket XML ne finit pas</translation>
     </message>
     <message>
+      <source>the document does not begin with %!PS-Adobe, so its PIN or fax number would not hold; print it by another program</source>
+      <translation>le document ne commence pas par %!PS-Adobe, son code PIN ou son numéro de fax ne vaudrait donc pas ; imprimez-le avec un autre programme</translation>
+    </message>
+    <message>
       <source>the document ends the printer's job before its own end; what follows may be missing on paper; print it by another program</source>
       <translation>le document termine le travail de l'imprimante avant sa propre fin ; la suite peut manquer sur le papier ; imprimez-le avec un autre programme</translation>
     </message>
@@ -2890,6 +2910,10 @@
     <message>
       <source>the job holds no PostScript</source>
       <translation>le travail ne contient pas de PostScript</translation>
+    </message>
+    <message>
+      <source>the job was cut short: the document goes on behind its end or an exit from its language, where its PIN or fax number does not hold any more; print it by another program</source>
+      <translation>le travail a été coupé : le document continue après sa fin ou après une sortie de son langage, où son code PIN ou son numéro de fax ne vaut plus ; imprimez-le avec un autre programme</translation>
     </message>
     <message>
       <source>the job was not printed</source>

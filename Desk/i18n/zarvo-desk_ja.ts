@@ -2144,6 +2144,10 @@
       <translation>文書の名前</translation>
     </message>
     <message>
+      <source>The fax cover sheet was left out</source>
+      <translation>ファクスの送付状は省かれました</translation>
+    </message>
+    <message>
       <source>The finisher has no way to do this together with what is chosen already.</source>
       <translation>すでに選んだ仕上げと組み合わせることができません。</translation>
     </message>
@@ -2748,6 +2752,10 @@
       <translation>%1～%2 が使えます</translation>
     </message>
     <message>
+      <source>its fax cover sheet cannot be drawn</source>
+      <translation>ファクスの送付状を描画できません</translation>
+    </message>
+    <message>
       <source>more PJL lines than any job needs</source>
       <translation>PJL の行が多すぎます</translation>
     </message>
@@ -2774,6 +2782,14 @@
     <message>
       <source>no stock has the code %1; take a known one, or give Width and Length</source>
       <translation>番号 %1 の用紙はありません。ある番号を使うか、幅と長さを指定してください</translation>
+    </message>
+    <message>
+      <source>not a byte of it came: the document has none of these pages (page-ranges, page-set), or a program before this filter failed; choose others, or look what it says</source>
+      <translation>1 バイトも届きませんでした: 文書にそのページ (page-ranges、page-set) がないか、このフィルターの前のプログラムが失敗しました。別のページを選ぶか、そのプログラムのメッセージを確認してください</translation>
+    </message>
+    <message>
+      <source>not a byte of it came; look for what the programs before this filter say, make room on their disk and send it again</source>
+      <translation>1 バイトも届きませんでした。このフィルターの前のプログラムのメッセージを確認し、そのディスクの空きを増やして、もう一度送信してください</translation>
     </message>
     <message>
       <source>not printed</source>
@@ -2864,6 +2880,10 @@
       <translation>XML チケットの終わりがありません</translation>
     </message>
     <message>
+      <source>the document does not begin with %!PS-Adobe, so its PIN or fax number would not hold; print it by another program</source>
+      <translation>文書が %!PS-Adobe で始まらないため、PIN やファクス番号が有効になりません。別のプログラムから印刷してください</translation>
+    </message>
+    <message>
       <source>the document ends the printer's job before its own end; what follows may be missing on paper; print it by another program</source>
       <translation>文書がその終わりより前にプリンターのジョブを終了させるため、続きが印刷されないことがあります。別のプログラムで印刷してください</translation>
     </message>
@@ -2894,6 +2914,10 @@
     <message>
       <source>the job holds no PostScript</source>
       <translation>ジョブに PostScript がありません</translation>
+    </message>
+    <message>
+      <source>the job was cut short: the document goes on behind its end or an exit from its language, where its PIN or fax number does not hold any more; print it by another program</source>
+      <translation>ジョブは途中で打ち切られました: 文書が終わりまたは言語の終了の後にも続き、そこでは PIN やファクス番号が有効ではありません。別のプログラムから印刷してください</translation>
     </message>
     <message>
       <source>the job was not printed</source>

@@ -35,12 +35,14 @@ constexpr State kStates[] = {
     {"was canceled", QT_TRANSLATE_NOOP("States", "The job was canceled."), true, false},
     {"was printed", QT_TRANSLATE_NOOP("States", "The job was printed."), true, true}};
 
-/// What "zarvo why" says besides; here so that it is translated.
+/// What "zarvo why" says besides, and what stands before a cause; here so that it is translated.
 [[maybe_unused]] constexpr const char* kSaid[] = {
     QT_TRANSLATE_NOOP("States", "the job was not printed"),
     QT_TRANSLATE_NOOP("States", "print it again as the reason says"),
     QT_TRANSLATE_NOOP("States",
-                      "print it again as the reason says, and remove this one: cancel %1")};
+                      "print it again as the reason says, and remove this one: cancel %1"),
+    QT_TRANSLATE_NOOP("States", "its fax cover sheet cannot be drawn"),
+    QT_TRANSLATE_NOOP("States", "The fax cover sheet was left out")};
 
 }  // namespace
 

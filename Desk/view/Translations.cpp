@@ -100,6 +100,10 @@ QString Translations::Tell(const QString& text) const {
     return lines.join('\n');
   }
   if (QString found = ByForm(text, false); !found.isEmpty()) return found;
+  // A sentence behind what it is about is looked up whole before it is cut at its own signs.
+  const qsizetype colon = text.indexOf(": ");
+  if (const QString head = Find(text.left(std::max<qsizetype>(colon, 0))); !head.isEmpty())
+    return head + ": " + Tell(text.mid(colon + 2));
   if (QString found = ByPieces(text); found != text) return found;
   QString found = ByForm(text, true);
   return found.isEmpty() ? text : found;

@@ -241,6 +241,10 @@ void DeskTest::everybody() {
   const QString found = window.findChild<QLabel*>("findings")->text();
   QVERIFY2(found.contains("DelayedPrintTime"), qPrintable(found));
   QCOMPARE(found.contains("a delayed job"), QTest::currentDataTag()[0] == 'e');
+  // So is the reason of a refusal, which stands behind that and has signs of its own.
+  const QString refusal =
+      "the job was not printed: a secure job needs a PIN; give one as JobPIN=Custom.DIGITS (0-9)";
+  QCOMPARE(Localized(refusal).contains("needs a PIN"), QTest::currentDataTag()[0] == 'e');
 }
 
 void DeskTest::watermark_changed_in_place() {
