@@ -312,7 +312,9 @@ void MainWindow::Changed() {
   print_->setEnabled(CanPrint());
   const QString settings =
       ticket_file_.isEmpty() ? QString() : " \u2013 " + QFileInfo(ticket_file_).fileName();
-  setWindowTitle((title_.isEmpty() ? QString() : title_ + settings + " \u2013 ") + "Zarvo Desk[*]");
+  // The mark of changes stands before the name, which is added once more to what does not end so.
+  setWindowTitle((title_.isEmpty() ? QString() : title_ + settings) + "[*]" +
+                 (title_.isEmpty() ? "" : " \u2013 ") + "Zarvo Desk");
   setWindowModified(document_.IsChanged());
   Dictionary printed = document_.ticket();
   const auto has = [this](const char* name) { return document_.ticket().contains(name); };
