@@ -38,6 +38,9 @@ constexpr std::uint64_t Packed(std::string_view name) {
 /// By which a text editor's pages are turned.
 inline constexpr std::string_view kEditorTurn = "sl";
 
+/// By which dvips turns each of its pages clockwise, at their beginning.
+inline constexpr std::string_view kDvipsTurn = "@landscape";
+
 /// Of a word of numerals; what is no number counts as 0.
 double ValueOf(std::string_view number);
 

@@ -270,6 +270,8 @@ class HeadReader {
                name.ends_with("imagemask")) {
       AddPicture();
       SkipPicture();
+    } else if (name == kDvipsTurn) {
+      Rotate(-90);
     }
   }
 
@@ -359,7 +361,10 @@ PageLook LookAtPage(std::string_view head) {
   // Most pages are upright from end to end, and most jobs have hundreds of them. Further on there
   // is enough text for any page.
   constexpr std::size_t kSearched = kPageHead / 2;
-  if (!MayTurn(head.substr(0, kSearched)) && HeadReader(head).IsUpright()) return {0, 0, false};
+  constexpr std::size_t kFirstWords = 256;
+  const bool turned = head.substr(0, kFirstWords).find(kDvipsTurn) != head.npos ||
+                      MayTurn(head.substr(0, kSearched));
+  if (!turned && HeadReader(head).IsUpright()) return {0, 0, false};
   return HeadReader(head).Read();
 }
 

@@ -34,6 +34,7 @@ TEST(PageTurn, FollowsMostOfTheText) {
       {upright + "0 1 -1 0 0 0 cm" + body, 1},
       {upright + "-595 sl " + body, 1},
       {upright + "47 sl " + body, 0},
+      {"TeXDict begin @landscape 1 0 bop -450 -367 a Fi(Quick)27 b(reference)43 b " + body, 3},
       // Back to what was before: the head alone was turned.
       {"q 0 1 -1 0 0 0 cm (a note at the margin) Tj Q " + body, 0},
       // Letters that are pictures, each at a place of its own, upwards.
