@@ -1,6 +1,8 @@
 # The front door; everything else is CMake (see CMakePresets.json).
 .PHONY: corpus build setup demo test bench pictures screenshots install clean format check-format lint asan asan-build fuzz load fleet test-fleet deb test-packages test-debian
 JOBS ?= $(shell nproc)
+# Tests wait for spoolers and time limits much of the time.
+TESTS = $(shell expr $(JOBS) + 1)
 SOURCES = $(shell git ls-files '*.cpp' '*.h')
 
 build:
@@ -18,7 +20,7 @@ demo: setup
 
 test: setup
 	@$(MAKE) --no-print-directory build
-	@ctest --preset release -j $(JOBS)
+	@ctest --preset release -j $(TESTS)
 
 bench: build
 	@cmake --build --preset release --target bench
@@ -47,7 +49,7 @@ corpus: setup
 # The tests once more, every program with the address and undefined-behaviour sanitizers. Tests leave
 # out by themselves what the sanitizers do and the programs forbid: looking into their own process.
 asan: asan-build
-	@ctest --preset asan -j $(JOBS)
+	@ctest --preset asan -j $(TESTS)
 
 asan-build:
 	@cmake --preset asan >/dev/null
