@@ -7,6 +7,7 @@ import os
 import pathlib
 import plistlib
 import re
+import socket
 import subprocess
 import tempfile
 import time
@@ -48,12 +49,15 @@ class HouseTickets(unittest.TestCase):
                 break
             time.sleep(0.1)
 
+    def environment(self):
+        return {"PATH": os.environ["PATH"], "HOME": str(self.folder / "home"), "TZ": "UTC",
+                "ZARVO_APPLICATION_SUPPORT": str(self.folder),
+                "CUPS_SERVER": f"127.0.0.1:{self.cupsd.port}"}  # fmt: skip
+
     def zarvo(self, *arguments, status=0, **environment):
         done = subprocess.run(
             [BIN / "zarvo", *arguments], capture_output=True, text=True, timeout=120,
-            env={"PATH": os.environ["PATH"], "HOME": str(self.folder / "home"), "TZ": "UTC",
-                 "ZARVO_APPLICATION_SUPPORT": str(self.folder),
-                 "CUPS_SERVER": f"127.0.0.1:{self.cupsd.port}", **environment},
+            env={**self.environment(), **environment},
         )  # fmt: skip
         self.assertEqual(done.returncode, status, done.stderr + done.stdout)
         self.errors = done.stderr
@@ -173,6 +177,29 @@ class HouseTickets(unittest.TestCase):
         after = (self.cupsd.root / "ppd/office.ppd").read_text(errors="replace")
         self.assertEqual([line for line in before.splitlines() if line not in after.splitlines()],
                          [line for line in before.splitlines() if re.search(r"HouseTicket[ .]handout|[a-zA-Z] handout/", line)])  # fmt: skip
+
+    def test_publishing_does_not_print_a_job_again(self):
+        """The spooler starts the job that prints anew when its queue gets a PPD."""
+        with socket.create_server(("127.0.0.1", 0)) as printer:
+            printer.settimeout(60)
+            # With "waiteof" the job is under way until the printer hangs up.
+            uri = f"socket://127.0.0.1:{printer.getsockname()[1]}/?snmp=false"
+            self.cupsd.add_queue("slow", PPD, uri)
+            self.cupsd.print("slow", self.document, ["-t", "first"])
+            with printer.accept()[0] as connection:
+                publishing = subprocess.Popen(
+                    [BIN / "zarvo", "ticket", "unpublish", "handout", "-q", "slow"], text=True,
+                    stderr=subprocess.PIPE, env=self.environment())  # fmt: skip
+                self.assertIn("slow: prints a job", publishing.stderr.readline())
+                while connection.recv(1 << 16):
+                    pass
+                self.assertIsNone(publishing.poll())
+            self.assertEqual(publishing.communicate(timeout=60)[1], "")
+            self.assertEqual(publishing.returncode, 0)
+            self.assertNotIn("*HouseTicket handout", (self.cupsd.root / "ppd/slow.ppd").read_text(errors="replace"))
+            self.cupsd.print("slow", self.document, ["-t", "second"])
+            with printer.accept()[0] as connection, connection.makefile("rb") as job:
+                self.assertIn(b"second", job.read())
 
     def filtered(self, options):
         return run_filter(options, b"", self.document, ppd=self.cupsd.root / "ppd/office.ppd",

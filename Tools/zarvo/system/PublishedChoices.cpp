@@ -4,11 +4,14 @@
 #include <algorithm>
 #include <cctype>
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
 #include <cstring>
+#include <thread>
 
 #include "Platform/AtomicFile.h"
 #include "Tools/zarvo/Command.h"
+#include "Tools/zarvo/system/Queues.h"
 #include "Tools/zarvo/system/Run.h"
 
 namespace zarvo::tool {
@@ -109,6 +112,21 @@ std::vector<std::string> Languages(const std::vector<std::string_view>& lines) {
   return languages;
 }
 
+/// The spooler starts a job that is under way again from its first page when its queue gets a PPD,
+/// and what has been printed of it would come twice.
+Failure WaitForPrintedJob(const std::string& queue) {
+  constexpr auto kPause = std::chrono::milliseconds(200);
+  if (!IsPrinting(queue)) return "";
+  Fail(queue, "prints a job; the queue is changed when that is done",
+       "\"cupsdisable --hold " + queue + "\" keeps the next ones until \"cupsenable --release " +
+           queue + "\"");
+  while (IsPrinting(queue)) {
+    if (NotedTermination() != 0) return "not changed";
+    std::this_thread::sleep_for(kPause);
+  }
+  return "";
+}
+
 }  // namespace
 
 Failure PublishChoices(std::string_view ppd, const std::string& option,
@@ -182,6 +200,8 @@ std::string TicketValue(const std::string& value) {
 }
 
 int InstallPpd(const std::string& queue, const std::string& ppd) {
+  if (const Failure failure = WaitForPrintedJob(queue); !failure.empty())
+    return Fail(queue, failure);
   const std::string program = FindProgram("lpadmin");
   if (program.empty())
     return Fail("lpadmin", "is not installed", "Install the package cups-client");

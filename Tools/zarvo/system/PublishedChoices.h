@@ -39,7 +39,8 @@ std::vector<std::string> PublishedLines(std::string_view ppd, const std::string&
 /// A value of a ZRVTicket attribute, in quotes; a double quote would end the attribute.
 std::string TicketValue(const std::string& value);
 
-/// Gives the queue the PPD. An exit status; what failed is told.
+/// Gives the queue the PPD, when no job is under way there: it waits, and says so. An exit status;
+/// what failed is told.
 int InstallPpd(const std::string& queue, const std::string& ppd);
 
 }  // namespace zarvo::tool

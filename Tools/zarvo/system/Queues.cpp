@@ -17,6 +17,23 @@
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
 
 namespace zarvo::tool {
+namespace {
+
+using IppAnswer = std::unique_ptr<ipp_t, decltype(&ippDelete)>;
+
+/// What the spooler says of the queue; null when it does not answer.
+IppAnswer AskQueue(const std::string& queue) {
+  const SpoolerConnection spooler = ConnectToSpooler();
+  if (!spooler) return {nullptr, &ippDelete};
+  char uri[HTTP_MAX_URI];
+  httpAssembleURIf(HTTP_URI_CODING_ALL, uri, sizeof uri, "ipp", nullptr, "localhost", 0,
+                   "/printers/%s", queue.c_str());
+  ipp_t* request = ippNewRequest(IPP_OP_GET_PRINTER_ATTRIBUTES);
+  ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri);
+  return {cupsDoRequest(spooler.get(), request, "/"), &ippDelete};
+}
+
+}  // namespace
 
 Failure QueuePpd::Fetch(const std::string& queue) {
   const SpoolerConnection spooler = ConnectToSpooler();
@@ -76,20 +93,19 @@ std::vector<std::string> OptionWords(const std::string& path, bool values) {
 }
 
 std::string QueueDefault(const std::string& queue, const std::string& option) {
-  const SpoolerConnection spooler = ConnectToSpooler();
-  if (!spooler) return "";
-  char uri[HTTP_MAX_URI];
-  httpAssembleURIf(HTTP_URI_CODING_ALL, uri, sizeof uri, "ipp", nullptr, "localhost", 0,
-                   "/printers/%s", queue.c_str());
-  ipp_t* request = ippNewRequest(IPP_OP_GET_PRINTER_ATTRIBUTES);
-  ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri);
   const std::string name = option + "-default";
-  const std::unique_ptr<ipp_t, decltype(&ippDelete)> answer(
-      cupsDoRequest(spooler.get(), request, "/"), &ippDelete);
+  const IppAnswer answer = AskQueue(queue);
   ipp_attribute_t* attribute =
       answer ? ippFindAttribute(answer.get(), name.c_str(), IPP_TAG_ZERO) : nullptr;
   const char* value = attribute != nullptr ? ippGetString(attribute, 0, nullptr) : nullptr;
   return value != nullptr ? value : "";
+}
+
+bool IsPrinting(const std::string& queue) {
+  const IppAnswer answer = AskQueue(queue);
+  ipp_attribute_t* attribute =
+      answer ? ippFindAttribute(answer.get(), "printer-state", IPP_TAG_ENUM) : nullptr;
+  return attribute != nullptr && ippGetInteger(attribute, 0) == IPP_PSTATE_PROCESSING;
 }
 
 bool IsSaid(std::string_view option, const std::function<bool(const char*)>& has) {

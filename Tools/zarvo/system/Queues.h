@@ -51,6 +51,9 @@ inline constexpr const char* kBestRenderer = "pdftops";
 /// The queue's own default of an option, or an empty text when it has none.
 std::string QueueDefault(const std::string& queue, const std::string& option);
 
+/// Whether the queue has a job under way; false also when the spooler does not answer.
+bool IsPrinting(const std::string& queue);
+
 /// Whether settings say already what an option is about, under its name or the one that the PPD or
 /// the spooler has for the same: what a user keeps for a queue goes below it. `has` tells whether
 /// they have an option of that name.
